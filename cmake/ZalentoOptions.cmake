@@ -1,0 +1,25 @@
+# Options of the build. Everything beside the library is on only when this is the top-level
+# project, so that a host that adds the checkout as a subdirectory builds the library alone.
+
+option(BUILD_SHARED_LIBS "Build shared libraries" ON)
+option(ZALENTO_BUILD_APPS "Build the viewer, the command-line program and the tools"
+       ${PROJECT_IS_TOP_LEVEL})
+option(ZALENTO_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
+option(ZALENTO_BUILD_BENCHMARKS "Build the benchmarks" ${PROJECT_IS_TOP_LEVEL})
+option(ZALENTO_INSTALL "Install the library, the QML module and the programs"
+       ${PROJECT_IS_TOP_LEVEL})
+option(ZALENTO_ASSERTIONS "Check the standard library's preconditions at run time" OFF)
+set(ZALENTO_SANITIZE "" CACHE STRING "Sanitizers for -fsanitize=, comma separated")
+set(ZALENTO_HOST_TARGET "" CACHE STRING
+    "Target that offers the drevon/ headers; empty builds the stand-in")
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+if(PROJECT_IS_TOP_LEVEL)
+  set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+  set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+  set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+  set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+endif()
