@@ -1,0 +1,34 @@
+# shellcheck shell=bash
+# For sourcing: the build steps that run.sh and test.sh share. The caller stands in the root of the tree.
+
+# The jobs that fit: one a processor, and none that has to live with less than a gigabyte of memory.
+job_count() {
+    jobs=$(nproc)
+    gigabytes=$(awk '/^MemAvailable/ { print int($2 / 1048576) }' /proc/meminfo)
+    [ "$gigabytes" -ge "$jobs" ] || jobs=$gigabytes
+    [ "$jobs" -ge 1 ] || jobs=1
+    echo "$jobs"
+}
+
+# configure <preset>: only when that was not done since the presets changed; what else the build
+# depends on, the build looks after itself.
+configure() {
+    stamp=build/$1/configured
+    if [ ! -f "build/$1/build.ninja" ] || [ ! -f "$stamp" ] || [ CMakePresets.json -nt "$stamp" ]; then
+        rm -f "$stamp"
+        cmake --preset "$1" --log-level=WARNING || return
+        touch "$stamp"
+    fi
+}
+
+# build <preset>: a line a step on a terminal; elsewhere the compiler's messages alone.
+build() {
+    quiet=
+    [ -t 1 ] || quiet=--quiet
+    # shellcheck disable=SC2086  # an empty option must vanish
+    cmake --build --preset "$1" --parallel "$(job_count)" -- $quiet
+}
+
+if command -v ccache >/dev/null; then
+    export CMAKE_CXX_COMPILER_LAUNCHER="${CMAKE_CXX_COMPILER_LAUNCHER-ccache}"
+fi

@@ -1,0 +1,86 @@
+#!/usr/bin/env bash
+# Sets up the machine, builds, and passes every test.
+set -eu
+cd "$(dirname "$0")"
+
+usage() {
+    cat <<END
+Usage: ./test.sh [--quick] [--target TARGET] [--help]
+
+Installs what is missing, builds everything, and runs every test: as developers build it (dev), then
+with checks for memory errors and undefined behaviour (asan), then with checks for data races (tsan).
+Ends with CTest's own summaries, that of dev last. Fails when a step or a test fails.
+
+  --quick           the first of the three only
+  --target TARGET   armhf or arm64: cross-build, and run the unit tests and the command-line program in
+                    an emulator. Makes build/sysroot-TARGET once, from this machine's package mirror.
+  --help            this text
+END
+}
+
+refuse() {
+    echo "test.sh: $*" >&2
+    usage >&2
+    exit 2
+}
+
+quick=no
+target=
+while [ $# -gt 0 ]; do
+    case $1 in
+        --quick) quick=yes ;;
+        --target)
+            [ $# -ge 2 ] || refuse "--target needs a value"
+            target=$2
+            shift
+            ;;
+        --target=*) target=${1#--target=} ;;
+        --help | -h)
+            usage
+            exit 0
+            ;;
+        *) refuse "unknown option: $1" ;;
+    esac
+    shift
+done
+case $target in
+    '' | armhf | arm64) ;;
+    *) refuse "unknown target: $target" ;;
+esac
+
+. scripts/build.sh
+
+stage() {
+    printf '\n==> %s\n' "$*"
+}
+
+# run_stage <preset> <title>: configures, builds and tests; keeps CTest's closing lines for the end.
+run_stage() {
+    stage "$2: build"
+    configure "$1"
+    build "$1"
+    stage "$2: tests"
+    ctest --preset "$1" --parallel "$(job_count)" --output-log "build/$1/tests.log"
+    summaries="
+$2:
+$(sed -n '/% tests passed,/,$p' "build/$1/tests.log")
+$summaries"
+}
+
+summaries=
+stage "Packages"
+scripts/setup.sh build test ${target:+"$target"}
+
+if [ -n "$target" ]; then
+    scripts/make-sysroot.sh "$target"
+    run_stage "$target" "Cross-built for $target, emulated"
+else
+    run_stage dev "Development build"
+    if [ "$quick" = no ]; then
+        run_stage asan "Memory and undefined behaviour"
+        run_stage tsan "Data races"
+    fi
+fi
+
+stage "All passed in $((SECONDS / 60)) min $((SECONDS % 60)) s"
+echo "$summaries"
