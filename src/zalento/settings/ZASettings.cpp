@@ -1,0 +1,83 @@
+#include "zalento/settings/ZASettings.h"
+
+#include <QVariant>
+
+#include <array>
+
+namespace Drevon::Zalento {
+
+namespace {
+
+// Content of the unit key; any other text means imperial.
+const QLatin1String metricText("m");
+const QLatin1String imperialText("ft");
+
+struct ColorKey
+{
+    QLatin1String key;
+    QColor ZASettings::*field;
+    QColor fallback;
+};
+
+// In the order of the fields.
+std::array<ColorKey, 6> colorKeys()
+{
+    return {{{QLatin1String("colBackground"), &ZASettings::colBackground, Qt::black},
+             {QLatin1String("colMeasures"), &ZASettings::colMeasures, Qt::cyan},
+             {QLatin1String("colCylinder1"), &ZASettings::colCylinder1, Qt::green},
+             {QLatin1String("colCylinder2"), &ZASettings::colCylinder2, Qt::yellow},
+             {QLatin1String("colHour"), &ZASettings::colHour, ZASettings::sOrange},
+             {QLatin1String("colCamHeight"), &ZASettings::colCamHeight, ZASettings::sOrange}}};
+}
+
+void loadFont(const QSettings &settings, const QString &key, QFont &font)
+{
+    font.fromString(settings.value(key, font).toString());
+}
+
+// Six decimals and '.', as the store has always held them.
+QString lengthText(double mm)
+{
+    return QString::number(mm, 'f', 6);
+}
+
+} // namespace
+
+const QString ZASettings::sConfigGroup = QStringLiteral("Preferences");
+const QColor ZASettings::sOrange(255, 165, 0, 255);
+
+void ZASettings::Load(QSettings &settings)
+{
+    settings.beginGroup(sConfigGroup);
+    pipeDiameterMM = settings.value(QStringLiteral("pipeDiameterMM"), 300).toInt();
+    loadFont(settings, QStringLiteral("fontSmall"), fontSmall);
+    loadFont(settings, QStringLiteral("fontLarge"), fontLarge);
+    for (const ColorKey &color : colorKeys()) {
+        this->*color.field = settings.value(color.key, color.fallback).value<QColor>();
+    }
+    const QString unit = settings.value(QStringLiteral("MeasureUnit"), metricText).toString();
+    MeasureUnit = unit == metricText ? Drevon::Zalento::MeasureUnit::Metric
+                                     : Drevon::Zalento::MeasureUnit::Imperial;
+    fovYDEG = settings.value(QStringLiteral("fovYDEG"), 37.5).toDouble();
+    fovYDistanceMM = settings.value(QStringLiteral("fovYDistanceMM"), 322).toDouble();
+    fovYHeightMM = settings.value(QStringLiteral("fovYHeightMM"), 300).toDouble();
+    settings.endGroup();
+}
+
+void ZASettings::Save(QSettings &settings) const
+{
+    settings.beginGroup(sConfigGroup);
+    settings.setValue(QStringLiteral("pipeDiameterMM"), pipeDiameterMM);
+    settings.setValue(QStringLiteral("fontSmall"), fontSmall.toString());
+    settings.setValue(QStringLiteral("fontLarge"), fontLarge.toString());
+    for (const ColorKey &color : colorKeys()) {
+        settings.setValue(color.key, this->*color.field);
+    }
+    const bool isMetric = MeasureUnit == Drevon::Zalento::MeasureUnit::Metric;
+    settings.setValue(QStringLiteral("MeasureUnit"), isMetric ? metricText : imperialText);
+    settings.setValue(QStringLiteral("fovYDistanceMM"), lengthText(fovYDistanceMM));
+    settings.setValue(QStringLiteral("fovYHeightMM"), lengthText(fovYHeightMM));
+    settings.endGroup();
+}
+
+} // namespace Drevon::Zalento
