@@ -2,8 +2,7 @@
 
 #include <utility>
 
-namespace Drevon
-{
+namespace Drevon {
 
 AppState *AppState::instance()
 {

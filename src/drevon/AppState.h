@@ -6,8 +6,7 @@
 #include <QObject>
 #include <QSharedPointer>
 
-namespace Drevon
-{
+namespace Drevon {
 
 /** State of the host application that all its parts share. GUI thread only. */
 class DREVON_EXPORT AppState : public QObject
@@ -28,8 +27,7 @@ public:
     void setActiveStructure(QSharedPointer<Database::CDomainObject> structure);
 
 Q_SIGNALS:
-    void activeStructureChanged(
-        const QSharedPointer<Drevon::Database::CDomainObject> &structure);
+    void activeStructureChanged(const QSharedPointer<Drevon::Database::CDomainObject> &structure);
 
 private:
     AppState() = default;

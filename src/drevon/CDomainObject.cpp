@@ -1,7 +1,6 @@
 #include "drevon/CDomainObject.h"
 
-namespace Drevon::Database
-{
+namespace Drevon::Database {
 
 QVariant CDomainObject::readValue(const QString &field) const
 {

@@ -6,8 +6,7 @@
 #include <QString>
 #include <QVariant>
 
-namespace Drevon::Database
-{
+namespace Drevon::Database {
 
 /** A record of the host's inspection database: named fields with values of any type. */
 class DREVON_EXPORT CDomainObject

@@ -2,11 +2,9 @@
 
 #include <QHash>
 
-namespace Drevon::Shared
-{
+namespace Drevon::Shared {
 
-namespace
-{
+namespace {
 
 QHash<QString, QString> &columnUnits()
 {

@@ -4,8 +4,7 @@
 
 #include <QString>
 
-namespace Drevon::Shared
-{
+namespace Drevon::Shared {
 
 /** What the host knows of units and languages. GUI thread only. */
 class DREVON_EXPORT CLocaleSupport

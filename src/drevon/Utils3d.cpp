@@ -1,7 +1,6 @@
 #include "drevon/Utils3d.h"
 
-namespace Drevon::View3d
-{
+namespace Drevon::View3d {
 
 bool Utils3d::rayPlaneIntersection(const QVector3D &origin, const QVector3D &direction,
                                    QVector3D &out, const QVector3D &planePoint,

@@ -4,8 +4,7 @@
 
 #include <QVector3D>
 
-namespace Drevon::View3d
-{
+namespace Drevon::View3d {
 
 /** The host's geometry helpers, in single precision. */
 class DREVON_EXPORT Utils3d

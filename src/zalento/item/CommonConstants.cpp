@@ -1,0 +1,2 @@
+// Gives the meta-object a home.
+#include "zalento/item/CommonConstants.h"
