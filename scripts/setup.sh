@@ -45,11 +45,11 @@ missing_packages() {
 root_prefix() {
     if [ "$(id -u)" -eq 0 ]; then
         echo ''
-    elif command -v sudo >/dev/null; then
+    elif command -v sudo >/dev/null && sudo true; then
         echo sudo
     else
-        fail "these packages are missing and installing needs root, but you are $(id -un) and there is no sudo:
-  $missing
+        fail "these packages are missing and installing needs root, but you are $(id -un) and there is no
+sudo that would let you: $missing
 Ask an administrator to run: apt-get install $missing"
     fi
 }
