@@ -34,10 +34,13 @@ if [ -z "$sources" ]; then
     exit 1
 fi
 
+mode=root
+[ "$(id -u)" -eq 0 ] || mode=chrootless
+
 echo "make-sysroot: extracting the $arch packages into $sysroot"
 mkdir -p build
 rm -rf "$sysroot"
-if ! echo "$sources" | mmdebstrap --variant=extract --architectures="$arch" \
+if ! echo "$sources" | mmdebstrap --mode=$mode --variant=extract --architectures="$arch" \
     --include="$(sed 's/#.*//' "$list" | xargs | tr ' ' ,)" '' "$sysroot" - >"$log" 2>&1; then
     tail -n 15 "$log" >&2
     rm -rf "$sysroot"
