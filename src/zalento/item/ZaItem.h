@@ -103,6 +103,9 @@ public:
     /** Paints the object on view and, with it, computes its measures. */
     void paint(QPainter *painter) override;
 
+    /** Lays out the drawing area: the largest centred square. */
+    void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+
     void setMeasureSettings(MeasureMentSettings measureSettings);
     /** The pipe object on view. */
     PipeBase &getCurrentViewObject();
@@ -185,9 +188,6 @@ public:
     Q_INVOKABLE QString xxx();
     /** Takes the diameter that all items share. */
     Q_INVOKABLE void refreshMainPipeDiameter();
-
-protected:
-    void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
     template <typename Operation>

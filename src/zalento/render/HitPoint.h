@@ -23,7 +23,8 @@ struct ZALENTO_EXPORT HitPoint
     /** Drawn with an additional ring. */
     bool isHighlighted = false;
 
-    explicit HitPoint(const Vec3 &scenePosition)
+    // Implicit: a list of positions is a list of points.
+    HitPoint(const Vec3 &scenePosition)
         : position(scenePosition)
     {}
 
