@@ -36,9 +36,9 @@ class Cylinder;
  *
  * Mirrored: the eye stands at positive z and looks towards #center, far along +z, while the pipe
  * lies on the other side of it. Its points get a negative w, so the division draws them mirrored
- * through the projection centre: scene (0, -r) appears at the bottom and scene (-r, 0) at the
- * right, just as somebody sees it who looks into the pipe. There is no clipping and no near-plane
- * test.
+ * through the projection centre. #up points down and turns y upright again, x stays mirrored:
+ * scene (0, -r) appears at the bottom and scene (-r, 0) at the right. There is no clipping and no
+ * near-plane test.
  *
  * The camera is used on one thread at a time: the GUI thread, or the render thread while the GUI
  * thread is blocked.
