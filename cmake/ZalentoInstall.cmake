@@ -17,6 +17,17 @@ if(NOT ZALENTO_HOST_TARGET)
   install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/drevon" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
     FILES_MATCHING PATTERN "*.h")
 endif()
+
+# The QML module. Qt finds it where its own modules lie in a system prefix; elsewhere the folder
+# goes into QML2_IMPORT_PATH. It finds the library from wherever the tree has been moved to.
+set(qml_module_dir "${CMAKE_INSTALL_LIBDIR}/qt5/qml/Drevon/Zalento")
+install(TARGETS zalentoplugin LIBRARY DESTINATION "${qml_module_dir}")
+install(FILES "${PROJECT_SOURCE_DIR}/qml/qmldir" "${PROJECT_SOURCE_DIR}/qml/plugins.qmltypes"
+  DESTINATION "${qml_module_dir}")
+file(RELATIVE_PATH module_to_libraries "/${qml_module_dir}" "/${CMAKE_INSTALL_LIBDIR}")
+set_target_properties(zalentoplugin PROPERTIES INSTALL_RPATH "$ORIGIN/${module_to_libraries}")
+set_target_properties(${installed_targets} PROPERTIES INSTALL_RPATH "$ORIGIN")
+
 install(EXPORT ZalentoTargets NAMESPACE Zalento:: DESTINATION "${package_dir}")
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/ZalentoConfig.cmake.in"

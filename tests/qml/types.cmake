@@ -1,0 +1,10 @@
+# plugins.qmltypes, which editors read, describes the module that is built.
+set(fresh "${CMAKE_CURRENT_BINARY_DIR}/plugins.qmltypes.fresh")
+execute_process(
+  COMMAND "${QMLPLUGINDUMP}" -notrelocatable Drevon.Zalento 1.0 .
+  WORKING_DIRECTORY "${IMPORT_PATH}" OUTPUT_FILE "${fresh}" COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND "${CMAKE_COMMAND}" -E compare_files "${COMMITTED}" "${fresh}"
+  RESULT_VARIABLE differs)
+if(differs)
+  message(FATAL_ERROR "${COMMITTED} is out of date; copy ${fresh} over it")
+endif()
