@@ -1,0 +1,252 @@
+#include "support/PaintRecorder.h"
+
+#include <QLocale>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+#include <algorithm>
+
+namespace Drevon::Zalento::Test {
+
+namespace {
+
+constexpr int dotsPerInch = 96;
+constexpr int bitsPerPixel = 32;
+constexpr double mmPerInch = 25.4;
+
+using Kind = PaintCall::Kind;
+
+// Shortest text that reads back as the same number.
+QString numberText(double value)
+{
+    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+}
+
+const char *kindText(Kind kind)
+{
+    static const char *const names[] = {
+        "LinesInt",     "LinesFloat",   "PolylineInt", "PolylineFloat", "PolygonInt",
+        "PolygonFloat", "PointsInt",    "PointsFloat", "RectsInt",      "RectsFloat",
+        "EllipseInt",   "EllipseFloat", "Path",        "Text",          "Image"};
+    return names[static_cast<int>(kind)];
+}
+
+QString capText(Qt::PenCapStyle cap)
+{
+    return cap == Qt::FlatCap ? "flat" : cap == Qt::SquareCap ? "square" : "round";
+}
+
+QString joinText(Qt::PenJoinStyle join)
+{
+    return join == Qt::BevelJoin ? "bevel" : join == Qt::RoundJoin ? "round" : "miter";
+}
+
+QVector<QPointF> rectPoints(const QRectF &rect)
+{
+    return {rect.topLeft(), QPointF(rect.width(), rect.height())};
+}
+
+} // namespace
+
+QString penText(const QPen &pen)
+{
+    if (pen.style() == Qt::NoPen)
+        return "none";
+    const QString text = QString("%1 %2 %3 %4")
+                             .arg(pen.color().name(QColor::HexArgb), numberText(pen.widthF()),
+                                  capText(pen.capStyle()), joinText(pen.joinStyle()));
+    return pen.style() == Qt::SolidLine ? text : text + QString(" style %1").arg(pen.style());
+}
+
+QString PaintCall::shape() const
+{
+    QString result = kindText(kind);
+    for (const QPointF &point : points)
+        result += QString(" (%1, %2)").arg(numberText(point.x()), numberText(point.y()));
+    return kind == Kind::Text ? result + " \"" + text + '"' : result;
+}
+
+QString PaintCall::toString() const
+{
+    QString result = shape() + " pen " + penText(pen);
+    if (brush.style() != Qt::NoBrush)
+        result += " brush " + brush.color().name(QColor::HexArgb);
+    if (antialiased)
+        result += " antialiased";
+    if (clipped)
+        result += " clipped";
+    return transform.isIdentity() ? result : result + " transformed";
+}
+
+class PaintRecorder::Engine : public QPaintEngine
+{
+public:
+    explicit Engine(QVector<PaintCall> &target)
+        : QPaintEngine(QPaintEngine::AllFeatures)
+        , m_target(target)
+    {}
+
+    bool begin(QPaintDevice *) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState &) override {}
+    Type type() const override { return QPaintEngine::User; }
+
+    void drawLines(const QLine *lines, int count) override
+    {
+        add(Kind::LinesInt, linePoints(lines, count));
+    }
+    void drawLines(const QLineF *lines, int count) override
+    {
+        add(Kind::LinesFloat, linePoints(lines, count));
+    }
+    void drawPoints(const QPoint *points, int count) override
+    {
+        add(Kind::PointsInt, polygon(points, count));
+    }
+    void drawPoints(const QPointF *points, int count) override
+    {
+        add(Kind::PointsFloat, polygon(points, count));
+    }
+    void drawPolygon(const QPoint *points, int count, PolygonDrawMode mode) override
+    {
+        add(mode == PolylineMode ? Kind::PolylineInt : Kind::PolygonInt, polygon(points, count));
+    }
+    void drawPolygon(const QPointF *points, int count, PolygonDrawMode mode) override
+    {
+        add(mode == PolylineMode ? Kind::PolylineFloat : Kind::PolygonFloat,
+            polygon(points, count));
+    }
+    void drawRects(const QRect *rects, int count) override
+    {
+        for (int i = 0; i < count; ++i)
+            add(Kind::RectsInt, rectPoints(rects[i]));
+    }
+    void drawRects(const QRectF *rects, int count) override
+    {
+        for (int i = 0; i < count; ++i)
+            add(Kind::RectsFloat, rectPoints(rects[i]));
+    }
+    void drawEllipse(const QRect &rect) override { add(Kind::EllipseInt, rectPoints(rect)); }
+    void drawEllipse(const QRectF &rect) override { add(Kind::EllipseFloat, rectPoints(rect)); }
+    void drawPath(const QPainterPath &path) override
+    {
+        QVector<QPointF> points;
+        for (int i = 0; i < path.elementCount(); ++i)
+            points.append(path.elementAt(i));
+        add(Kind::Path, points);
+    }
+    void drawTextItem(const QPointF &position, const QTextItem &item) override
+    {
+        add(Kind::Text, QVector<QPointF>{position}).text = item.text();
+    }
+    void drawPixmap(const QRectF &rect, const QPixmap &, const QRectF &) override
+    {
+        add(Kind::Image, rectPoints(rect));
+    }
+    void drawImage(const QRectF &rect, const QImage &, const QRectF &,
+                   Qt::ImageConversionFlags) override
+    {
+        add(Kind::Image, rectPoints(rect));
+    }
+
+private:
+    template <class Line>
+    static QVector<QPointF> linePoints(const Line *lines, int count)
+    {
+        QVector<QPointF> points;
+        for (int i = 0; i < count; ++i)
+            points << lines[i].p1() << lines[i].p2();
+        return points;
+    }
+
+    template <class Point>
+    static QVector<QPointF> polygon(const Point *points, int count)
+    {
+        QVector<QPointF> result;
+        std::copy(points, points + count, std::back_inserter(result));
+        return result;
+    }
+
+    PaintCall &add(Kind kind, const QVector<QPointF> &points)
+    {
+        PaintCall call;
+        call.kind = kind;
+        call.points = points;
+        call.pen = painter()->pen();
+        call.brush = painter()->brush();
+        call.font = painter()->font();
+        call.transform = painter()->transform();
+        call.antialiased = painter()->testRenderHint(QPainter::Antialiasing);
+        call.clipped = painter()->hasClipping();
+        m_target.append(call);
+        return m_target.last();
+    }
+
+    QVector<PaintCall> &m_target;
+};
+
+PaintRecorder::PaintRecorder(const QSize &size)
+    : m_size(size)
+    , m_engine(std::make_unique<Engine>(m_calls))
+{}
+
+PaintRecorder::~PaintRecorder() = default;
+
+QVector<PaintCall> PaintRecorder::calls(PaintCall::Kind kind) const
+{
+    QVector<PaintCall> result;
+    std::copy_if(m_calls.begin(), m_calls.end(), std::back_inserter(result),
+                 [kind](const PaintCall &call) { return call.kind == kind; });
+    return result;
+}
+
+QStringList PaintRecorder::log() const
+{
+    QStringList lines;
+    for (const PaintCall &call : m_calls)
+        lines.append(call.toString());
+    return lines;
+}
+
+QStringList PaintRecorder::shapes() const
+{
+    QStringList lines;
+    for (const PaintCall &call : m_calls)
+        lines.append(call.shape());
+    return lines;
+}
+
+QPaintEngine *PaintRecorder::paintEngine() const
+{
+    return m_engine.get();
+}
+
+int PaintRecorder::metric(PaintDeviceMetric metric) const
+{
+    switch (metric) {
+    case PdmWidth:
+        return m_size.width();
+    case PdmHeight:
+        return m_size.height();
+    case PdmWidthMM:
+        return qRound(m_size.width() * mmPerInch / dotsPerInch);
+    case PdmHeightMM:
+        return qRound(m_size.height() * mmPerInch / dotsPerInch);
+    case PdmDpiX:
+    case PdmDpiY:
+    case PdmPhysicalDpiX:
+    case PdmPhysicalDpiY:
+        return dotsPerInch;
+    case PdmDepth:
+        return bitsPerPixel;
+    case PdmNumColors:
+        return 0; // no palette
+    case PdmDevicePixelRatio:
+        return 1;
+    case PdmDevicePixelRatioScaled:
+        return qRound(devicePixelRatioFScale());
+    }
+    return 0;
+}
+
+} // namespace Drevon::Zalento::Test
