@@ -16,7 +16,11 @@ configure() {
     stamp=build/$1/configured
     if [ ! -f "build/$1/build.ninja" ] || [ ! -f "$stamp" ] || [ CMakePresets.json -nt "$stamp" ]; then
         rm -f "$stamp"
-        cmake --preset "$1" --log-level=WARNING || return
+        mkdir -p "build/$1"
+        if ! cmake --preset "$1" >"build/$1/configure.log" 2>&1; then
+            cat "build/$1/configure.log" >&2
+            return 1
+        fi
         touch "$stamp"
     fi
 }
