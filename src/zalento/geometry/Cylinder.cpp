@@ -186,8 +186,10 @@ void Cylinder::setWaterLevelStartAndEnd()
         return;
     }
     const double wetAngle = circleSegmentAngleRAD(waterLevelPercent, diameterM);
-    // A wet angle that is not a number counts as no water.
-    const int wetSegments = roundTo<int>(0.5 * wetAngle / segmentAngleRAD());
+    // A wet angle that is not a number counts as no water; that of a negative diameter is negative,
+    // or more than a full turn.
+    const int wetSegments =
+        std::clamp(roundTo<int>(0.5 * wetAngle / segmentAngleRAD()), 0, segmentCount);
     for (std::size_t i = 0; i < vertices.size(); ++i) {
         waterLevelStart[i] = wetSegments;
         waterLevelEnd[i] = segmentCount - wetSegments;

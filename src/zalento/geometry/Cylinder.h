@@ -22,8 +22,8 @@ namespace Drevon::Zalento {
  * vertex 0 is drawn at the bottom of the picture, 90 at the right, 180 at the top, 270 at the
  * left. Water lies around vertex 0.
  *
- * Any diameter is accepted. One of 0 leaves a single ring without extent, on which every pick
- * misses; one that is not finite makes every vertex so.
+ * Any diameter is accepted. One of 0 leaves a single ring; one that is not finite makes every
+ * vertex so. On both, and on a negative one, every pick misses.
  */
 class ZALENTO_EXPORT Cylinder
 {

@@ -175,9 +175,10 @@ bool Cylinder::intersectPlaneRay(QPoint pixel, const MiniGL &camera, Vec3 &hitPo
     return true;
 }
 
+// Sizes whose squares underflow are too small to compute with.
 bool Cylinder::hasExtent() const
 {
-    return lengthM != 0.0 && radiusM != 0.0;
+    return radiusM > 0.0 && radiusSquared > 0.0 && lengthSquared > 0.0;
 }
 
 } // namespace Drevon::Zalento
