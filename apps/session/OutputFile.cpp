@@ -1,0 +1,23 @@
+#include "session/OutputFile.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace Drevon::Zalento::Apps {
+
+QString writeFile(const QString &path, const QByteArray &content, Overwrite overwrite)
+{
+    const QFileInfo existing(path);
+    // A symbolic link that leads nowhere is something of the user's, too.
+    if (overwrite == Overwrite::Refuse && (existing.exists() || existing.isSymLink())) {
+        return QStringLiteral("%1 exists already and was left as it is").arg(path);
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
+        !file.commit()) {
+        return QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString());
+    }
+    return {};
+}
+
+} // namespace Drevon::Zalento::Apps

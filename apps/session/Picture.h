@@ -1,0 +1,28 @@
+#pragma once
+
+#include "session/Session.h"
+
+#include <QImage>
+#include <QString>
+
+#include <optional>
+
+namespace Drevon::Zalento::Apps {
+
+/** A picture from inside a pipe. */
+struct Picture
+{
+    QImage image;             ///< upright: the orientation stored in the file is applied
+    PictureIdentity identity; ///< its path is the one it was loaded from
+};
+
+/** More pixels than any inspection camera has; such a file is refused before it is decoded. */
+constexpr qint64 largestPictureMegapixels = 200;
+
+/**
+ * Loads a picture.
+ * @param problem on failure: what is wrong, naming the file
+ */
+std::optional<Picture> loadPicture(const QString &path, QString &problem);
+
+} // namespace Drevon::Zalento::Apps

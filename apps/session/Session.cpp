@@ -1,0 +1,211 @@
+#include "session/Session.h"
+
+#include "session/MeasurementKind.h"
+
+#include <QStringList>
+
+#include <cmath>
+#include <tuple>
+
+namespace Drevon::Zalento::Apps {
+
+namespace {
+
+// Far more than any pipe, and small enough for every computation to stay finite.
+constexpr double smallestDiameterMM = 1.0;
+constexpr double largestDiameterMM = 1e5;
+// Of gesture units: many diameters away from the picture.
+constexpr double largestShift = 1e5;
+constexpr double largestRollDEG = 3600.0;
+// Of the field of view: beyond, the picture of a pinhole camera is all distortion.
+constexpr double smallestFovDEG = 1.0;
+constexpr double largestFovDEG = 170.0;
+
+template <typename Value>
+struct Choice
+{
+    const char *name;
+    Value value;
+};
+
+constexpr Choice<MeasureUnit> units[] = {{"metric", MeasureUnit::Metric},
+                                         {"imperial", MeasureUnit::Imperial}};
+constexpr Choice<bool> directions[] = {{"downstream", true}, {"upstream", false}};
+constexpr Choice<ViewStyle> viewStyles[] = {
+    {"measure", ViewStyle::MeasureOnly}, {"ends", ViewStyle::Ends}, {"full", ViewStyle::Full}};
+
+template <typename Value, std::size_t count>
+QString nameIn(const Choice<Value> (&choices)[count], Value value)
+{
+    for (const auto &choice : choices) {
+        if (choice.value == value) {
+            return QLatin1String(choice.name);
+        }
+    }
+    return {};
+}
+
+template <typename Value, std::size_t count>
+std::optional<Value> valueIn(const Choice<Value> (&choices)[count], const QString &name)
+{
+    for (const auto &choice : choices) {
+        if (name == QLatin1String(choice.name)) {
+            return choice.value;
+        }
+    }
+    return std::nullopt;
+}
+
+bool sameVector(const std::optional<Vec3> &a, const std::optional<Vec3> &b)
+{
+    if (!a || !b) {
+        return !a && !b;
+    }
+    return a->x == b->x && a->y == b->y && a->z == b->z;
+}
+
+// QPointF compares with a tolerance.
+bool samePoint(const QPointF &a, const QPointF &b)
+{
+    return std::make_tuple(a.x(), a.y()) == std::make_tuple(b.x(), b.y());
+}
+
+auto choicesOf(const Session &s)
+{
+    return std::tie(s.kind, s.unit, s.rearCircleActive, s.clockDEG, s.viewDownstream, s.jointShown,
+                    s.viewStyle, s.calibrationText, s.mmPerPixel, s.schemaMinor);
+}
+
+QString kindProblem(const QString &kind)
+{
+    if (findMeasurementKind(kind)) {
+        return {};
+    }
+    QStringList names;
+    for (const MeasurementKind &known : measurementKinds()) {
+        names += known.name;
+    }
+    return QStringLiteral("kind: expected one of %1, found \"%2\"")
+        .arg(names.join(QStringLiteral(", ")), kind);
+}
+
+QString pointProblem(const SessionPoint &point, int index)
+{
+    const Vec3 position = point.position.value_or(Vec3());
+    const double numbers[] = {point.pixel.x(), point.pixel.y(), position.x, position.y, position.z};
+    for (const double number : numbers) {
+        if (!std::isfinite(number)) {
+            return QStringLiteral("points[%1]: expected finite numbers").arg(index);
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+bool operator==(const PictureIdentity &a, const PictureIdentity &b)
+{
+    return std::tie(a.path, a.size, a.sha256, a.unknownFields) ==
+           std::tie(b.path, b.size, b.sha256, b.unknownFields);
+}
+
+bool operator==(const SessionPoint &a, const SessionPoint &b)
+{
+    return samePoint(a.pixel, b.pixel) && sameVector(a.position, b.position) &&
+           a.unknownFields == b.unknownFields;
+}
+
+bool operator==(const Session &a, const Session &b)
+{
+    for (const SessionNumber &number : sessionNumbers()) {
+        if (a.*number.member != b.*number.member) {
+            return false;
+        }
+    }
+    return choicesOf(a) == choicesOf(b) && a.picture == b.picture && a.points == b.points &&
+           a.unknownFields == b.unknownFields;
+}
+
+const QVector<SessionNumber> &sessionNumbers()
+{
+    static const QVector<SessionNumber> numbers{
+        {"diameterMM", &Session::diameterMM, smallestDiameterMM, largestDiameterMM},
+        {"offset", &Session::offset, -largestShift, largestShift},
+        {"rollDEG", &Session::rollDEG, -largestRollDEG, largestRollDEG},
+        {"cameraHeightPercent", &Session::cameraHeightPercent, 0.0, 100.0},
+        {"fovYDEG", &Session::fovYDEG, smallestFovDEG, largestFovDEG},
+        {"rearCircleX", &Session::rearCircleX, -largestShift, largestShift},
+        {"rearCircleY", &Session::rearCircleY, -largestShift, largestShift},
+        {"percentage", &Session::percentage, 0.0, 100.0},
+        {"angleDEG", &Session::angleDEG, 0.0, 180.0},
+    };
+    return numbers;
+}
+
+QString unitName(MeasureUnit unit)
+{
+    return nameIn(units, unit);
+}
+
+std::optional<MeasureUnit> unitNamed(const QString &name)
+{
+    return valueIn(units, name);
+}
+
+QString directionName(bool downstream)
+{
+    return nameIn(directions, downstream);
+}
+
+std::optional<bool> directionNamed(const QString &name)
+{
+    return valueIn(directions, name);
+}
+
+QString viewStyleName(ViewStyle style)
+{
+    return nameIn(viewStyles, style);
+}
+
+std::optional<ViewStyle> viewStyleNamed(const QString &name)
+{
+    return valueIn(viewStyles, name);
+}
+
+QString numberProblem(const QString &name, double value, double smallest, double largest)
+{
+    if (value >= smallest && value <= largest) {
+        return {};
+    }
+    return QStringLiteral("%1: expected a number from %2 to %3, found %4")
+        .arg(name)
+        .arg(smallest)
+        .arg(largest)
+        .arg(value);
+}
+
+QString sessionProblem(const Session &session)
+{
+    for (const SessionNumber &number : sessionNumbers()) {
+        const QString problem = numberProblem(QLatin1String(number.name), session.*number.member,
+                                              number.smallest, number.largest);
+        if (!problem.isEmpty()) {
+            return problem;
+        }
+    }
+    QString problem = kindProblem(session.kind);
+    if (problem.isEmpty()) {
+        problem = numberProblem(QStringLiteral("clockDEG"), session.clockDEG, -largestClockDEG,
+                                largestClockDEG);
+    }
+    if (problem.isEmpty() && session.mmPerPixel) {
+        problem = numberProblem(QStringLiteral("mmPerPixel"), *session.mmPerPixel,
+                                smallestMMPerPixel, largestMMPerPixel);
+    }
+    for (int i = 0; i < session.points.size() && problem.isEmpty(); ++i) {
+        problem = pointProblem(session.points[i], i);
+    }
+    return problem;
+}
+
+} // namespace Drevon::Zalento::Apps

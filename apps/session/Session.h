@@ -1,0 +1,116 @@
+#pragma once
+
+#include "zalento/math/Vec3.h"
+#include "zalento/pipes/ViewStyle.h"
+#include "zalento/settings/MeasureUnit.h"
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QPointF>
+#include <QSize>
+#include <QString>
+#include <QVector>
+
+#include <optional>
+
+namespace Drevon::Zalento::Apps {
+
+/** Which picture a session belongs to. */
+struct PictureIdentity
+{
+    QString path;      ///< relative to the session's folder in a file, else to the working folder
+    QSize size;        ///< upright, in pixels
+    QByteArray sha256; ///< of the file's bytes, as 64 lower-case hexadecimal digits
+    QJsonObject unknownFields;
+};
+
+bool operator==(const PictureIdentity &a, const PictureIdentity &b);
+
+/** A measurement point of the straight pipe. */
+struct SessionPoint
+{
+    /** Where it was clicked, in pixels of the upright picture, from its top left corner. */
+    QPointF pixel;
+    /**
+     * Where it lies in the scene, as in HitPoint::position. It holds even when the alignment has
+     * changed since the click; without it the point is clicked anew.
+     */
+    std::optional<Vec3> position;
+    QJsonObject unknownFields;
+};
+
+bool operator==(const SessionPoint &a, const SessionPoint &b);
+
+/**
+ * Everything that a measurement on a picture needs. A value: cheap to copy, so that a copy serves
+ * as an undo step.
+ *
+ * Percentages are in percent (0 to 100), as ZaItem's setters take them; gesture units are those of
+ * ZaItem::move(): 576 are one diameter.
+ */
+struct Session
+{
+    PictureIdentity picture;
+    QString kind = QStringLiteral("PipeDimension"); ///< name of a MeasurementKind
+    MeasureUnit unit = MeasureUnit::Metric;         ///< of the texts; numbers stay metric
+    double diameterMM = 300.0;                      ///< nominal
+    double offset = 0.0;                            ///< of the model sideways, in gesture units
+    double rollDEG = 0.0;                           ///< about the view axis
+    double cameraHeightPercent = 50.0;              ///< across the diameter; 50 is the axis
+    double fovYDEG = 37.5;         ///< vertical field of view of the item's square area
+    bool rearCircleActive = false; ///< gestures move the rear circle instead of the model
+    double rearCircleX = 0.0;      ///< of the pipe's far end, in gesture units
+    double rearCircleY = 0.0;      ///< the same, up and down
+    double percentage = 0.0;       ///< MeasurementKind::percentageMeaning says of what
+    double angleDEG = 90.0;        ///< of a branch, a bend or a joint
+    int clockDEG = 0;              ///< of a branch, a bend or a joint about the pipe's axis
+    bool viewDownstream = true;    ///< a bend is seen from the straight pipe
+    bool jointShown = false;       ///< in the kind BendAngle: a joint instead of a bend
+    ViewStyle viewStyle = ViewStyle::Full;
+    QString calibrationText = QStringLiteral("LASER;;;50"); ///< see Pipe::parseIniFile()
+    /** Millimetres per picture pixel; wins over what the calibration text gives. */
+    std::optional<double> mmPerPixel;
+    QVector<SessionPoint> points;
+    QJsonObject unknownFields; ///< of a file written by a later version; kept
+    int schemaMinor = 0;       ///< minor version of the file it was read from
+};
+
+bool operator==(const Session &a, const Session &b);
+inline bool operator!=(const Session &a, const Session &b)
+{
+    return !(a == b);
+}
+
+/** A number of a session with its limits, both included. */
+struct SessionNumber
+{
+    const char *name; ///< of the field in a file
+    double Session::*member;
+    double smallest;
+    double largest;
+};
+
+/** Every number that a session always has. */
+const QVector<SessionNumber> &sessionNumbers();
+
+/** Limits of Session::mmPerPixel. */
+constexpr double smallestMMPerPixel = 1e-6;
+constexpr double largestMMPerPixel = 1e4;
+/** Limit of Session::clockDEG in both directions. */
+constexpr int largestClockDEG = 3600;
+
+/** Names of choices in files and on the command line. */
+QString unitName(MeasureUnit unit);
+std::optional<MeasureUnit> unitNamed(const QString &name); ///< "metric", "imperial"
+QString directionName(bool downstream);
+std::optional<bool> directionNamed(const QString &name); ///< "downstream" (true), "upstream"
+QString viewStyleName(ViewStyle style);
+std::optional<ViewStyle> viewStyleNamed(const QString &name); ///< "measure", "ends", "full"
+
+/** What is wrong with the session: names the field and what was expected; empty when valid. */
+QString sessionProblem(const Session &session);
+
+/** The same for one number: "<name>: expected a number from .. to .., found ..". */
+QString numberProblem(const QString &name, double value, double smallest, double largest);
+
+} // namespace Drevon::Zalento::Apps

@@ -1,0 +1,373 @@
+#include "session/SessionJson.h"
+
+#include "session/OrderedJson.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonParseError>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace Drevon::Zalento::Apps {
+
+namespace {
+
+const char *const schemaName = "zalento-session";
+
+QString typeName(const QJsonValue &value)
+{
+    switch (value.type()) {
+    case QJsonValue::Null:
+        return QStringLiteral("null");
+    case QJsonValue::Bool:
+        return QStringLiteral("true or false");
+    case QJsonValue::Double:
+        return QStringLiteral("the number %1").arg(value.toDouble());
+    case QJsonValue::String:
+        return QStringLiteral("the text \"%1\"").arg(value.toString());
+    case QJsonValue::Array:
+        return QStringLiteral("a list");
+    case QJsonValue::Object:
+        return QStringLiteral("an object");
+    default:
+        return QStringLiteral("nothing");
+    }
+}
+
+/** Takes fields out of an object; what nobody took is unknown. Keeps the first problem. */
+class FieldReader
+{
+public:
+    FieldReader(const QJsonObject &object, const QString &prefix, QString &problem)
+        : m_rest(object)
+        , m_prefix(prefix)
+        , m_problem(problem)
+    {}
+
+    const QJsonObject &rest() const { return m_rest; }
+
+    void read(const char *name, double &number)
+    {
+        const QJsonValue value = take(name);
+        if (expect(name, value, value.isDouble(), "a number")) {
+            number = value.toDouble();
+        }
+    }
+
+    void read(const char *name, int &number)
+    {
+        const QJsonValue value = take(name);
+        // toInt() gives its argument back for everything but a whole number.
+        const bool isInt = value.toInt(0) == value.toInt(1);
+        if (expect(name, value, isInt, "a whole number")) {
+            number = value.toInt();
+        }
+    }
+
+    void read(const char *name, bool &flag)
+    {
+        const QJsonValue value = take(name);
+        if (expect(name, value, value.isBool(), "true or false")) {
+            flag = value.toBool();
+        }
+    }
+
+    void read(const char *name, QString &text)
+    {
+        const QJsonValue value = take(name);
+        if (expect(name, value, value.isString(), "a text")) {
+            text = value.toString();
+        }
+    }
+
+    template <typename Value, typename Lookup>
+    void readChoice(const char *name, Value &choice, Lookup lookup, const char *expected)
+    {
+        const QJsonValue value = take(name);
+        const std::optional<Value> found = lookup(value.toString());
+        if (expect(name, value, found.has_value(), expected)) {
+            choice = *found;
+        }
+    }
+
+    /** The finite numbers of a list of exactly @p count; nothing when the field is missing. */
+    QVector<double> readNumbers(const char *name, int count, const char *expected)
+    {
+        const QJsonValue value = take(name);
+        const QJsonArray list = value.toArray();
+        const bool areNumbers =
+            list.size() == count &&
+            std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isDouble(); });
+        QVector<double> numbers;
+        if (expect(name, value, areNumbers, expected)) {
+            for (const QJsonValue &number : list) {
+                numbers += number.toDouble();
+            }
+        }
+        return numbers;
+    }
+
+    /** True when the field is there and is what was expected. */
+    bool expect(const char *name, const QJsonValue &value, bool isExpected, const char *expected)
+    {
+        if (value.isUndefined()) {
+            return false;
+        }
+        if (!isExpected && m_problem.isEmpty()) {
+            m_problem =
+                QStringLiteral("%1%2: expected %3, found %4")
+                    .arg(m_prefix, QLatin1String(name), QLatin1String(expected), typeName(value));
+        }
+        return isExpected;
+    }
+
+    QJsonValue take(const char *name) { return m_rest.take(QLatin1String(name)); }
+
+private:
+    QJsonObject m_rest;
+    QString m_prefix;
+    QString &m_problem;
+};
+
+// Picture
+
+QByteArray pictureToJson(const PictureIdentity &picture)
+{
+    OrderedJson json;
+    json.add(QStringLiteral("path"), picture.path);
+    json.add(QStringLiteral("size"), QJsonArray{picture.size.width(), picture.size.height()});
+    json.add(QStringLiteral("sha256"), QString::fromLatin1(picture.sha256));
+    json.addAll(picture.unknownFields);
+    return json.toLine();
+}
+
+std::optional<QByteArray> sha256Of(const QString &text)
+{
+    static const QRegularExpression digits(QStringLiteral("\\A[0-9a-f]{64}\\z"));
+    if (!digits.match(text).hasMatch()) {
+        return std::nullopt;
+    }
+    return text.toLatin1();
+}
+
+std::optional<QSize> sizeOf(const QVector<double> &numbers)
+{
+    for (const double number : numbers) {
+        if (number != std::floor(number) || number < 1 ||
+            number > std::numeric_limits<int>::max()) {
+            return std::nullopt;
+        }
+    }
+    return QSize(static_cast<int>(numbers[0]), static_cast<int>(numbers[1]));
+}
+
+PictureIdentity pictureFromJson(const QJsonObject &object, QString &problem)
+{
+    const QString prefix = QStringLiteral("picture.");
+    PictureIdentity picture;
+    FieldReader reader(object, prefix, problem);
+    reader.read("path", picture.path);
+    const QJsonValue size = object.value(QLatin1String("size"));
+    const char *const expectedSize = "a list of width and height in whole pixels";
+    const QVector<double> numbers = reader.readNumbers("size", 2, expectedSize);
+    if (!numbers.isEmpty()) {
+        const std::optional<QSize> whole = sizeOf(numbers);
+        if (reader.expect("size", size, whole.has_value(), expectedSize)) {
+            picture.size = *whole;
+        }
+    }
+    reader.readChoice("sha256", picture.sha256, sha256Of, "64 lower-case hexadecimal digits");
+    picture.unknownFields = reader.rest();
+    return picture;
+}
+
+// Points
+
+QByteArray pointToJson(const SessionPoint &point)
+{
+    OrderedJson json;
+    json.add(QStringLiteral("pixel"), QJsonArray{point.pixel.x(), point.pixel.y()});
+    if (point.position) {
+        const Vec3 &position = *point.position;
+        json.add(QStringLiteral("position"), QJsonArray{position.x, position.y, position.z});
+    }
+    json.addAll(point.unknownFields);
+    return json.toLine();
+}
+
+SessionPoint pointFromJson(const QJsonObject &object, const QString &prefix, QString &problem)
+{
+    SessionPoint point;
+    FieldReader reader(object, prefix + QLatin1Char('.'), problem);
+    const QVector<double> pixel = reader.readNumbers("pixel", 2, "a list of x and y in pixels");
+    if (!pixel.isEmpty()) {
+        point.pixel = QPointF(pixel[0], pixel[1]);
+    }
+    const QVector<double> position =
+        reader.readNumbers("position", 3, "a list of x, y and z in the scene");
+    if (!position.isEmpty()) {
+        point.position = Vec3(position[0], position[1], position[2]);
+    }
+    if (pixel.isEmpty() && position.isEmpty() && problem.isEmpty()) {
+        problem = QStringLiteral("%1: expected a pixel or a position").arg(prefix);
+    }
+    point.unknownFields = reader.rest();
+    return point;
+}
+
+QByteArray pointsToJson(const QVector<SessionPoint> &points)
+{
+    QVector<QByteArray> lines;
+    for (const SessionPoint &point : points) {
+        lines += pointToJson(point);
+    }
+    return jsonLines(lines, "  ");
+}
+
+QVector<SessionPoint> pointsFromJson(const QJsonArray &list, QString &problem)
+{
+    QVector<SessionPoint> points;
+    for (int i = 0; i < list.size() && problem.isEmpty(); ++i) {
+        const QString name = QStringLiteral("points[%1]").arg(i);
+        if (list[i].isObject()) {
+            points += pointFromJson(list[i].toObject(), name, problem);
+        } else {
+            problem =
+                QStringLiteral("%1: expected an object, found %2").arg(name, typeName(list[i]));
+        }
+    }
+    return points;
+}
+
+// Schema
+
+QString schemaText(int minor)
+{
+    return QStringLiteral("%1 %2.%3")
+        .arg(QLatin1String(schemaName))
+        .arg(sessionSchemaMajor)
+        .arg(std::max(minor, sessionSchemaMinor));
+}
+
+void readSchema(FieldReader &reader, Session &session, QString &problem)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("\\A%1 ([0-9]{1,4})\\.([0-9]{1,4})\\z").arg(QLatin1String(schemaName)));
+    const QJsonValue value = reader.take("schema");
+    const auto match = pattern.match(value.toString());
+    if (!match.hasMatch()) {
+        problem =
+            QStringLiteral("schema: expected \"%1\", found %2").arg(schemaText(0), typeName(value));
+    } else if (match.captured(1).toInt() != sessionSchemaMajor) {
+        problem = QStringLiteral("schema: the session has version %1.%2 and this program reads "
+                                 "version %3; please use a newer Zalento")
+                      .arg(match.captured(1), match.captured(2))
+                      .arg(sessionSchemaMajor);
+    }
+    session.schemaMinor = match.captured(2).toInt();
+}
+
+// The rest
+
+void readChoices(FieldReader &reader, Session &session)
+{
+    reader.read("kind", session.kind);
+    reader.readChoice("unit", session.unit, unitNamed, "\"metric\" or \"imperial\"");
+    reader.read("rearCircleActive", session.rearCircleActive);
+    reader.read("clockDEG", session.clockDEG);
+    reader.readChoice("direction", session.viewDownstream, directionNamed,
+                      "\"downstream\" or \"upstream\"");
+    reader.read("jointShown", session.jointShown);
+    reader.readChoice("viewStyle", session.viewStyle, viewStyleNamed,
+                      "\"measure\", \"ends\" or \"full\"");
+    reader.read("calibration", session.calibrationText);
+    double scale = std::numeric_limits<double>::quiet_NaN();
+    reader.read("mmPerPixel", scale);
+    if (!std::isnan(scale)) {
+        session.mmPerPixel = scale;
+    }
+}
+
+void addChoices(OrderedJson &json, const Session &session)
+{
+    json.add(QStringLiteral("kind"), session.kind);
+    json.add(QStringLiteral("unit"), unitName(session.unit));
+    json.add(QStringLiteral("rearCircleActive"), session.rearCircleActive);
+    json.add(QStringLiteral("clockDEG"), session.clockDEG);
+    json.add(QStringLiteral("direction"), directionName(session.viewDownstream));
+    json.add(QStringLiteral("jointShown"), session.jointShown);
+    json.add(QStringLiteral("viewStyle"), viewStyleName(session.viewStyle));
+    json.add(QStringLiteral("calibration"), session.calibrationText);
+    if (session.mmPerPixel) {
+        json.add(QStringLiteral("mmPerPixel"), *session.mmPerPixel);
+    }
+}
+
+void readFields(FieldReader &reader, Session &session, QString &problem)
+{
+    const QJsonValue picture = reader.take("picture");
+    if (reader.expect("picture", picture, picture.isObject(), "an object")) {
+        session.picture = pictureFromJson(picture.toObject(), problem);
+    }
+    readChoices(reader, session);
+    for (const SessionNumber &number : sessionNumbers()) {
+        reader.read(number.name, session.*number.member);
+    }
+    const QJsonValue points = reader.take("points");
+    if (reader.expect("points", points, points.isArray(), "a list")) {
+        session.points = pointsFromJson(points.toArray(), problem);
+    }
+    session.unknownFields = reader.rest();
+}
+
+QString parseProblem(const QByteArray &json, const QJsonParseError &error)
+{
+    const int line = json.left(error.offset).count('\n') + 1;
+    return QStringLiteral("not a JSON object: %1 in line %2").arg(error.errorString()).arg(line);
+}
+
+} // namespace
+
+QByteArray sessionToJson(const Session &session)
+{
+    OrderedJson json;
+    json.add(QStringLiteral("schema"), schemaText(session.schemaMinor));
+    json.add(QStringLiteral("picture"), pictureToJson(session.picture));
+    addChoices(json, session);
+    for (const SessionNumber &number : sessionNumbers()) {
+        json.add(QLatin1String(number.name), session.*number.member);
+    }
+    json.add(QStringLiteral("points"), pointsToJson(session.points));
+    json.addAll(session.unknownFields);
+    return json.toLines("") + "\n";
+}
+
+std::optional<Session> sessionFromJson(const QByteArray &json, QString &problem)
+{
+    problem.clear();
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+    if (error.error != QJsonParseError::NoError) {
+        problem = parseProblem(json, error);
+        return std::nullopt;
+    }
+    if (!document.isObject()) {
+        problem = QStringLiteral("not a JSON object: found a list");
+        return std::nullopt;
+    }
+    Session session;
+    FieldReader reader(document.object(), QString(), problem);
+    readSchema(reader, session, problem);
+    if (problem.isEmpty()) {
+        readFields(reader, session, problem);
+    }
+    if (problem.isEmpty()) {
+        problem = sessionProblem(session);
+    }
+    return problem.isEmpty() ? std::optional<Session>(session) : std::nullopt;
+}
+
+} // namespace Drevon::Zalento::Apps
