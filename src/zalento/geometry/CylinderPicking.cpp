@@ -175,10 +175,11 @@ bool Cylinder::intersectPlaneRay(QPoint pixel, const MiniGL &camera, Vec3 &hitPo
     return true;
 }
 
-// Sizes whose squares underflow are too small to compute with.
+// Sizes whose squares underflow or overflow are too small or too large to compute with.
 bool Cylinder::hasExtent() const
 {
-    return radiusM > 0.0 && radiusSquared > 0.0 && lengthSquared > 0.0;
+    return radiusM > 0.0 && radiusSquared > 0.0 && lengthSquared > 0.0 &&
+           std::isfinite(lengthSquared);
 }
 
 } // namespace Drevon::Zalento

@@ -82,15 +82,13 @@ struct Vec3
     double length() const { return std::sqrt(lengthSquared()); }
 
     /**
-     * Scales to length 1. A vector whose squared length underflows or overflows is brought to a
-     * largest component of 1 first.
+     * Scales to length 1. A vector so short that its squared length underflows is brought to a
+     * largest component of 1 first; one so long that it overflows becomes zero.
      * @throws std::range_error when all three components are 0; the vector is unchanged then.
      */
     void normalize()
     {
-        const double squared = lengthSquared();
-        if (squared < std::numeric_limits<double>::min() ||
-            squared > std::numeric_limits<double>::max()) {
+        if (lengthSquared() < std::numeric_limits<double>::min()) {
             scaleLargestComponentToOne();
         }
         *this = multiply(*this, 1 / length());
