@@ -48,6 +48,8 @@ public:
     QPointF project(const Vec &pipePoint) const;
     /** Metres across one pixel for an object parallel to the picture at \a pipePoint. */
     double metresPerPixel(const Vec &pipePoint) const;
+    /** Angle across a pixel in the middle of the picture, radians. */
+    double pixelAngle() const { return 1.0 / m_pixelsPerTangent; }
     /** Ray of the pipe frame that is seen at a picture position. */
     Ray rayThrough(double x, double y) const;
 

@@ -105,7 +105,8 @@ void describe(QCommandLineParser &parser)
     parser.addOption({cleanOption, text("Plain wall without texture, dirt, noise or blur.")});
     parser.addOption(
         {seedOption, text("Another number gives another wall."), QStringLiteral("number")});
-    parser.addOption({samplesOption, text("Rays along each side of a pixel, from 1 to 8."),
+    parser.addOption({samplesOption,
+                      text("Rays along each side of a pixel on an edge, from 1 to 8."),
                       QStringLiteral("number")});
     parser.addOption({qualityOption, text("Quality of a JPEG picture, from 1 to 100."),
                       QStringLiteral("number"), QStringLiteral("90")});

@@ -16,6 +16,10 @@ constexpr double colourNoise = 0.5;
 // The colour sensor of a small camera leaves the dark parts a little blue.
 constexpr Vec sensorBlack{0.0011, 0.0013, 0.0019};
 
+// Steps of 255 between neighbours from which on an edge is looked for between them.
+constexpr double edgeSteps = 12.0;
+constexpr Vec greyShares{0.2126, 0.7152, 0.0722};
+
 /** Linear picture while lens and sensor work on it. */
 struct Exposure
 {
@@ -27,6 +31,7 @@ struct Exposure
     const Vec &at(int x, int y) const { return const_cast<Exposure *>(this)->at(x, y); }
 };
 
+/** Mean light of a pixel by samples × samples rays. */
 Vec pixelLight(const Shader &shader, const Camera &camera, int x, int y, int samples)
 {
     Vec sum;
@@ -34,8 +39,8 @@ Vec pixelLight(const Shader &shader, const Camera &camera, int x, int y, int sam
         for (int sx = 0; sx < samples; ++sx) {
             // A ray somewhere in each cell of the pixel breaks up the steps along edges.
             const int cell = sy * samples + sx;
-            const double jx = samples > 1 ? hashUnit(x, y, cell, rayJitterSeed) : 0.5;
-            const double jy = samples > 1 ? hashUnit(x, y, cell, rayJitterSeed + 1) : 0.5;
+            const double jx = hashUnit(x, y, cell, rayJitterSeed);
+            const double jy = hashUnit(x, y, cell, rayJitterSeed + 1);
             sum +=
                 shader.light(camera.rayThrough(x + (sx + jx) / samples, y + (sy + jy) / samples));
         }
@@ -43,6 +48,31 @@ Vec pixelLight(const Shader &shader, const Camera &camera, int x, int y, int sam
     return sum * (1.0 / (samples * samples));
 }
 
+/** Linear light to the display's 0 … 255: a shoulder that keeps highlights, then sRGB. */
+double developed(double light)
+{
+    const double shoulder = light * (1.0 + light / 9.0) / (1.0 + light);
+    const double value = std::clamp(shoulder * 1.25, 0.0, 1.0);
+    const double srgb =
+        value <= 0.0031308 ? 12.92 * value : 1.055 * std::pow(value, 1.0 / 2.4) - 0.055;
+    return srgb * 255.0;
+}
+
+/** Whether a pixel differs from a neighbour so much that an edge may run through it. */
+bool nearEdge(const std::vector<double> &grey, const QSize &size, int x, int y)
+{
+    const auto at = [&](int column, int row) {
+        return grey[std::size_t(row) * std::size_t(size.width()) + std::size_t(column)];
+    };
+    const double here = at(x, y);
+    const auto differs = [&](int column, int row) {
+        return column >= 0 && row >= 0 && column < size.width() && row < size.height() &&
+               std::fabs(at(column, row) - here) > edgeSteps;
+    };
+    return differs(x - 1, y) || differs(x + 1, y) || differs(x, y - 1) || differs(x, y + 1);
+}
+
+// One ray a pixel first; only where the picture changes quickly the pixel gets all its rays.
 Exposure expose(const SceneSettings &scene)
 {
     const Camera camera(scene.camera, scene.diameterM());
@@ -51,9 +81,21 @@ Exposure expose(const SceneSettings &scene)
     const QSize size = scene.camera.picture;
     Exposure exposure{size.width(), size.height(),
                       std::vector<Vec>(std::size_t(size.width()) * std::size_t(size.height()))};
+    std::vector<double> grey;
+    grey.reserve(exposure.pixels.size());
     for (int y = 0; y < exposure.height; ++y) {
-        for (int x = 0; x < exposure.width; ++x)
-            exposure.at(x, y) = pixelLight(shader, camera, x, y, scene.lens.samples);
+        for (int x = 0; x < exposure.width; ++x) {
+            exposure.at(x, y) = shader.light(camera.rayThrough(x + 0.5, y + 0.5));
+            grey.push_back(developed(dot(exposure.at(x, y), greyShares)));
+        }
+    }
+    if (scene.lens.samples < 2)
+        return exposure;
+    for (int y = 0; y < exposure.height; ++y) {
+        for (int x = 0; x < exposure.width; ++x) {
+            if (nearEdge(grey, size, x, y))
+                exposure.at(x, y) = pixelLight(shader, camera, x, y, scene.lens.samples);
+        }
     }
     return exposure;
 }
@@ -105,16 +147,6 @@ double bell(int x, int y, int channel)
     for (int i = 0; i < 4; ++i)
         sum += hashUnit(x, y, channel * 4 + i, sensorSeed);
     return sum * std::sqrt(3.0);
-}
-
-/** Linear light to the display's 0 … 255: a shoulder that keeps highlights, then sRGB. */
-double developed(double light)
-{
-    const double shoulder = light * (1.0 + light / 9.0) / (1.0 + light);
-    const double value = std::clamp(shoulder * 1.25, 0.0, 1.0);
-    const double srgb =
-        value <= 0.0031308 ? 12.92 * value : 1.055 * std::pow(value, 1.0 / 2.4) - 0.055;
-    return srgb * 255.0;
 }
 
 double vignetteShare(const Exposure &exposure, int x, int y, double strength)

@@ -79,7 +79,7 @@ struct LensSettings
     double vignette = 0.35; ///< share of light lost in the corners
     double blurPx = 0.7;    ///< standard deviation
     double noise = 3.0;     ///< standard deviation, steps of 255
-    int samples = 2;        ///< rays along each side of a pixel
+    int samples = 2;        ///< rays along each side of a pixel on an edge
 };
 
 /** Everything a picture is made from. */

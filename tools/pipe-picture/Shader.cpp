@@ -46,6 +46,7 @@ Shader::Shader(const SceneSettings &scene, const Shape &shape, const Camera &cam
           camera.rayThrough(scene.camera.picture.width() * 0.5, scene.camera.picture.height() * 0.5)
               .direction)
     , m_diameter(scene.diameterM())
+    , m_pixelAngle(camera.pixelAngle())
     , m_laserSpots(laserSpots(scene))
 {}
 
@@ -69,7 +70,9 @@ Vec Shader::lightAt(const Ray &ray, const Hit &hit) const
 
 Vec Shader::solid(const Ray &ray, const Hit &hit) const
 {
-    const Surface surface = m_wall.surface(hit);
+    // A slanting wall is covered further along than across; texture takes the mean of both.
+    const double slant = std::sqrt(std::fmax(std::fabs(dot(ray.direction, hit.normal)), 1e-3));
+    const Surface surface = m_wall.surface(hit, hit.distance * m_pixelAngle / slant);
     const Vec toLamp = m_lamp - hit.point;
     const double distance = length(toLamp);
     const Vec l = toLamp * (1.0 / distance);

@@ -27,6 +27,7 @@ private:
     Vec m_lamp;
     Vec m_forward;
     double m_diameter = 0.0;
+    double m_pixelAngle = 0.0;
     PointPair m_laserSpots;
 };
 

@@ -20,6 +20,9 @@ struct Hit
     double height = 0.0; ///< above the invert of that pipe as a share of its diameter
 };
 
+/** Area within a polygon (shoelace formula). */
+double polygonArea(const QPolygonF &polygon);
+
 /**
  * The open space inside the pipe: a straight pipe that also reaches behind the mouth, with at most
  * one branch, or with one bend and the pipe after it, filled with water and deposit.
@@ -48,6 +51,8 @@ public:
     double waterY() const { return m_waterY; }
     /** Outline of the deposit's front in the pipe frame, metres: along the top, then the wall. */
     QPolygonF depositOutline() const;
+    /** Area of the deposit's front, square metres; a little more than its outline's. */
+    double depositAreaM2() const;
 
 private:
     struct BranchPlace

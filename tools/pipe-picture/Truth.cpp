@@ -255,20 +255,16 @@ QJsonObject TruthWriter::section() const
     const QPolygonF outline = m_shape.depositOutline();
     const double z = -m_scene.deposit.depthShare * modelLengthDiameters * m_scene.diameterM();
     std::vector<Vec> corners;
-    double twice = 0.0;
-    for (int i = 0; i < outline.size(); ++i) {
-        const QPointF a = outline[i];
-        const QPointF b = outline[(i + 1) % outline.size()];
-        corners.push_back({a.x(), a.y(), z});
-        twice += a.x() * b.y() - b.x() * a.y();
-    }
+    for (const QPointF &corner : outline)
+        corners.push_back({corner.x(), corner.y(), z});
     corners.push_back(corners.front());
-    const double area = std::fabs(twice) * 0.5;
+    const double area = polygonArea(outline);
     QJsonObject section = points(corners);
     section["closed"] = true;
     section["depthShare"] = m_scene.deposit.depthShare;
     section["percent"] = rounded(m_scene.deposit.depthShare * 100.0);
     section["areaMm2"] = rounded(area * 1e6);
+    section["depositAreaMm2"] = rounded(m_shape.depositAreaM2() * 1e6);
     section["areaShare"] = rounded(area / (pi * squared(m_scene.radiusM())));
     return section;
 }

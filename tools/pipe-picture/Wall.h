@@ -19,19 +19,30 @@ class Wall
 public:
     Wall(const SceneSettings &scene, const Shape &shape);
 
-    Surface surface(const Hit &hit) const;
+    /** \a footprintM: across the wall, metres covered by one pixel; finer texture is left out. */
+    Surface surface(const Hit &hit, double footprintM) const;
 
 private:
-    Surface concrete(const Vec &q, const Hit &hit) const;
-    Surface clay(const Vec &q, const Hit &hit) const;
-    Surface sediment(const Vec &q, const Hit &hit) const;
-    void soil(Surface &surface, const Vec &q, const Hit &hit) const;
-    void wet(Surface &surface, const Vec &q, const Hit &hit) const;
-    void joints(Surface &surface, const Vec &q, const Hit &hit) const;
-    void ring(Surface &surface, const Vec &q, double beyond) const;
-    void crack(Surface &surface, const Vec &q, const Hit &hit) const;
-    void spall(Surface &surface, const Vec &q, const Hit &hit) const;
-    void branchRim(Surface &surface, const Vec &q, const Hit &hit) const;
+    /** A place of the wall in texture coordinates. */
+    struct Place
+    {
+        const Hit &hit;
+        Vec q;            ///< point over the diameter
+        double footprint; ///< of a pixel, over the diameter
+
+        int octaves(double frequency, int most) const;
+    };
+
+    Surface concrete(const Place &place) const;
+    Surface clay(const Place &place) const;
+    Surface sediment(const Place &place) const;
+    void soil(Surface &surface, const Place &place) const;
+    void wet(Surface &surface, const Place &place) const;
+    void joints(Surface &surface, const Place &place) const;
+    void ring(Surface &surface, const Place &place, double beyond) const;
+    void crack(Surface &surface, const Place &place) const;
+    void spall(Surface &surface, const Place &place) const;
+    void branchRim(Surface &surface, const Place &place) const;
     void bump(Surface &surface, const Vec &gradient, double strength) const;
 
     SceneSettings m_scene;
