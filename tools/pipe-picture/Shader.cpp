@@ -30,8 +30,8 @@ constexpr double laserGlow = 0.10;
 constexpr double waterReflectance = 0.02;
 // Depth at which waste water hides what lies below, share of the diameter.
 constexpr double waterClearShare = 0.035;
-// Width of the film the water draws up the wall, share of the diameter.
-constexpr double meniscusShare = 0.012;
+// Width of the dark line where water meets wall: the scum at its edge, share of the diameter.
+constexpr double scumShare = 0.012;
 constexpr quint32 rippleSeed = 211;
 constexpr quint32 foamSeed = 223;
 
@@ -150,8 +150,8 @@ Vec Shader::water(const Ray &ray, const Hit &hit) const
     const Vec bedLight = bed.part == Part::Nothing ? Vec{} : solid(ray, bed) * Vec{0.5, 0.42, 0.3};
     Vec colour = mix(bedLight, murk, std::fmax(veil, floating));
     colour = mix(colour, mirror, mirrored * (1.0 - floating));
-    if (toWall >= 0.0 && toWall < meniscusShare)
-        colour = colour * mix(1.9, 1.0, toWall / meniscusShare);
+    if (toWall >= 0.0 && toWall < scumShare)
+        colour = colour * mix(0.3, 1.0, toWall / scumShare);
     return colour;
 }
 

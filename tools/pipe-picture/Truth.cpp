@@ -13,13 +13,13 @@ constexpr double modelLengthDiameters = 10.0;
 // The bend model of the overlay is drawn at this share of the nominal diameter, with its camera
 // nearer by the same share; in the picture both agree.
 constexpr double drawnBendShare = 0.9512;
-// Clicks of the rear circle's offset for half the field of view, sideways and up.
+// The overlay's rear circle moves by these, sideways and up, for a turn by half the field of view.
 constexpr double rearSideways = 85.0;
 constexpr double rearUp = 50.0;
 constexpr int rimPoints = 24;
 constexpr int ringPoints = 12;
 
-/** Ten decimals of a pixel or a metre are far below any use and keep the file readable. */
+/** Seven decimals of a pixel or a metre are far below any use and keep the file readable. */
 double rounded(double value)
 {
     return std::round(value * 1e7) / 1e7;
