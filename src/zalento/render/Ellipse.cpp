@@ -1,9 +1,7 @@
 #include "zalento/render/Ellipse.h"
 
-#include "zalento/math/truncateToInt.h"
 #include "zalento/render/PainterPens.h"
-
-#include <QRect>
+#include "zalento/render/truncatedRect.h"
 
 namespace Drevon::Zalento {
 
@@ -28,8 +26,7 @@ void Ellipse::draw(QPainter &p, const QPen &pen) const
 {
     const PenScope scope(p);
     p.setPen(pen);
-    p.drawEllipse(QRect(truncateToInt(centerX - radiusX), truncateToInt(centerY - radiusY),
-                        truncateToInt(2 * radiusX), truncateToInt(2 * radiusY)));
+    p.drawEllipse(truncatedRect(centerX - radiusX, centerY - radiusY, 2 * radiusX, 2 * radiusY));
 }
 
 } // namespace Drevon::Zalento

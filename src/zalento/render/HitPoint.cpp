@@ -1,10 +1,9 @@
 #include "zalento/render/HitPoint.h"
 
-#include "zalento/math/truncateToInt.h"
 #include "zalento/render/PainterPens.h"
+#include "zalento/render/truncatedRect.h"
 
 #include <QPen>
-#include <QRect>
 
 namespace Drevon::Zalento {
 
@@ -16,8 +15,7 @@ constexpr double markerPenPx = 2.0;
 
 QRect squareAround(const Vec2 &center, int radiusPx)
 {
-    return {truncateToInt(center.x - radiusPx), truncateToInt(center.y - radiusPx), 2 * radiusPx,
-            2 * radiusPx};
+    return truncatedRect(center.x - radiusPx, center.y - radiusPx, 2 * radiusPx, 2 * radiusPx);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "zalento/math/truncateToInt.h"
 #include "zalento/render/MiniGL.h"
 #include "zalento/render/PainterPens.h"
+#include "zalento/render/truncatedRect.h"
 
 #include <QFontMetrics>
 #include <QLine>
@@ -39,8 +40,7 @@ QRectF circleBox(const Vec2 &center, double radiusPx)
 
 QRect integerCircleBox(const Vec2 &center, double radiusPx)
 {
-    return {truncateToInt(center.x - radiusPx), truncateToInt(center.y - radiusPx),
-            truncateToInt(2 * radiusPx), truncateToInt(2 * radiusPx)};
+    return truncatedRect(center.x - radiusPx, center.y - radiusPx, 2 * radiusPx, 2 * radiusPx);
 }
 
 QLine integerLine(const Vec2 &a, const Vec2 &b)
