@@ -1,8 +1,11 @@
 #include "zalento/settings/ZASettings.h"
 
+#include "zalento/math/CLocale.h"
+
 #include <QVariant>
 
 #include <array>
+#include <cstdio>
 
 namespace Drevon::Zalento {
 
@@ -35,10 +38,14 @@ void loadFont(const QSettings &settings, const QString &key, QFont &font)
     font.fromString(settings.value(key, font).toString());
 }
 
-// Six decimals and '.', as the store has always held them.
+// Six decimals and '.', rounded as the C library does (ties to even); Qt's own rounding differs.
 QString lengthText(double mm)
 {
-    return QString::number(mm, 'f', 6);
+    constexpr int longestText = 320; // sign, 309 digits of the largest double, '.', decimals, end
+    const CLocaleScope scope;
+    char text[longestText];
+    std::snprintf(text, sizeof text, "%f", mm);
+    return QString::fromLatin1(text);
 }
 
 } // namespace
