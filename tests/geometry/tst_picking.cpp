@@ -1,0 +1,327 @@
+// From pixels to points of the pipe and back.
+#include "geometry/PipeView.h"
+#include "support/TestCase.h"
+#include "support/Tolerances.h"
+#include "zalento/geometry/Cylinder.h"
+
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <random>
+
+using namespace Drevon::Zalento;
+using namespace Drevon::Zalento::Test;
+
+namespace {
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+/** Half a unit in the last place of a single-precision number near 1. */
+constexpr double singleRounding = 0x1p-24;
+
+constexpr int views = 4000;
+constexpr unsigned seed = 20240521;
+
+// A double-precision ray keeps its direction to some 1e-15; a thousand pixels of focal length and
+// two products of rotations leave this much room.
+constexpr Tolerance wallRoundTripTolerance{1e-6, "px"};
+
+const Vec3 untouched(11, 22, 33);
+
+// The ray through the only pixel runs exactly along the viewing direction.
+const QRectF onePixel(0, 0, 1, 1);
+
+struct RandomView
+{
+    PipeView view;
+    Cylinder pipe;
+    QPoint pixel;
+};
+
+class RandomViews
+{
+public:
+    // Fields of view, camera heights, offsets, gestures, rolls and rectangles as operators meet
+    // them and beyond: some look at the pipe from outside.
+    RandomView next()
+    {
+        const int width = 1 + int(between(1, 2000));
+        const int height = 1 + int(between(1, 2000));
+        const QRectF viewport(between(-300, 300), between(-300, 300), width, height);
+        const double diameter = between(0.05, 2);
+        const double fov = between(10, 120);
+        const double distance = diameter * 0.51 / std::tan(fov * std::acos(-1.0) / 360);
+        const Vec3 eye(between(-0.6, 0.6) * diameter, between(-0.5, 0.5) * diameter, distance);
+        RandomView result{
+            PipeView(viewport, fov, eye, Vec3(between(-1, 1), between(-1, 1), between(-360, 360))),
+            Cylinder(diameter), QPoint(int(between(0, width)), int(between(0, height)))};
+        result.pipe.createVerticesInWorldCoord(MeasureMode::NoMeasure);
+        result.pipe.crossSectDistancePercent = between(0, 1);
+        return result;
+    }
+
+private:
+    double between(double low, double high)
+    {
+        return std::uniform_real_distribution<double>(low, high)(m_generator);
+    }
+
+    std::mt19937_64 m_generator{seed};
+};
+
+// Farthest meeting of what the pixel shows with the endless wall, solved as a quadratic equation
+// in the pipe frame. None when the eye is not between the two meetings, or behind both.
+std::optional<Vec3> wallSeenThrough(const RandomView &r)
+{
+    const Vec3 e = r.view.toPipeFrame(r.view.camera.eye);
+    const Vec3 v = r.view.toPipeFrame(r.view.visibleDirection(r.pixel));
+    const double a = v.x * v.x + v.y * v.y;
+    const double b = e.x * v.x + e.y * v.y;
+    const double c = e.x * e.x + e.y * e.y - r.pipe.radiusM * r.pipe.radiusM;
+    const double root = std::sqrt(b * b - a * c);
+    if (std::isnan(root) || -b - root > 0) {
+        return std::nullopt;
+    }
+    return e + ((root - b) / a) * v;
+}
+
+Vec2 pixelCentre(const RandomView &r)
+{
+    const QPointF corner = r.view.camera.viewport.topLeft();
+    return {corner.x() + r.pixel.x() + 0.5, corner.y() + r.pixel.y() + 0.5};
+}
+
+// How far single precision may move a plane point off its ray, on the screen. The ray's parameter
+// only moves it along the ray. Off the ray go: the origin, rounded (u |e|); the direction, rounded
+// (u |step|, for step = parameter * direction); their product (u |step|) and the sum (u |e +
+// step|).
+double planeRoundTripBoundPx(const PipeView &view, const Vec3 &eye, const Vec3 &step)
+{
+    const auto offRay = [](double e, double s) {
+        return singleRounding * (std::abs(e) + 2 * std::abs(s) + std::abs(e + s));
+    };
+    // The camera looks along the scene's z axis, but for an eye beside a centre 1000 km away.
+    const double depth = std::abs(step.z);
+    const double dz = offRay(eye.z, step.z) / depth;
+    const double dx = offRay(eye.x, step.x) / depth + dz * std::abs(step.x) / depth;
+    const double dy = offRay(eye.y, step.y) / depth + dz * std::abs(step.y) / depth;
+    constexpr double secondOrder = 1.01;
+    return secondOrder * view.focalLengthPx() * std::max(dx, dy);
+}
+
+} // namespace
+
+class TestPicking : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void rayThroughPixelCentre_data();
+    void rayThroughPixelCentre();
+    void rayOfRandomViews();
+    void wallRoundTrip();
+    void planeRoundTrip();
+    void rotationIsUndone();
+    void rayAlongTheAxis_data();
+    void rayAlongTheAxis();
+    void planeSeenFromTheSideIsMissed();
+    void diameterThatIsNoPipe_data();
+    void diameterThatIsNoPipe();
+    void cameraWithoutRectangleMisses();
+};
+
+void TestPicking::rayThroughPixelCentre_data()
+{
+    QTest::addColumn<QPoint>("pixel");
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    QTest::addColumn<double>("z");
+    QTest::newRow("top left") << QPoint(0, 0) << -0.393572 << -0.295056 << 0.870657;
+    QTest::newRow("bottom right") << QPoint(799, 599) << 0.393572 << 0.295056 << 0.870657;
+    // Half a pixel off the middle, each 0.00113151 wide at distance 1.
+    QTest::newRow("right below the middle") << QPoint(400, 300) << 0.000566 << 0.000566 << 1.0;
+    QTest::newRow("outside the picture") << QPoint(-400, 300) << -0.670866 << 0.000420 << 0.741579;
+}
+
+void TestPicking::rayThroughPixelCentre()
+{
+    QFETCH(QPoint, pixel);
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(double, z);
+    const PipeView view(QRectF(0, 0, 800, 600), 37.5, Vec3(0, 0, 1), Vec3::Zero);
+    Vec3 origin;
+    Vec3 direction;
+    Cylinder(0.1).rayVectors(pixel, view.camera, origin, direction);
+    COMPARE_NEAR(origin, Vec3(0, 0, 1), roundingTolerance);
+    COMPARE_NEAR(direction, Vec3(x, y, z), (Tolerance{1e-6, ""}));
+}
+
+void TestPicking::rayOfRandomViews()
+{
+    RandomViews random;
+    for (int k = 0; k < views; ++k) {
+        const RandomView r = random.next();
+        Vec3 origin;
+        Vec3 direction;
+        r.pipe.rayVectors(r.pixel, r.view.camera, origin, direction);
+        Vec3 expected = -r.view.visibleDirection(r.pixel);
+        expected.normalize();
+        COMPARE_NEAR(origin, r.view.camera.eye, sceneTolerance);
+        COMPARE_NEAR(direction, expected, roundingTolerance);
+    }
+}
+
+void TestPicking::wallRoundTrip()
+{
+    RandomViews random;
+    int hits = 0;
+    for (int k = 0; k < views; ++k) {
+        const RandomView r = random.next();
+        const std::optional<Vec3> expected = wallSeenThrough(r);
+        Vec3 picked = untouched;
+        const bool hit = r.pipe.intersectRay(r.pixel, r.view.camera, picked, r.view.rotation);
+        QCOMPARE(hit, expected.has_value());
+        if (!hit) {
+            COMPARE_EXACT(picked, untouched);
+            continue;
+        }
+        ++hits;
+        COMPARE_NEAR(r.view.project(picked), pixelCentre(r), wallRoundTripTolerance);
+        // The axial position of a nearly parallel ray loses digits with the square of its length.
+        const double distance = (*expected - r.view.toPipeFrame(r.view.camera.eye)).length();
+        const double magnification = 1 + distance * distance / r.pipe.radiusM;
+        COMPARE_NEAR(picked, *expected, (Tolerance{1e-13 * magnification, "m"}));
+        COMPARE_NEAR(std::hypot(picked.x, picked.y), r.pipe.radiusM,
+                     (Tolerance{1e-14 * (1 + distance), "m"}));
+    }
+    QVERIFY(hits > views / 2 && hits < views);
+}
+
+void TestPicking::planeRoundTrip()
+{
+    RandomViews random;
+    for (int k = 0; k < views; ++k) {
+        const RandomView r = random.next();
+        Vec3 picked = untouched;
+        QVERIFY(r.pipe.intersectPlaneRay(r.pixel, r.view.camera, picked, r.view.rotation));
+
+        const Vec3 e = r.view.toPipeFrame(r.view.camera.eye);
+        const Vec3 v = r.view.toPipeFrame(r.view.visibleDirection(r.pixel));
+        const double planeZ = -r.pipe.lengthM * r.pipe.crossSectDistancePercent;
+        const double parameter = (planeZ - e.z) / v.z;
+        const double bound = planeRoundTripBoundPx(r.view, r.view.camera.eye,
+                                                   parameter * r.view.visibleDirection(r.pixel));
+        // The bound stays far below what an operator sees; a wrong ray would be off by pixels.
+        QVERIFY2(bound < 0.05, QByteArray::number(bound).constData());
+        COMPARE_NEAR(r.view.project(picked), pixelCentre(r), (Tolerance{bound, "px"}));
+        // About a dozen roundings of the three lengths, in each of three components.
+        const double lengths = -planeZ + e.length() + (parameter * v).length();
+        COMPARE_NEAR(picked.z, planeZ, (Tolerance{24 * singleRounding * lengths, "m"}));
+    }
+}
+
+void TestPicking::rotationIsUndone()
+{
+    RandomViews random;
+    for (int k = 0; k < 100; ++k) {
+        const RandomView r = random.next();
+        const double fov = r.view.camera.fovYDEG;
+        const Vec3 normal = r.pipe.getNormalVectorOfPlaneInTheCilinder(fov, r.view.rotation);
+        COMPARE_NEAR(r.pipe.getHitPointPositionBeforeRotation(fov, r.view.rotation, normal),
+                     Vec3(0, 0, -1), roundingTolerance);
+        const Vec3 point(0.3, -0.2, -1.7);
+        COMPARE_NEAR(r.pipe.getHitPointPositionBeforeRotation(fov, r.view.rotation, point),
+                     r.view.toPipeFrame(point), roundingTolerance);
+    }
+}
+
+void TestPicking::rayAlongTheAxis_data()
+{
+    QTest::addColumn<double>("eyeX");
+    QTest::addColumn<bool>("within");
+    QTest::newRow("on the axis") << 0.0 << true;
+    QTest::newRow("on the wall") << 0.25 << true;
+    QTest::newRow("beside the pipe") << 0.2500001 << false;
+}
+
+void TestPicking::rayAlongTheAxis()
+{
+    QFETCH(double, eyeX);
+    QFETCH(bool, within);
+    Cylinder pipe(0.5);
+    pipe.createVerticesInWorldCoord(MeasureMode::NoMeasure);
+    PipeView view(onePixel, 45, Vec3(eyeX, 0, 1), Vec3::Zero);
+    view.camera.center.x = eyeX;
+    Vec3 picked = untouched;
+    QCOMPARE(pipe.intersectRay(QPoint(0, 0), view.camera, picked, view.rotation), within);
+    COMPARE_EXACT(picked, untouched);
+}
+
+void TestPicking::planeSeenFromTheSideIsMissed()
+{
+    PipeView view(onePixel, 45, Vec3(0, 0, 1), Vec3::Zero);
+    Cylinder pipe(0.5);
+    pipe.crossSectDistancePercent = 0.5;
+    Vec3 picked = untouched;
+    view.camera.center = Vec3(5, 0, 1);
+    QVERIFY(!pipe.intersectPlaneRay(QPoint(0, 0), view.camera, picked, view.rotation));
+    COMPARE_EXACT(picked, untouched);
+    // One part in five out of the plane it meets it, on the side away from the centre.
+    view.camera.center = Vec3(5, 0, 2);
+    QVERIFY(pipe.intersectPlaneRay(QPoint(0, 0), view.camera, picked, view.rotation));
+    COMPARE_NEAR(picked, Vec3(-17.5, 0, -2.5), (Tolerance{24 * singleRounding * 22, "m"}));
+}
+
+void TestPicking::diameterThatIsNoPipe_data()
+{
+    QTest::addColumn<double>("diameterM");
+    QTest::newRow("zero") << 0.0;
+    QTest::newRow("negative") << -0.1;
+    QTest::newRow("not a number") << notANumber;
+    QTest::newRow("infinite") << infinity;
+    QTest::newRow("negative infinite") << -infinity;
+    QTest::newRow("length overflows") << 1e308;
+    QTest::newRow("smallest number") << std::numeric_limits<double>::denorm_min();
+    QTest::newRow("denormal") << 1e-310;
+}
+
+void TestPicking::diameterThatIsNoPipe()
+{
+    QFETCH(double, diameterM);
+    for (const double level : {0.25, 0.75}) {
+        Cylinder pipe(diameterM);
+        pipe.crossSectDistancePercent = 0.3;
+        pipe.waterLevelPercent = level;
+        for (const PipeView &view : {frontView(0.1), frontView(diameterM)}) {
+            for (const QPoint pixel : {QPoint(288, 288), QPoint(10, 500)}) {
+                Vec3 picked = untouched;
+                QVERIFY(!pipe.intersectRay(pixel, view.camera, picked, Vec3(0.1, 0.2, 30)));
+                QVERIFY(!pipe.intersectPlaneRay(pixel, view.camera, picked, Vec3::Zero));
+                COMPARE_EXACT(picked, untouched);
+            }
+            pipe.createVerticesInWorldCoord(MeasureMode::WaterLevel);
+        }
+        for (std::size_t i = 0; i < pipe.vertices.size(); ++i) {
+            QVERIFY(pipe.waterLevelStart[i] >= 0 && pipe.waterLevelStart[i] <= 360);
+            QVERIFY(pipe.waterLevelEnd[i] >= 0 && pipe.waterLevelEnd[i] <= 360);
+        }
+    }
+}
+
+void TestPicking::cameraWithoutRectangleMisses()
+{
+    Cylinder pipe(0.1);
+    pipe.createVerticesInWorldCoord(MeasureMode::NoMeasure);
+    const MiniGL unsized;
+    Vec3 picked = untouched;
+    QVERIFY(!pipe.intersectRay(QPoint(0, 0), unsized, picked, Vec3::Zero));
+    QVERIFY(!pipe.intersectPlaneRay(QPoint(0, 0), unsized, picked, Vec3::Zero));
+    QVERIFY(!pipe.intersectRay(QPoint(9, 9), frontView(0.1).camera, picked,
+                               Vec3(notANumber, infinity, 0)));
+    COMPARE_EXACT(picked, untouched);
+}
+
+QTEST_GUILESS_MAIN(TestPicking)
+#include "tst_picking.moc"
