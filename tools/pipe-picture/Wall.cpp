@@ -306,10 +306,10 @@ void Wall::spall(Surface &surface, const Place &place) const
         return;
     const NoiseSample stones =
         fractalWithSlope(place.q * 17.0, place.octaves(17.0, 4), m_scene.seed + spallSeed + 9);
-    surface.albedo = mix(siltBrown, aggregate, smoothStep(-0.7, 0.9, stones.value));
+    surface.albedo = mix(siltBrown * 0.6, aggregate, smoothStep(-0.55, 0.75, stones.value));
     if (m_scene.clean)
         surface.albedo = limeWhite;
-    surface.albedo = surface.albedo * mix(0.18, 1.1, smoothStep(0.0, 0.16, inside));
+    surface.albedo = surface.albedo * mix(0.10, 0.75, smoothStep(0.02, 0.22, inside));
     surface.normal = place.hit.normal;
     surface.gloss = 0.0;
     bump(surface, stones.gradient, m_scene.clean ? 0.0 : 0.030);
