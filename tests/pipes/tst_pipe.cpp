@@ -1,0 +1,527 @@
+#include "pipes/PipeDrawing.h"
+#include "support/TestCase.h"
+#include "support/Tolerances.h"
+#include "zalento/pipes/Pipe.h"
+
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace Drevon::Zalento;
+using namespace Drevon::Zalento::Test;
+
+Q_DECLARE_METATYPE(Drevon::Zalento::MeasureMode)
+Q_DECLARE_METATYPE(Drevon::Zalento::ObservableType)
+
+namespace {
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double planeShare = 0.3;
+constexpr double planeZ = -3.0 * planeShare;
+
+// Places that the click flows speak of, as fractions of the radius. A click at a snaps to A, one
+// at x does not: 12 % of the diameter are 0.24 radii.
+const QHash<QChar, QPointF> &places()
+{
+    static const QHash<QChar, QPointF> result{
+        {'A', {0.7, 0.0}}, {'B', {0.0, 0.7}}, {'C', {-0.7, 0.0}}, {'D', {0.0, -0.7}},
+        {'a', {0.5, 0.2}}, {'x', {0.4, 0.1}}, {'H', {0.6, 0.6}}};
+    return result;
+}
+
+Vec3 placeOf(QChar name, double radius)
+{
+    const QPointF place = places().value(name) * radius;
+    return {place.x(), place.y(), planeZ};
+}
+
+class MeasuredPipe : public Pipe
+{
+public:
+    explicit MeasuredPipe(MeasureMode mode = MeasureMode::NoMeasure)
+    {
+        camera.onResize(drawingArea);
+        diameterMM = 300;
+        setDiameterM(0.3);
+        cylinder.createVerticesInWorldCoord(mode);
+        setCrossSectDistancePercent(planeShare);
+        measureMode = mode;
+        setupMiniGL(getDiameterM(), {});
+        connect(this, &Pipe::hitPointListSizeChanged, this,
+                [this](int size) { signalLog << QString::number(size); });
+        connect(this, &Pipe::measure1Changed, this,
+                [this](double m) { signalLog << QString("first %1").arg(m); });
+        connect(this, &Pipe::measure2Changed, this,
+                [this](double m) { signalLog << QString("second %1").arg(m); });
+    }
+
+    // On the wall a place means its direction from the axis.
+    Vec3 target(QChar name) const
+    {
+        const bool onPlane = measureMode == MeasureMode::CrossSection ||
+                             measureMode == MeasureMode::FreeCrossSection;
+        Vec3 p = placeOf(name, cylinder.radiusM);
+        if (!onPlane) {
+            const double stretch = cylinder.radiusM / std::hypot(p.x, p.y);
+            p = Vec3(p.x * stretch, p.y * stretch, p.z);
+        }
+        return p;
+    }
+
+    void click(QChar name)
+    {
+        const QPointF pixel = pixelOf(*this, target(name)) - drawingArea.topLeft();
+        addMeasurePoint(QPoint(int(pixel.x()), int(pixel.y())), 1, Vec3::Zero);
+    }
+
+    void perform(const QString &step)
+    {
+        if (step == "undo") {
+            undoHitPointList();
+        } else if (step == "miss") {
+            addMeasurePoint(QPoint(288, 288), 1, Vec3(notANumber, 0, 0));
+        } else if (step == "select") {
+            selectedIndex = 0;
+        } else if (step == "highlight") {
+            highlightPoint = placeOf('H', cylinder.radiusM);
+        } else if (step == "level") {
+            setWaterLevelPercent(0.2);
+        } else if (step == "dry") {
+            setWaterLevelPercent(-0.0);
+        } else {
+            click(step.at(0));
+        }
+    }
+
+    // "A B C A": a place is named within two pixels on the plane.
+    QString pointNames() const
+    {
+        constexpr double twoPixelsM = 0.0035;
+        QStringList names;
+        for (const HitPoint &point : hitPoints) {
+            QString name = "?";
+            for (auto it = places().begin(); it != places().end(); ++it) {
+                const Vec3 wanted = target(it.key());
+                if (std::hypot(point.position.x - wanted.x, point.position.y - wanted.y) <
+                    twoPixelsM) {
+                    name = it.key();
+                }
+            }
+            names << name;
+        }
+        return names.join(' ');
+    }
+
+    QStringList signalLog;
+};
+
+// "line green 3": kind and pen, and what a label says.
+QStringList summary(const QVector<PaintCall> &calls)
+{
+    QStringList lines;
+    for (const PaintCall &call : calls) {
+        switch (call.kind) {
+        case PaintCall::Kind::PolylineFloat:
+            addCounted(lines, "line " + penName(call.pen));
+            break;
+        case PaintCall::Kind::LinesFloat:
+            addCounted(lines, "segment " + penName(call.pen));
+            break;
+        case PaintCall::Kind::EllipseInt:
+            addCounted(lines,
+                       QString("circle %1 %2").arg(call.points[1].x()).arg(penName(call.pen)));
+            break;
+        case PaintCall::Kind::Path:
+            addCounted(lines, call.pen.style() == Qt::NoPen ? "disc" : "rim " + penName(call.pen));
+            break;
+        case PaintCall::Kind::Text:
+            lines << call.text;
+            break;
+        default:
+            addCounted(lines, call.pen.style() == Qt::NoPen ? "box" : call.toString());
+        }
+    }
+    return lines;
+}
+
+} // namespace
+
+class TestPipe : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void initialState()
+    {
+        const Pipe pipe;
+        COMPARE_EXACT(pipe.getDiameterM(), 0.1);
+        QCOMPARE(pipe.selectedIndex, -1);
+        QCOMPARE(pipe.cameraCrackIni, std::string("LASER;;;50"));
+        QVERIFY(pipe.laserPresent && !pipe.laserCalibrated && !pipe.cylinder.verticesUpToDate);
+        QVERIFY(pipe.hitPoints.empty() && pipe.highlightPoint == Vec3::Zero);
+        QCOMPARE(pipe.laserScale + pipe.laserDistance, 0.0); // nothing is parsed yet
+        const QMetaObject *meta = pipe.metaObject();
+        QCOMPARE(meta->className(), "Drevon::Zalento::Pipe");
+        QStringList methods;
+        for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
+            methods << meta->method(i).methodSignature() + ' ' +
+                           meta->method(i).parameterNames().join();
+        }
+        QCOMPARE(methods, (QStringList{"hitPointListSizeChanged(int) size",
+                                       "measure1Changed(double) m_measure",
+                                       "measure2Changed(double) m_measure"}));
+    }
+
+    void clicks_data()
+    {
+        QTest::addColumn<MeasureMode>("mode");
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QString>("sizes");
+        QTest::addColumn<QString>("points");
+        const auto plane = MeasureMode::CrossSection;
+        QTest::newRow("open polygon") << plane << "A B C D"
+                                      << "1 2 3 4"
+                                      << "A B C D";
+        QTest::newRow("two points do not snap") << plane << "A B a"
+                                                << "1 2 3"
+                                                << "A B a";
+        QTest::newRow("the third closes by snapping") << plane << "A B C a"
+                                                      << "1 2 3 4"
+                                                      << "A B C A";
+        QTest::newRow("beyond the snap distance") << plane << "A B C x"
+                                                  << "1 2 3 4"
+                                                  << "A B C x";
+        QTest::newRow("a click on a closed polygon starts anew") << plane << "A B C a B"
+                                                                 << "1 2 3 4 0 1"
+                                                                 << "B";
+        QTest::newRow("near the old start, the new polygon still snaps") << plane << "A B C a a"
+                                                                         << "1 2 3 4 0 1"
+                                                                         << "A";
+        QTest::newRow("selected first point closes, the click is dropped")
+            << plane << "A B C select D"
+            << "1 2 3 4"
+            << "A B C A";
+        QTest::newRow("selected first point of two is no polygon") << plane << "A B select D"
+                                                                   << "1 2 3"
+                                                                   << "A B D";
+        QTest::newRow("starting anew forgets the selection") << plane << "A B C select D B C D A"
+                                                             << "1 2 3 4 0 1 2 3 4"
+                                                             << "B C D A";
+        QTest::newRow("a highlighted wall point is taken") << plane << "A B C highlight D"
+                                                           << "1 2 3 4"
+                                                           << "A B C H";
+        QTest::newRow("a highlighted wall point wins over the snap") << plane << "A B C highlight a"
+                                                                     << "1 2 3 4"
+                                                                     << "A B C H";
+        QTest::newRow("undo opens a closed polygon") << plane << "A B C a undo D"
+                                                     << "1 2 3 4 3 4"
+                                                     << "A B C D";
+        QTest::newRow("undo of nothing is silent") << plane << "A undo undo"
+                                                   << "1 0"
+                                                   << "";
+        QTest::newRow("a miss reports the size") << plane << "miss A miss"
+                                                 << "0 1 1"
+                                                 << "A";
+        QTest::newRow("a miss leaves a closed polygon") << plane << "A B C a miss"
+                                                        << "1 2 3 4 4"
+                                                        << "A B C A";
+        QTest::newRow("water clears") << plane << "A B level"
+                                      << "1 2 0"
+                                      << "";
+        QTest::newRow("water clears nothing, loudly") << plane << "level"
+                                                      << "0"
+                                                      << "";
+        QTest::newRow("no water keeps the points") << plane << "A B dry"
+                                                   << "1 2"
+                                                   << "A B";
+        QTest::newRow("free cross section closes too")
+            << MeasureMode::FreeCrossSection << "A B C a D"
+            << "1 2 3 4 0 1"
+            << "D";
+        for (const auto mode : {MeasureMode::NoMeasure, MeasureMode::PipeDimension,
+                                MeasureMode::WaterLevel, MeasureMode(17)}) {
+            QTest::addRow("wall points in mode %d: no snap, no closing, no highlight", int(mode))
+                << mode << "A B C select highlight A miss D"
+                << "1 2 3 4 4 5"
+                << "A B C A D";
+        }
+    }
+
+    void clicks()
+    {
+        QFETCH(MeasureMode, mode);
+        QFETCH(QString, steps);
+        MeasuredPipe pipe(mode);
+        const QStringList list = steps.split(' ');
+        for (const QString &step : list) {
+            pipe.perform(step);
+        }
+        QTEST(pipe.pointNames(), "points");
+        QTEST(pipe.signalLog.join(' '), "sizes");
+        const QStringList names = pipe.pointNames().split(' ');
+        const bool closed = names.size() > 1 && names.first() == names.last();
+        if (closed && mode == MeasureMode::CrossSection) {
+            COMPARE_EXACT(pipe.hitPoints.back().position, pipe.hitPoints.front().position);
+        }
+    }
+
+    void closingCopiesTheWholeFirstPoint()
+    {
+        MeasuredPipe pipe(MeasureMode::CrossSection);
+        for (const QChar name : QStringLiteral("ABC")) {
+            pipe.click(name);
+        }
+        pipe.hitPoints[0].isAnchor = false;
+        pipe.hitPoints[0].screenPos = Vec2(3, 4);
+        pipe.selectedIndex = 0;
+        pipe.click('D');
+        QVERIFY(!pipe.hitPoints[3].isAnchor);
+        QCOMPARE(pipe.hitPoints[3].screenPos.y, 4.0);
+    }
+
+    void snapping()
+    {
+        MeasuredPipe pipe;
+        const std::vector<HitPoint> list{HitPoint({0.1, 0, 0})};
+        const Vec3 near(0.1 + 0.0359, -0.0359, 0.0359);
+        COMPARE_EXACT(pipe.snapToFirst(list, near), near); // the pipe itself holds no points
+        pipe.hitPoints.assign(3, HitPoint({9, 9, 9}));
+        COMPARE_EXACT(pipe.snapToFirst(list, near), list[0].position);
+        const Vec3 beyond(0.1, 0, 0.0361);
+        COMPARE_EXACT(pipe.snapToFirst(list, beyond), beyond);
+        COMPARE_EXACT(pipe.snapToFirst({}, near), near);
+    }
+
+    void pointsLieWhereTheyWereClicked_data()
+    {
+        QTest::addColumn<MeasureMode>("mode");
+        QTest::addColumn<double>("tolerancePx");
+        // Single precision of 1 m in 1.6 mm pixels, and some roundings of it.
+        QTest::newRow("plane") << MeasureMode::CrossSection << 0.002;
+        QTest::newRow("wall") << MeasureMode::PipeDimension << 1e-6;
+    }
+
+    void pointsLieWhereTheyWereClicked()
+    {
+        QFETCH(MeasureMode, mode);
+        QFETCH(double, tolerancePx);
+        QRandomGenerator random(20);
+        int hits = 0;
+        for (int i = 0; i < 300; ++i) {
+            MeasuredPipe pipe(mode);
+            pipe.cameraHeight = random.bounded(1.0);
+            const Vec3 rotation(random.bounded(1.0) - 0.5, random.bounded(1.0) - 0.5,
+                                random.bounded(360));
+            const QPoint offset(random.bounded(-80, 80), 0);
+            pipe.setupMiniGL(0.3, offset);
+            const QPoint pixel(random.bounded(576), random.bounded(576));
+            pipe.addMeasurePoint(pixel, 1, rotation);
+            if (pipe.hitPoints.empty()) {
+                continue;
+            }
+            ++hits;
+            const Vec3 p = pipe.hitPoints[0].position;
+            COMPARE_NEAR(pixelOf(pipe, p, rotation, offset),
+                         QPointF(pixel) + QPointF(0.5, 0.5) + drawingArea.topLeft(),
+                         (Tolerance{tolerancePx, "px"}));
+            if (mode == MeasureMode::CrossSection) {
+                COMPARE_NEAR(p.z, planeZ, singlePrecisionTolerance);
+            } else {
+                COMPARE_NEAR(std::hypot(p.x, p.y), 0.15, sceneTolerance);
+            }
+        }
+        QVERIFY(hits > 150);
+    }
+
+    void crackPointsAreFractionsOfThePicture()
+    {
+        Pipe pipe;
+        pipe.measureMode = MeasureMode::CrackWidth;
+        QSignalSpy sizes(&pipe, &Pipe::hitPointListSizeChanged);
+        pipe.addMeasurePoint(QPoint(384, 288), 1, Vec3::Zero); // before the picture has a size
+        QCOMPARE(sizes.takeFirst().at(0).toInt(), 0);
+        pipe.camera.onResize(QRectF(100, 50, 768, 576));
+        pipe.addMeasurePoint(QPoint(384, 288), 1, Vec3(notANumber, notANumber, notANumber));
+        COMPARE_EXACT(pipe.hitPoints.at(0).position, Vec3(0.5, 0.5, 0));
+        pipe.addMeasurePoint(QPoint(-384, 1152), 1, Vec3::Zero);
+        COMPARE_EXACT(pipe.hitPoints.at(1).position, Vec3(-0.5, 2, 0));
+    }
+
+    void crossSectionDistance_data()
+    {
+        QTest::addColumn<double>("share");
+        QTest::addColumn<double>("kept");
+        QTest::newRow("within") << 0.5 << 0.5;
+        QTest::newRow("beyond the end") << 1.5 << 1.0;
+        QTest::newRow("before the mouth") << -0.1 << 0.0;
+        QTest::newRow("not a number") << notANumber << planeShare;
+    }
+
+    void crossSectionDistance()
+    {
+        QFETCH(double, share);
+        QFETCH(double, kept);
+        MeasuredPipe pipe(MeasureMode::CrossSection);
+        pipe.click('A');
+        pipe.hitPoints.emplace_back(Vec3(1, 2, 3));
+        pipe.setCrossSectDistancePercent(planeShare);
+        pipe.signalLog.clear();
+        pipe.setCrossSectDistancePercent(share);
+        COMPARE_EXACT(pipe.cylinder.crossSectDistancePercent, kept);
+        for (const HitPoint &point : pipe.hitPoints) {
+            COMPARE_EXACT(point.position.z, -(pipe.cylinder.lengthM * kept));
+        }
+        COMPARE_EXACT(pipe.hitPoints[1].position.y, 2.0);
+        QVERIFY(pipe.signalLog.isEmpty());
+    }
+
+    void drawing_data()
+    {
+        QTest::addColumn<MeasureMode>("mode");
+        QTest::addColumn<int>("viewStyle");
+        QTest::addColumn<QString>("steps");
+        QTest::addColumn<QString>("drawn");
+        QTest::addColumn<QString>("sent");
+        const QString rings = "line green 3, line green/80 2 x9, line green 1";
+        const QString disc = "disc, rim cyan 3";
+        const QString once = "first 0, second 0";
+        const auto none = MeasureMode::NoMeasure;
+        const auto plane = MeasureMode::CrossSection;
+        const auto water = MeasureMode::WaterLevel;
+        QTest::newRow("all rings") << none << 2 << "" << rings << "";
+        QTest::newRow("ends") << none << 1 << ""
+                              << "line green 3, line green 1"
+                              << "";
+        QTest::newRow("no rings") << none << 0 << ""
+                                  << ""
+                                  << "";
+        QTest::newRow("an unknown style has no rings") << none << 9 << ""
+                                                       << ""
+                                                       << "";
+        QTest::newRow("one wall point") << none << 0 << "A"
+                                        << "circle 6 cyan 2" << once;
+        QTest::newRow("the plane") << plane << 1 << ""
+                                   << "line green 3, line green 1, " + disc << "";
+        QTest::newRow("plane without rings, one point")
+            << plane << 0 << "A" << disc + ", circle 6 cyan 2" << once;
+        QTest::newRow("selected first point")
+            << plane << 0 << "select A B"
+            << disc + ", circle 20 cyan 1, circle 6 cyan 2, line cyan 2, circle 6 cyan 2, box, "
+                      "14.9 cm (49.5 %)"
+            << "first *, second 0";
+        QTest::newRow("a single selected point is as good as closed")
+            << plane << 0 << "select A" << disc + ", circle 6 cyan 2" << once;
+        QTest::newRow("highlighted wall point")
+            << plane << 0 << "A highlight" << disc + ", circle 20 cyan 1, circle 6 cyan 2" << once;
+        QTest::newRow("highlighted wall point without points")
+            << plane << 0 << "highlight" << disc << "";
+        QTest::newRow("the free section shows no highlight")
+            << MeasureMode::FreeCrossSection << 0 << "A highlight" << disc + ", circle 6 cyan 2"
+            << once;
+        QTest::newRow("closed polygon")
+            << plane << 0 << "A B C D A" << disc + ", line cyan 2, box, *, box, 31 %"
+            << "first *, second *";
+        QTest::newRow("water, points not drawn")
+            << water << 1 << "level A B"
+            << "line green 3, line green 1, line cyan 2, segment cyan 2, line cyan 1, segment cyan "
+               "1 x3, "
+               "box,  20 % "
+            << "";
+        QTest::newRow("no water") << water << 0 << ""
+                                  << "box,  0 % "
+                                  << "";
+        QTest::newRow("crack without points") << MeasureMode::CrackWidth << 2 << ""
+                                              << ""
+                                              << "";
+        QTest::newRow("crack without a scale")
+            << MeasureMode::CrackWidth << 2 << "A B"
+            << "circle 6 cyan 2, line cyan 2, circle 6 cyan 2" << once;
+    }
+
+    void drawing()
+    {
+        QFETCH(MeasureMode, mode);
+        QFETCH(int, viewStyle);
+        QFETCH(QString, steps);
+        QFETCH(QString, drawn);
+        QFETCH(QString, sent);
+        MeasuredPipe pipe(mode);
+        const QStringList list = steps.split(' ', Qt::SkipEmptyParts);
+        for (const QString &step : list) {
+            pipe.perform(step);
+        }
+        pipe.signalLog.clear();
+        pipe.observable = ObservableType::BranchAngle;
+        const Mat4 before = pipe.camera.modelViewMatrix;
+        const QString got = summary(painted(pipe, viewStyle)).join(", ");
+        // '*' stands for a number that other rows and tests check.
+        const auto matches = [](const QString &text, const QString &pattern) {
+            const auto flags = QRegularExpression::NoPatternOption;
+            const QString expression = QRegularExpression::escape(pattern).replace("\\*", "[^,]+");
+            return QRegularExpression("^" + expression + "$", flags).match(text).hasMatch();
+        };
+        QVERIFY2(matches(got, drawn), qPrintable(got));
+        QVERIFY2(matches(pipe.signalLog.join(", "), sent), qPrintable(pipe.signalLog.join(", ")));
+        QVERIFY(pipe.camera.modelViewStack.empty());
+        QVERIFY(std::equal(before.m, before.m + 16, pipe.camera.modelViewMatrix.m));
+        if (mode == MeasureMode::WaterLevel) {
+            QCOMPARE(pipe.observable, ObservableType::WaterLevelPercent);
+            COMPARE_EXACT(pipe.measure1, pipe.cylinder.waterLevelPercent);
+        } else if (pipe.hitPoints.empty() && mode == MeasureMode::NoMeasure) {
+            QCOMPARE(pipe.observable, ObservableType::BranchAngle);
+        }
+    }
+
+    void measuresOfClickedPolygons_data()
+    {
+        QTest::addColumn<MeasureMode>("mode");
+        QTest::addColumn<ObservableType>("kind");
+        QTest::newRow("area and its share") << MeasureMode::CrossSection << ObservableType::Area;
+        QTest::newRow("free share")
+            << MeasureMode::FreeCrossSection << ObservableType::FreeAreaPercent;
+    }
+
+    void measuresOfClickedPolygons()
+    {
+        QFETCH(MeasureMode, mode);
+        MeasuredPipe pipe(mode);
+        for (const QChar name : QStringLiteral("ABCDa")) {
+            pipe.click(name);
+        }
+        pipe.signalLog.clear();
+        painted(pipe, 0);
+        // A square on its corner: half the product of its diagonals of 1.4 radii.
+        const double area = 0.5 * 210 * 210;
+        const double pipeArea = M_PI * 150 * 150;
+        const Tolerance onePixelAlongTheSides{4 * 150 * 1.6, "mm²"};
+        QTEST(pipe.observable, "kind");
+        if (mode == MeasureMode::CrossSection) {
+            COMPARE_NEAR(pipe.measure1, area, onePixelAlongTheSides);
+            COMPARE_NEAR(pipe.measure2, pipe.measure1 / pipeArea, roundingTolerance);
+        } else {
+            COMPARE_NEAR((1 - pipe.measure1) * pipeArea, area, onePixelAlongTheSides);
+        }
+        QCOMPARE(pipe.signalLog, (QStringList{QString("first %1").arg(pipe.measure1),
+                                              QString("second %1").arg(pipe.measure2)}));
+    }
+
+    void crackWithAScale()
+    {
+        MeasuredPipe pipe(MeasureMode::CrackWidth);
+        pipe.hitPoints = {HitPoint({0.25, 0.5, 0}), HitPoint({0.75, 0.5, 0})};
+        pipe.calibrateLaser(0.125);
+        const QStringList drawn = summary(painted(pipe, 2));
+        COMPARE_NEAR(pipe.measure1, 0.5 * 576 * 0.125, millimetreTolerance);
+        QCOMPARE(drawn.last(), QString("36 mm"));
+        QCOMPARE(pipe.observable, ObservableType::Length);
+        // Fractions of the drawing area, wherever it lies.
+        COMPARE_NEAR(pipe.hitPoints[0].screenPos, Vec2(96 + 144, 288), pixelTolerance);
+    }
+};
+
+QTEST_MAIN(TestPipe)
+#include "tst_pipe.moc"
