@@ -24,8 +24,8 @@ struct CameraSettings
  * Pinhole camera before the mouth of a pipe.
  *
  * Frames: *pipe frame*, metres, origin in the centre of the mouth, the pipe along −z, +y up and +x
- * to the left for somebody who looks into the pipe (a viewer's left, so the frame is left-handed as
- * seen; angles about the axis grow clockwise in the picture). *View frame*: the pipe frame after
+ * to the left of somebody who looks into the pipe, so that angles about the axis grow clockwise in
+ * the picture. *View frame*: the pipe frame after
  * roll, pitch and yaw, in which the camera looks along −z. *Picture*: pixels, x to the right, y
  * down, pixel (i, j) covers [i, i + 1) × [j, j + 1).
  *

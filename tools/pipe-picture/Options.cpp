@@ -255,7 +255,7 @@ ParsedOptions parseOptions(const QStringList &arguments)
         parsed.text = parser.errorText();
         return parsed;
     }
-    if (parser.isSet(QStringLiteral("help"))) {
+    if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("help-all"))) {
         parsed.action = ParsedOptions::Action::ShowHelp;
         parsed.text = parser.helpText();
         return parsed;

@@ -21,7 +21,9 @@ constexpr double highlightStrength = 0.55;
 
 constexpr Vec lampColour{1.0, 0.985, 0.94};
 constexpr Vec waterBrown{0.050, 0.042, 0.026};
-constexpr Vec foam{0.45, 0.43, 0.38};
+// What is left of the bed's colours after the way through the water.
+constexpr Vec waterTint{0.5, 0.42, 0.3};
+constexpr Vec foamWhite{0.45, 0.43, 0.38};
 constexpr Vec laserRed{1.0, 0.10, 0.06};
 constexpr double laserPeak = 16.0;
 constexpr double laserGlow = 0.10;
@@ -32,6 +34,8 @@ constexpr double waterReflectance = 0.02;
 constexpr double waterClearShare = 0.035;
 // Width of the dark line where water meets wall: the scum at its edge, share of the diameter.
 constexpr double scumShare = 0.012;
+// Height of the ripples over their length.
+constexpr double rippleHeight = 0.012;
 constexpr quint32 rippleSeed = 211;
 constexpr quint32 foamSeed = 223;
 
@@ -112,47 +116,52 @@ double Shader::distanceToWall(const Vec &onWater) const
     return std::sqrt(squared(m_scene.radiusM()) - squared(m_shape.waterY())) - std::fabs(onWater.x);
 }
 
-Vec Shader::water(const Ray &ray, const Hit &hit) const
+Shader::WaterSurface Shader::waterSurface(const Hit &hit) const
 {
+    WaterSurface surface{hit.normal, 0.0, distanceToWall(hit.point) / m_diameter};
+    if (m_scene.clean)
+        return surface;
+    // Ripples are drawn out along the flow and die away at the wall.
     const Vec q = hit.point * (1.0 / m_diameter);
-    const double toWall = distanceToWall(hit.point) / m_diameter;
+    const Vec slope =
+        fractalWithSlope(q * Vec{9.0, 1.0, 3.2}, 3, m_scene.seed + rippleSeed).gradient;
+    const double height = -rippleHeight * smoothStep(0.0, 0.08, surface.toWall);
+    surface.normal = normalized({height * slope.x, 1.0, height * slope.z});
+    surface.foam =
+        smoothStep(0.72, 0.80, fractal(q * Vec{24.0, 1.0, 15.0}, 3, m_scene.seed + foamSeed));
+    return surface;
+}
 
-    Vec normal = hit.normal;
-    double floating = 0.0;
-    if (!m_scene.clean) {
-        // Ripples are drawn out along the flow and die away at the wall.
-        const NoiseSample ripple =
-            fractalWithSlope(q * Vec{9.0, 1.0, 3.2}, 3, m_scene.seed + rippleSeed);
-        const double calm = smoothStep(0.0, 0.08, toWall);
-        normal =
-            normalized({-0.012 * calm * ripple.gradient.x, 1.0, -0.012 * calm * ripple.gradient.z});
-        floating =
-            smoothStep(0.72, 0.80, fractal(q * Vec{24.0, 1.0, 15.0}, 3, m_scene.seed + foamSeed));
-    }
-
-    const double grazing = 1.0 - std::fmax(-dot(ray.direction, normal), 0.0);
-    const double mirrored = waterReflectance + (1.0 - waterReflectance) * std::pow(grazing, 5.0);
-    Vec up = reflected(ray.direction, normal);
-    up.y = std::fmax(up.y, 1e-3);
-    const Ray mirrorRay{hit.point + Vec{0.0, 1e-6 * m_diameter, 0.0}, normalized(up)};
-    const Vec mirror = lightAt(mirrorRay, m_shape.traceDry(mirrorRay));
-
+/** Light that comes out of the water: from the murk, and where it is shallow from the bed. */
+Vec Shader::underWater(const Ray &ray, const Hit &hit, const WaterSurface &surface) const
+{
     const Vec toLamp = m_lamp - hit.point;
     const double distance = length(toLamp);
     const double arriving = lampGain * lampBeam(toLamp * (-1.0 / distance)) * toLamp.y / distance /
                             std::pow(distance / m_diameter, m_scene.lens.falloff);
-    const Ray below{hit.point, ray.direction};
-    const Hit bed = m_shape.traceDry(below);
-    const double veil =
-        1.0 - std::exp(-bed.distance * std::fabs(ray.direction.y) / (waterClearShare * m_diameter));
-    const Vec murk =
-        mix(waterBrown, foam, 0.7 * floating) * (std::fmax(arriving, 0.0) + wallLight * 0.5);
-    const Vec bedLight = bed.part == Part::Nothing ? Vec{} : solid(ray, bed) * Vec{0.5, 0.42, 0.3};
-    Vec colour = mix(bedLight, murk, std::fmax(veil, floating));
-    colour = mix(colour, mirror, mirrored * (1.0 - floating));
-    if (toWall >= 0.0 && toWall < scumShare)
-        colour = colour * mix(0.3, 1.0, toWall / scumShare);
-    return colour;
+    const Vec murk = mix(waterBrown, foamWhite, 0.7 * surface.foam) *
+                     (std::fmax(arriving, 0.0) + wallLight * 0.5);
+    const Hit bed = m_shape.traceDry({hit.point, ray.direction});
+    if (bed.part == Part::Nothing)
+        return murk;
+    const double depth = bed.distance * std::fabs(ray.direction.y) / m_diameter;
+    const double veil = 1.0 - std::exp(-depth / waterClearShare);
+    return mix(solid(ray, bed) * waterTint, murk, std::fmax(veil, surface.foam));
+}
+
+Vec Shader::water(const Ray &ray, const Hit &hit) const
+{
+    const WaterSurface surface = waterSurface(hit);
+    const double grazing = 1.0 - std::fmax(-dot(ray.direction, surface.normal), 0.0);
+    // Schlick's form of the reflectance of a clear surface.
+    const double mirrored = waterReflectance + (1.0 - waterReflectance) * std::pow(grazing, 5.0);
+    Vec up = reflected(ray.direction, surface.normal);
+    up.y = std::fmax(up.y, 1e-3);
+    const Ray mirrorRay{hit.point + Vec{0.0, 1e-6 * m_diameter, 0.0}, normalized(up)};
+    const Vec mirror = lightAt(mirrorRay, m_shape.traceDry(mirrorRay));
+    const Vec colour = mix(underWater(ray, hit, surface), mirror, mirrored * (1.0 - surface.foam));
+    const bool atEdge = surface.toWall >= 0.0 && surface.toWall < scumShare;
+    return atEdge ? colour * mix(0.3, 1.0, surface.toWall / scumShare) : colour;
 }
 
 } // namespace PipePicture

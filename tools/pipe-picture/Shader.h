@@ -14,9 +14,18 @@ public:
     Vec light(const Ray &ray) const;
 
 private:
+    struct WaterSurface
+    {
+        Vec normal;
+        double foam;   ///< 1 where foam covers the water
+        double toWall; ///< share of the diameter
+    };
+
     Vec lightAt(const Ray &ray, const Hit &hit) const;
     Vec solid(const Ray &ray, const Hit &hit) const;
     Vec water(const Ray &ray, const Hit &hit) const;
+    WaterSurface waterSurface(const Hit &hit) const;
+    Vec underWater(const Ray &ray, const Hit &hit, const WaterSurface &surface) const;
     double distanceToWall(const Vec &onWater) const;
     Vec lasers(const Hit &hit) const;
     double lampBeam(const Vec &fromLamp) const;
