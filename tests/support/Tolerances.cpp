@@ -2,7 +2,7 @@
 
 #include <cmath>
 #include <cstring>
-#include <initializer_list>
+#include <vector>
 
 namespace Drevon::Zalento::Test {
 
@@ -10,91 +10,127 @@ namespace {
 
 struct NamedValues
 {
-    const char *name;
+    QByteArray name;
     double got;
     double expected;
 };
 
-QByteArray digits(double value)
+using Parts = std::vector<NamedValues>;
+
+Parts parts(double got, double expected)
 {
-    return QByteArray::number(value, 'g', 17);
+    return {{"", got, expected}};
 }
 
-Comparison allNear(std::initializer_list<NamedValues> parts, const Tolerance &tolerance)
+Parts parts(const QPointF &got, const QPointF &expected)
 {
-    Comparison result{true, {}};
-    for (const NamedValues &part : parts) {
-        const double difference = std::abs(part.got - part.expected);
-        const bool same = part.got == part.expected ||
-                          (std::isnan(part.got) && std::isnan(part.expected)) ||
-                          difference <= tolerance.limit;
-        if (same)
-            continue;
-        result.equal = false;
-        result.message += QByteArray(part.name) + "expected " + digits(part.expected) + ", got " +
-                          digits(part.got) + ", difference " + digits(difference) + ", limit " +
-                          digits(tolerance.limit) + ' ' + tolerance.unit + "; ";
+    return {{"x: ", got.x(), expected.x()}, {"y: ", got.y(), expected.y()}};
+}
+
+Parts parts(const Vec2 &got, const Vec2 &expected)
+{
+    return {{"x: ", got.x, expected.x}, {"y: ", got.y, expected.y}};
+}
+
+Parts parts(const Vec3 &got, const Vec3 &expected)
+{
+    return {{"x: ", got.x, expected.x}, {"y: ", got.y, expected.y}, {"z: ", got.z, expected.z}};
+}
+
+Parts parts(const Mat4 &got, const Mat4 &expected)
+{
+    Parts result;
+    for (int i = 0; i < 16; ++i) {
+        result.push_back({"m[" + QByteArray::number(i) + "]: ", got.m[i], expected.m[i]});
     }
     return result;
 }
 
-bool sameBits(double a, double b)
+bool isNear(const NamedValues &part, double limit)
 {
-    return std::memcmp(&a, &b, sizeof a) == 0 || (std::isnan(a) && std::isnan(b));
+    return part.got == part.expected || (std::isnan(part.got) && std::isnan(part.expected)) ||
+           std::abs(part.got - part.expected) <= limit;
 }
 
-Comparison allExact(std::initializer_list<NamedValues> parts)
+bool isExact(const NamedValues &part)
 {
+    return std::memcmp(&part.got, &part.expected, sizeof part.got) == 0 ||
+           (std::isnan(part.got) && std::isnan(part.expected));
+}
+
+// One sentence for each part that is not equal.
+template <class IsEqual>
+Comparison compare(const Parts &parts, const QByteArray &limit, const IsEqual &isEqual)
+{
+    const auto digits = [](double value) { return QByteArray::number(value, 'g', 17); };
     Comparison result{true, {}};
     for (const NamedValues &part : parts) {
-        if (sameBits(part.got, part.expected))
-            continue;
-        result.equal = false;
-        result.message += QByteArray(part.name) + "expected exactly " + digits(part.expected) +
-                          ", got " + digits(part.got) + ", difference " +
-                          digits(part.got - part.expected) + ", limit 0; ";
+        if (!isEqual(part)) {
+            result.equal = false;
+            result.message += part.name + "expected " + digits(part.expected) + ", got " +
+                              digits(part.got) + ", difference " +
+                              digits(part.got - part.expected) + ", limit " + limit + "; ";
+        }
     }
     return result;
+}
+
+Comparison allNear(const Parts &parts, const Tolerance &tolerance)
+{
+    return compare(parts, QByteArray::number(tolerance.limit) + ' ' + tolerance.unit,
+                   [&](const NamedValues &part) { return isNear(part, tolerance.limit); });
+}
+
+Comparison allExact(const Parts &parts)
+{
+    return compare(parts, "none", isExact);
 }
 
 } // namespace
 
 Comparison compareNear(double got, double expected, const Tolerance &tolerance)
 {
-    return allNear({{"", got, expected}}, tolerance);
+    return allNear(parts(got, expected), tolerance);
 }
 
 Comparison compareNear(const QPointF &got, const QPointF &expected, const Tolerance &tolerance)
 {
-    return allNear({{"x: ", got.x(), expected.x()}, {"y: ", got.y(), expected.y()}}, tolerance);
+    return allNear(parts(got, expected), tolerance);
 }
 
 Comparison compareNear(const Vec2 &got, const Vec2 &expected, const Tolerance &tolerance)
 {
-    return allNear({{"x: ", got.x, expected.x}, {"y: ", got.y, expected.y}}, tolerance);
+    return allNear(parts(got, expected), tolerance);
 }
 
 Comparison compareNear(const Vec3 &got, const Vec3 &expected, const Tolerance &tolerance)
 {
-    return allNear(
-        {{"x: ", got.x, expected.x}, {"y: ", got.y, expected.y}, {"z: ", got.z, expected.z}},
-        tolerance);
+    return allNear(parts(got, expected), tolerance);
+}
+
+Comparison compareNear(const Mat4 &got, const Mat4 &expected, const Tolerance &tolerance)
+{
+    return allNear(parts(got, expected), tolerance);
 }
 
 Comparison compareExact(double got, double expected)
 {
-    return allExact({{"", got, expected}});
+    return allExact(parts(got, expected));
 }
 
 Comparison compareExact(const Vec2 &got, const Vec2 &expected)
 {
-    return allExact({{"x: ", got.x, expected.x}, {"y: ", got.y, expected.y}});
+    return allExact(parts(got, expected));
 }
 
 Comparison compareExact(const Vec3 &got, const Vec3 &expected)
 {
-    return allExact(
-        {{"x: ", got.x, expected.x}, {"y: ", got.y, expected.y}, {"z: ", got.z, expected.z}});
+    return allExact(parts(got, expected));
+}
+
+Comparison compareExact(const Mat4 &got, const Mat4 &expected)
+{
+    return allExact(parts(got, expected));
 }
 
 } // namespace Drevon::Zalento::Test

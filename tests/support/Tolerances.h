@@ -1,5 +1,6 @@
 #pragma once
 
+#include "zalento/math/Mat4.h"
 #include "zalento/math/Vec2.h"
 #include "zalento/math/Vec3.h"
 
@@ -44,12 +45,14 @@ Comparison compareNear(double got, double expected, const Tolerance &tolerance);
 Comparison compareNear(const QPointF &got, const QPointF &expected, const Tolerance &tolerance);
 Comparison compareNear(const Vec2 &got, const Vec2 &expected, const Tolerance &tolerance);
 Comparison compareNear(const Vec3 &got, const Vec3 &expected, const Tolerance &tolerance);
+Comparison compareNear(const Mat4 &got, const Mat4 &expected, const Tolerance &tolerance);
 
 /** The same bits, so that -0 differs from 0; any NaN matches any NaN. (QCOMPARE takes doubles as
     equal that differ in the twelfth digit.) */
 Comparison compareExact(double got, double expected);
 Comparison compareExact(const Vec2 &got, const Vec2 &expected);
 Comparison compareExact(const Vec3 &got, const Vec3 &expected);
+Comparison compareExact(const Mat4 &got, const Mat4 &expected);
 
 } // namespace Drevon::Zalento::Test
 
