@@ -49,7 +49,7 @@ void OrderedJson::addAll(const QJsonObject &members)
 
 QByteArray OrderedJson::toLine() const
 {
-    return "{" + joined("", ",") + "}";
+    return "{" + joined("", ", ") + "}";
 }
 
 QByteArray OrderedJson::toLines(const QByteArray &indent) const

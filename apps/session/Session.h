@@ -63,9 +63,9 @@ struct Session
     double rearCircleY = 0.0;      ///< the same, up and down
     double percentage = 0.0;       ///< MeasurementKind::percentageMeaning says of what
     double angleDEG = 90.0;        ///< of a branch, a bend or a joint
-    int clockDEG = 0;              ///< of a branch, a bend or a joint about the pipe's axis
-    bool viewDownstream = true;    ///< a bend is seen from the straight pipe
-    bool jointShown = false;       ///< in the kind BendAngle: a joint instead of a bend
+    int clockDEG = 0; ///< where a branch, a bend or a joint points, clockwise from the top
+    bool viewDownstream = true; ///< a bend is seen from the straight pipe
+    bool jointShown = false;    ///< in the kind BendAngle: a joint instead of a bend
     ViewStyle viewStyle = ViewStyle::Full;
     QString calibrationText = QStringLiteral("LASER;;;50"); ///< see Pipe::parseIniFile()
     /** Millimetres per picture pixel; wins over what the calibration text gives. */

@@ -19,6 +19,17 @@ Pipe *pipeOf(ZaItem &item)
     return dynamic_cast<Pipe *>(&item.getCurrentViewObject());
 }
 
+bool isInStep(const Session &session, const Pipe &pipe)
+{
+    return session.points.size() == static_cast<int>(pipe.hitPoints.size());
+}
+
+bool takesPoints(const Session &session)
+{
+    const MeasurementKind *kind = findMeasurementKind(session.kind);
+    return kind && kind->usesPoints;
+}
+
 void reportSize(Pipe &pipe)
 {
     Q_EMIT pipe.hitPointListSizeChanged(static_cast<int>(pipe.hitPoints.size()));
@@ -86,7 +97,7 @@ QVector<QPointF> applyPoints(Session &session, ZaItem &item)
 {
     QVector<QPointF> missed;
     Pipe *pipe = pipeOf(item);
-    if (!pipe || session.points.isEmpty()) {
+    if (!pipe || !takesPoints(session) || session.points.isEmpty()) {
         return missed;
     }
     const QVector<SessionPoint> points = session.points;
@@ -161,7 +172,7 @@ QVector<QPointF> applySession(Session &session, ZaItem &item)
 ClickResult clickPoint(Session &session, ZaItem &item, const QPointF &pixel)
 {
     Pipe *pipe = pipeOf(item);
-    if (!pipe) {
+    if (!pipe || !takesPoints(session)) {
         return ClickResult::Missed;
     }
     settle(item);
@@ -183,8 +194,7 @@ ClickResult clickPoint(Session &session, ZaItem &item, const QPointF &pixel)
 bool movePoint(Session &session, ZaItem &item, int index, const QPointF &pixel)
 {
     Pipe *pipe = pipeOf(item);
-    if (!pipe || index < 0 || index >= session.points.size() ||
-        session.points.size() != static_cast<int>(pipe->hitPoints.size())) {
+    if (!pipe || index < 0 || index >= session.points.size() || !isInStep(session, *pipe)) {
         return false;
     }
     const std::optional<Vec3> position = pick(item, pixel);
@@ -204,6 +214,23 @@ bool movePoint(Session &session, ZaItem &item, int index, const QPointF &pixel)
     }
     item.update();
     return true;
+}
+
+void changePercentage(Session &session, ZaItem &item, double percent)
+{
+    session.percentage = percent;
+    const MeasurementKind *kind = findMeasurementKind(session.kind);
+    if (kind && kind->usesPercentage) {
+        item.setPercentage(percent);
+    }
+    const Pipe *pipe = pipeOf(item);
+    if (!pipe || !isInStep(session, *pipe)) {
+        return;
+    }
+    for (int i = 0; i < session.points.size(); ++i) {
+        session.points[i].position =
+            withoutNegativeZero(pipe->hitPoints[static_cast<std::size_t>(i)].position);
+    }
 }
 
 std::optional<double> laserScale(const Session &session, ZaItem &item, const QPointF &first,

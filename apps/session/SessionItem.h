@@ -46,6 +46,9 @@ ClickResult clickPoint(Session &session, ZaItem &item, const QPointF &pixel);
  */
 bool movePoint(Session &session, ZaItem &item, int index, const QPointF &pixel);
 
+/** Sets the percentage; a cross-section's points move with its plane. */
+void changePercentage(Session &session, ZaItem &item, double percent);
+
 /**
  * The scale that two clicks on the camera's laser spots give, in mm per pixel, with the distance
  * that the session's calibration text names. The session is put on the item; it does not change.

@@ -261,8 +261,8 @@ void readSchema(FieldReader &reader, Session &session, QString &problem)
     if (!match.hasMatch()) {
         problem =
             QStringLiteral("schema: expected \"%1\", found %2").arg(schemaText(0), typeName(value));
-    } else if (match.captured(1).toInt() != sessionSchemaMajor) {
-        problem = QStringLiteral("schema: the session has version %1.%2 and this program reads "
+    } else if (match.captured(1).toInt() > sessionSchemaMajor) {
+        problem = QStringLiteral("schema: the session has version %1.%2, this program reads up to "
                                  "version %3; please use a newer Zalento")
                       .arg(match.captured(1), match.captured(2))
                       .arg(sessionSchemaMajor);

@@ -1,0 +1,243 @@
+#include "measure/CommandLine.h"
+
+namespace Drevon::Zalento::Apps {
+
+namespace {
+
+const QLatin1String programName("zalento-measure");
+
+void addFlag(QCommandLineParser &parser, const char *name, const char *description)
+{
+    parser.addOption(QCommandLineOption(QLatin1String(name), QLatin1String(description)));
+}
+
+void addValue(QCommandLineParser &parser, const char *name, const char *description,
+              const char *valueName)
+{
+    parser.addOption(QCommandLineOption(QLatin1String(name), QLatin1String(description),
+                                        QLatin1String(valueName)));
+}
+
+void addOptions(QCommandLineParser &parser)
+{
+    addSessionOptions(parser);
+    addValue(parser, "session",
+             "Session to start from, for every picture; without pictures, its own is measured.",
+             "FILE");
+    addFlag(parser, "no-session", "Does not read the session beside a picture.");
+    addFlag(parser, "save-session",
+            "Writes <picture>.zalento.json beside the picture or into the output folder.");
+    addFlag(parser, "recursive", "Takes all pictures in folders and their folders.");
+    addValue(parser, "format", "Of the values: text (default), json, jsonl or csv.", "NAME");
+    addValue(parser, "overlay", "Writes <stem>.overlay.png, <stem>.overlay.svg: png, svg or both.",
+             "NAME");
+    addValue(parser, "output", "Folder for written files; made when missing.", "DIR");
+    addFlag(parser, "force", "Writes over existing files.");
+    parser.addOption(QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")},
+                                        QStringLiteral("Prints this help.")));
+    parser.addOption(QCommandLineOption({QStringLiteral("v"), QStringLiteral("version")},
+                                        QStringLiteral("Prints the version.")));
+}
+
+// "--laser X,Y X,Y" has two values, which the parser does not know: they become one.
+QStringList withJoinedLaserSpots(const QStringList &arguments)
+{
+    QStringList joined;
+    for (int i = 0; i < arguments.size(); ++i) {
+        joined += arguments[i];
+        const bool isLaser = arguments[i] == QLatin1String("--laser");
+        if (isLaser && i + 2 < arguments.size() && parsePoint(arguments[i + 1]) &&
+            parsePoint(arguments[i + 2])) {
+            joined += arguments[i + 1] + QLatin1Char(' ') + arguments[i + 2];
+            i += 2;
+        }
+    }
+    return joined;
+}
+
+std::optional<Verb> verbNamed(const QString &name)
+{
+    if (name == QLatin1String("measure")) {
+        return Verb::Measure;
+    }
+    if (name == QLatin1String("render")) {
+        return Verb::Render;
+    }
+    if (name == QLatin1String("kinds")) {
+        return Verb::Kinds;
+    }
+    return std::nullopt;
+}
+
+std::optional<Format> formatNamed(const QString &name)
+{
+    if (name == QLatin1String("text")) {
+        return Format::Text;
+    }
+    if (name == QLatin1String("json")) {
+        return Format::Json;
+    }
+    if (name == QLatin1String("jsonl")) {
+        return Format::JsonLines;
+    }
+    if (name == QLatin1String("csv")) {
+        return Format::Csv;
+    }
+    return std::nullopt;
+}
+
+QString readVerb(const QStringList &positional, CommandLine &command)
+{
+    if (positional.isEmpty()) {
+        return QStringLiteral("a verb is missing: measure, render or kinds");
+    }
+    const std::optional<Verb> verb = verbNamed(positional.first());
+    if (!verb) {
+        return QStringLiteral("unknown verb \"%1\": expected measure, render or kinds")
+            .arg(positional.first());
+    }
+    command.verb = *verb;
+    command.inputs = positional.mid(1);
+    return {};
+}
+
+QString readFormat(const QCommandLineParser &parser, CommandLine &command)
+{
+    const QString name = parser.value(QStringLiteral("format"));
+    const std::optional<Format> format =
+        parser.isSet(QStringLiteral("format")) ? formatNamed(name) : Format::Text;
+    if (!format) {
+        return QStringLiteral("--format: expected text, json, jsonl or csv, found \"%1\"")
+            .arg(name);
+    }
+    command.format = *format;
+    return {};
+}
+
+QString readOverlay(const QCommandLineParser &parser, CommandLine &command)
+{
+    const QString name = parser.value(QStringLiteral("overlay"));
+    const bool isGiven = parser.isSet(QStringLiteral("overlay"));
+    const bool isBoth = name == QLatin1String("both");
+    command.writesPng =
+        isBoth || name == QLatin1String("png") || (!isGiven && command.verb == Verb::Render);
+    command.writesSvg = isBoth || name == QLatin1String("svg");
+    if (isGiven && !command.writesPng && !command.writesSvg) {
+        return QStringLiteral("--overlay: expected png, svg or both, found \"%1\"").arg(name);
+    }
+    return {};
+}
+
+// Every value option but --click means one thing.
+QString repeatedOption(const QCommandLineParser &parser)
+{
+    for (const char *name : {"session", "format", "overlay", "output"}) {
+        if (parser.values(QLatin1String(name)).size() > 1) {
+            return QStringLiteral("--%1 is given more than once").arg(QLatin1String(name));
+        }
+    }
+    return {};
+}
+
+void readFlagsAndFiles(const QCommandLineParser &parser, CommandLine &command)
+{
+    command.recursive = parser.isSet(QStringLiteral("recursive"));
+    command.ignoresSessions = parser.isSet(QStringLiteral("no-session"));
+    command.savesSession = parser.isSet(QStringLiteral("save-session"));
+    command.overwrites = parser.isSet(QStringLiteral("force"));
+    command.sessionFile = parser.value(QStringLiteral("session"));
+    command.calibrationFile = parser.value(QStringLiteral("calibration"));
+    command.outputFolder = parser.value(QStringLiteral("output"));
+}
+
+QString emptyValue(const QCommandLineParser &parser)
+{
+    for (const char *name : {"session", "calibration", "output"}) {
+        if (parser.isSet(QLatin1String(name)) && parser.value(QLatin1String(name)).isEmpty()) {
+            return QStringLiteral("--%1 is empty").arg(QLatin1String(name));
+        }
+    }
+    return {};
+}
+
+QString contradiction(const QCommandLineParser &parser, const CommandLine &command)
+{
+    if (command.verb == Verb::Kinds) {
+        const QStringList given = parser.optionNames();
+        const bool isFormatOnly = given.isEmpty() || given == QStringList{QStringLiteral("format")};
+        return command.inputs.isEmpty() && isFormatOnly
+                   ? QString()
+                   : QStringLiteral("kinds takes no pictures and no option but --format");
+    }
+    if (command.inputs.isEmpty() && command.sessionFile.isEmpty()) {
+        return QStringLiteral("no picture: name pictures, sessions, folders, or - for a list on "
+                              "the standard input");
+    }
+    if (command.inputs.contains(QString())) {
+        return QStringLiteral("the name of a picture is empty");
+    }
+    if (command.ignoresSessions && !command.sessionFile.isEmpty()) {
+        return QStringLiteral("--session and --no-session contradict each other");
+    }
+    if (command.verb == Verb::Render && parser.isSet(QStringLiteral("format"))) {
+        return QStringLiteral("render prints no values: it takes no --format");
+    }
+    const bool writes = command.writesPng || command.writesSvg || command.savesSession;
+    if (!command.outputFolder.isEmpty() && !writes) {
+        return QStringLiteral("--output needs something to write: --overlay or --save-session");
+    }
+    return {};
+}
+
+QString readCommand(const QCommandLineParser &parser, CommandLine &command)
+{
+    QString problem = readVerb(parser.positionalArguments(), command);
+    for (const auto step : {readFormat, readOverlay}) {
+        if (problem.isEmpty()) {
+            problem = step(parser, command);
+        }
+    }
+    for (const auto check : {repeatedOption, emptyValue}) {
+        if (problem.isEmpty()) {
+            problem = check(parser);
+        }
+    }
+    if (!problem.isEmpty()) {
+        return problem;
+    }
+    readFlagsAndFiles(parser, command);
+    const std::optional<SessionOptions> session = readSessionOptions(parser, problem);
+    if (!session) {
+        return problem;
+    }
+    command.session = *session;
+    return contradiction(parser, command);
+}
+
+} // namespace
+
+CommandLineOutcome parseCommandLine(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    const bool isParsed =
+        parser.parse(QStringList{QString(programName)} + withJoinedLaserSpots(arguments));
+    if (parser.isSet(QStringLiteral("help"))) {
+        return {{}, helpText(parser), false};
+    }
+    if (parser.isSet(QStringLiteral("version"))) {
+        return {
+            {}, QStringLiteral("%1 %2\n").arg(programName, QStringLiteral(ZALENTO_VERSION)), false};
+    }
+    if (!isParsed) {
+        return {{}, parser.errorText(), true};
+    }
+    CommandLine command;
+    const QString problem = readCommand(parser, command);
+    if (!problem.isEmpty()) {
+        return {{}, problem, true};
+    }
+    return {command, {}, false};
+}
+
+} // namespace Drevon::Zalento::Apps

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "measure/SessionOptions.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace Drevon::Zalento::Apps {
+
+enum class Verb {
+    Measure, ///< values, and files when asked for
+    Render,  ///< files only
+    Kinds,   ///< lists what can be measured
+};
+
+enum class Format { Text, Json, JsonLines, Csv };
+
+/** What the command line asks for. */
+struct CommandLine
+{
+    Verb verb = Verb::Measure;
+    QStringList inputs; ///< pictures, sessions, folders; "-" is a list on the standard input
+    bool recursive = false;
+    QString sessionFile;          ///< for every picture; empty: the session beside each
+    bool ignoresSessions = false; ///< also those beside the pictures
+    QString calibrationFile;
+    SessionOptions session;
+    Format format = Format::Text;
+    bool writesPng = false;
+    bool writesSvg = false;
+    bool savesSession = false;
+    QString outputFolder; ///< empty: beside each picture
+    bool overwrites = false;
+};
+
+/** A command line that was understood, or what to print instead of running. */
+struct CommandLineOutcome
+{
+    std::optional<CommandLine> command;
+    QString text;           ///< help, version, or what is wrong
+    bool isProblem = false; ///< wrong usage
+};
+
+/** Understands the arguments after the program's name. Touches no file. */
+CommandLineOutcome parseCommandLine(const QStringList &arguments);
+
+/** The complete help: verbs, options, environment, exit codes, and an example a kind. */
+QString helpText(const QCommandLineParser &parser);
+
+} // namespace Drevon::Zalento::Apps

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "measure/CommandLine.h"
+
+#include <QByteArray>
+
+namespace Drevon::Zalento::Apps {
+
+/** The kinds with their options, in a format. */
+QByteArray kindList(Format format);
+
+} // namespace Drevon::Zalento::Apps

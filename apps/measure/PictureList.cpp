@@ -1,0 +1,89 @@
+#include "measure/PictureList.h"
+
+#include "session/SessionFile.h"
+
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace Drevon::Zalento::Apps {
+
+namespace {
+
+const QLatin1String overlayMark(".overlay");
+
+bool isPictureName(const QFileInfo &info)
+{
+    static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    return formats.contains(info.suffix().toLower().toLatin1()) &&
+           !info.completeBaseName().endsWith(overlayMark);
+}
+
+QStringList picturesIn(const QString &folder)
+{
+    QStringList pictures;
+    QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (isPictureName(files.fileInfo())) {
+            pictures += path;
+        }
+    }
+    pictures.sort();
+    return pictures;
+}
+
+PictureRequest failed(const QString &path, const char *problem)
+{
+    return {path, false, QLatin1String(problem)};
+}
+
+QVector<PictureRequest> requestsOfFolder(const QString &folder, bool recursive)
+{
+    if (!recursive) {
+        return {failed(folder, "is a folder: use --recursive")};
+    }
+    if (!QFileInfo(folder).isReadable()) {
+        return {failed(folder, "the folder cannot be read")};
+    }
+    QVector<PictureRequest> requests;
+    for (const QString &path : picturesIn(folder)) {
+        requests.append({path, false, {}});
+    }
+    if (requests.isEmpty()) {
+        return {failed(folder, "the folder holds no picture")};
+    }
+    return requests;
+}
+
+} // namespace
+
+QStringList readNames(QIODevice &list)
+{
+    QStringList names;
+    while (!list.atEnd()) {
+        QByteArray line = list.readLine();
+        while (line.endsWith('\n') || line.endsWith('\r')) {
+            line.chop(1);
+        }
+        if (!line.isEmpty()) {
+            names += QString::fromUtf8(line);
+        }
+    }
+    return names;
+}
+
+QVector<PictureRequest> listPictures(const QStringList &names, bool recursive)
+{
+    QVector<PictureRequest> requests;
+    for (const QString &name : names) {
+        if (QFileInfo(name).isDir()) {
+            requests += requestsOfFolder(name, recursive);
+        } else {
+            requests.append({name, name.endsWith(QLatin1String(sessionSuffix)), {}});
+        }
+    }
+    return requests;
+}
+
+} // namespace Drevon::Zalento::Apps

@@ -1,0 +1,198 @@
+#include "measure/Run.h"
+
+#include "measure/CommandLine.h"
+#include "measure/KindList.h"
+#include "measure/Measuring.h"
+#include "measure/PictureList.h"
+#include "measure/Report.h"
+
+#include "session/CalibrationFile.h"
+#include "session/SessionFile.h"
+
+#include <QDir>
+#include <QFileDevice>
+
+#include <algorithm>
+
+namespace Drevon::Zalento::Apps {
+
+namespace {
+
+/** The two outputs of a run, and what became of it so far. */
+class Console
+{
+public:
+    Console(QIODevice &output, QIODevice &messages)
+        : m_output(output)
+        , m_messages(messages)
+    {}
+
+    void print(const QByteArray &values)
+    {
+        auto *file = qobject_cast<QFileDevice *>(&m_output);
+        const bool isWritten = m_output.write(values) == values.size() && (!file || file->flush());
+        if (!isWritten && !m_isBroken) {
+            m_isBroken = true;
+            fail(CannotReadOrWrite,
+                 QStringLiteral("the values cannot be written: %1").arg(m_output.errorString()));
+        }
+    }
+
+    void say(const QString &message)
+    {
+        m_messages.write("zalento-measure: " + message.toUtf8() + "\n");
+    }
+
+    /** Messages name what went wrong; the worst decides the exit code. */
+    void fail(ExitCode code, const QString &message)
+    {
+        say(message);
+        note(code);
+    }
+
+    void note(ExitCode code) { m_exitCode = std::max(m_exitCode, code); }
+    ExitCode exitCode() const { return m_exitCode; }
+
+private:
+    QIODevice &m_output;
+    QIODevice &m_messages;
+    ExitCode m_exitCode = AllMeasured;
+    bool m_isBroken = false;
+};
+
+bool readCalibration(CommandLine &command, Console &console)
+{
+    if (command.calibrationFile.isEmpty()) {
+        return true;
+    }
+    QString problem;
+    command.session.calibrationText = loadCalibration(command.calibrationFile, problem);
+    if (!problem.isEmpty()) {
+        console.fail(CannotReadOrWrite, problem);
+    }
+    return problem.isEmpty();
+}
+
+bool readSession(const CommandLine &command, std::optional<Session> &session, Console &console)
+{
+    if (command.sessionFile.isEmpty()) {
+        return true;
+    }
+    QString problem;
+    session = loadSession(command.sessionFile, problem);
+    if (!session) {
+        console.fail(CannotReadOrWrite, problem);
+    }
+    return session.has_value();
+}
+
+bool makeOutputFolder(const CommandLine &command, Console &console)
+{
+    if (command.outputFolder.isEmpty() || QDir().mkpath(command.outputFolder)) {
+        return true;
+    }
+    console.fail(CannotReadOrWrite,
+                 QStringLiteral("the folder %1 cannot be made").arg(command.outputFolder));
+    return false;
+}
+
+QStringList namesOf(const CommandLine &command, QIODevice &input)
+{
+    if (command.inputs.isEmpty()) {
+        return {command.sessionFile};
+    }
+    QStringList names;
+    for (const QString &name : command.inputs) {
+        names += name == QLatin1String("-") ? readNames(input) : QStringList{name};
+    }
+    return names;
+}
+
+QVector<PictureRequest> requestsOf(const CommandLine &command, QIODevice &input)
+{
+    QVector<PictureRequest> requests = listPictures(namesOf(command, input), command.recursive);
+    if (command.inputs.isEmpty()) {
+        requests.first().isSession = true; // whatever its name ends in
+    }
+    return requests;
+}
+
+void tell(const PictureResult &result, bool isRender, Console &console)
+{
+    const auto about = [&result](const QString &message) {
+        return message.startsWith(result.picture) ? message
+                                                  : result.picture + QStringLiteral(": ") + message;
+    };
+    for (const QString &warning : result.warnings) {
+        console.say(about(QStringLiteral("warning: ") + warning));
+    }
+    for (const QString &path : result.written) {
+        console.say(QStringLiteral("wrote %1").arg(path));
+    }
+    for (const QString &problem : result.fileProblems) {
+        console.fail(CannotReadOrWrite, about(problem));
+    }
+    const bool isDone =
+        result.status == Status::Measured || (isRender && result.status == Status::NoValue);
+    if (isDone) {
+        return;
+    }
+    console.note(SomeNotMeasured);
+    if (!result.fileProblems.contains(result.message)) {
+        console.say(about(result.message));
+    }
+}
+
+void measureAll(const CommandLine &command, const std::optional<Session> &session,
+                const QVector<PictureRequest> &requests, Console &console)
+{
+    const bool isRender = command.verb == Verb::Render;
+    const Report report(command.format);
+    Measuring measuring(command, session);
+    int count = 0;
+    console.print(isRender ? QByteArray() : report.start());
+    for (const PictureRequest &request : requests) {
+        const PictureResult result = measuring.run(request);
+        tell(result, isRender, console);
+        if (!isRender) {
+            console.print(report.result(result, count));
+        }
+        ++count;
+    }
+    console.print(isRender ? QByteArray() : report.end(count));
+}
+
+} // namespace
+
+ExitCode run(const QStringList &arguments, QIODevice &input, QIODevice &output, QIODevice &messages)
+{
+    Console console(output, messages);
+    const CommandLineOutcome outcome = parseCommandLine(arguments);
+    if (!outcome.command) {
+        if (outcome.isProblem) {
+            console.fail(WrongUsage, outcome.text);
+            console.say(QStringLiteral("try zalento-measure --help"));
+        } else {
+            console.print(outcome.text.toUtf8());
+        }
+        return console.exitCode();
+    }
+    CommandLine command = *outcome.command;
+    if (command.verb == Verb::Kinds) {
+        console.print(kindList(command.format));
+        return console.exitCode();
+    }
+    std::optional<Session> session;
+    if (!readCalibration(command, console) || !readSession(command, session, console) ||
+        !makeOutputFolder(command, console)) {
+        return console.exitCode();
+    }
+    const QVector<PictureRequest> requests = requestsOf(command, input);
+    if (requests.isEmpty()) {
+        console.fail(SomeNotMeasured, QStringLiteral("the list holds no picture"));
+    }
+    measureAll(command, session, requests, console);
+    return console.exitCode();
+}
+
+} // namespace Drevon::Zalento::Apps

@@ -1,0 +1,370 @@
+#include "measure/SessionOptions.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Drevon::Zalento::Apps {
+
+namespace {
+
+struct NumberOption
+{
+    const char *name;
+    double Session::*member;
+    const char *valueName;
+    const char *description;
+};
+
+constexpr NumberOption numberOptions[] = {
+    {"diameter", &Session::diameterMM, "MM", "Nominal diameter in millimetres."},
+    {"fov", &Session::fovYDEG, "DEG",
+     "Vertical field of view in degrees of the largest centred square of the picture."},
+    {"camera-height", &Session::cameraHeightPercent, "PERCENT",
+     "Height of the camera in percent of the diameter; 50 is the axis."},
+    {"offset", &Session::offset, "UNITS", "Shifts the model sideways; 576 units are one diameter."},
+    {"roll", &Session::rollDEG, "DEG", "Rotation about the view axis in degrees."},
+    {"percentage", &Session::percentage, "PERCENT",
+     "Water level, place of the cross-section, diameter of the branch, or length of the joint's "
+     "continuation, as the kind has it."},
+    {"angle", &Session::angleDEG, "DEG", "Angle of the branch, the bend or the joint in degrees."},
+};
+
+/** Collects values out of a parser; keeps the first problem. */
+class OptionReader
+{
+public:
+    OptionReader(const QCommandLineParser &parser, QString &problem)
+        : m_parser(parser)
+        , m_problem(problem)
+    {}
+
+    std::optional<double> number(const char *name, double smallest, double largest)
+    {
+        const std::optional<QString> text = value(name);
+        if (!text) {
+            return std::nullopt;
+        }
+        bool isNumber = false;
+        const double number = text->toDouble(&isNumber);
+        if (!isNumber) {
+            fail(name, QStringLiteral("a number such as 12.5"), *text);
+            return std::nullopt;
+        }
+        note(numberProblem(dashed(name), number, smallest, largest));
+        return number;
+    }
+
+    std::optional<int> wholeNumber(const char *name, int limit)
+    {
+        const std::optional<double> found = number(name, -limit, limit);
+        if (!found || !m_problem.isEmpty()) {
+            return std::nullopt;
+        }
+        if (*found != std::floor(*found)) {
+            fail(name, QStringLiteral("a whole number"), m_parser.value(QLatin1String(name)));
+        }
+        return static_cast<int>(*found);
+    }
+
+    template <typename Lookup>
+    auto choice(const char *name, const char *expected, Lookup lookup)
+        -> decltype(lookup(QString()))
+    {
+        const std::optional<QString> text = value(name);
+        if (!text) {
+            return std::nullopt;
+        }
+        const auto found = lookup(*text);
+        if (!found) {
+            fail(name, QLatin1String(expected), *text);
+        }
+        return found;
+    }
+
+    std::optional<QPointF> point(const char *name)
+    {
+        return choice(name, "X,Y such as 120,45.5", parsePoint);
+    }
+
+    std::optional<QString> value(const char *name)
+    {
+        const QStringList values = m_parser.values(QLatin1String(name));
+        if (values.size() > 1) {
+            note(QStringLiteral("%1 is given %2 times").arg(dashed(name)).arg(values.size()));
+        }
+        return values.isEmpty() ? std::nullopt : std::optional<QString>(values.first());
+    }
+
+    bool isSet(const char *name) const { return m_parser.isSet(QLatin1String(name)); }
+
+    void fail(const char *name, const QString &expected, const QString &found)
+    {
+        note(QStringLiteral("%1: expected %2, found \"%3\"").arg(dashed(name), expected, found));
+    }
+
+    void note(const QString &problem)
+    {
+        if (m_problem.isEmpty()) {
+            m_problem = problem;
+        }
+    }
+
+private:
+    static QString dashed(const char *name) { return QStringLiteral("--") + QLatin1String(name); }
+
+    const QCommandLineParser &m_parser;
+    QString &m_problem;
+};
+
+QString knownKinds()
+{
+    QStringList names;
+    for (const MeasurementKind &kind : measurementKinds()) {
+        names += kind.name;
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+void readNumbers(OptionReader &reader, SessionOptions &options)
+{
+    for (const NumberOption &option : numberOptions) {
+        const auto &limits = sessionNumbers();
+        const auto limit =
+            std::find_if(limits.begin(), limits.end(), [&option](const SessionNumber &number) {
+                return number.member == option.member;
+            });
+        const auto value = reader.number(option.name, limit->smallest, limit->largest);
+        if (value) {
+            options.numbers.append({QLatin1String(option.name), option.member, *value});
+        }
+    }
+}
+
+void readChoices(OptionReader &reader, SessionOptions &options)
+{
+    options.unit = reader.choice("unit", "metric or imperial", unitNamed);
+    options.viewDownstream = reader.choice("direction", "downstream or upstream", directionNamed);
+    options.viewStyle = reader.choice("view-style", "measure, ends or full", viewStyleNamed);
+    options.kind = reader.value("kind");
+    if (options.kind && !findMeasurementKind(*options.kind)) {
+        reader.fail("kind", QStringLiteral("one of ") + knownKinds(), *options.kind);
+    }
+    options.clockDEG = reader.wholeNumber("clock", largestClockDEG);
+    options.rearCircle = reader.point("rear-circle");
+    if (reader.isSet("rear-circle-active")) {
+        options.rearCircleActive = true;
+    }
+    if (reader.isSet("joint")) {
+        options.jointShown = true;
+    }
+}
+
+void readLaserSpots(OptionReader &reader, SessionOptions &options)
+{
+    const std::optional<QString> text = reader.value("laser");
+    if (!text) {
+        return;
+    }
+    for (const QString &spot : text->split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        options.laserSpots += parsePoint(spot).value_or(QPointF(qQNaN(), qQNaN()));
+    }
+    const bool areNumbers = std::all_of(options.laserSpots.begin(), options.laserSpots.end(),
+                                        [](const QPointF &spot) { return !std::isnan(spot.x()); });
+    if (options.laserSpots.size() != 2 || !areNumbers) {
+        reader.fail("laser", QStringLiteral("two points X,Y X,Y"), *text);
+    }
+    if (options.mmPerPixel) {
+        reader.note(QStringLiteral("--laser and --mm-per-pixel both give the scale"));
+    }
+}
+
+void readClicks(const QCommandLineParser &parser, OptionReader &reader, SessionOptions &options)
+{
+    QVector<QPointF> clicks;
+    for (const QString &text : parser.values(QStringLiteral("click"))) {
+        const std::optional<QPointF> point = parsePoint(text);
+        if (!point) {
+            reader.fail("click", QStringLiteral("X,Y such as 120,45.5"), text);
+            return;
+        }
+        clicks += *point;
+    }
+    if (!clicks.isEmpty()) {
+        options.clicks = clicks;
+    }
+}
+
+void addOption(QCommandLineParser &parser, const char *name, const char *description,
+               const char *valueName)
+{
+    parser.addOption(QCommandLineOption(QLatin1String(name), QLatin1String(description),
+                                        QLatin1String(valueName)));
+}
+
+QString angleMisfit(const SessionOptions &options, const MeasurementKind &kind)
+{
+    for (const SessionOptions::Number &number : options.numbers) {
+        if (number.member == &Session::angleDEG) {
+            return numberProblem(QStringLiteral("--angle of ") + kind.name, number.value,
+                                 kind.smallestAngleDEG, kind.largestAngleDEG);
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+std::optional<QPointF> parsePoint(const QString &text)
+{
+    const QStringList parts = text.split(QLatin1Char(','));
+    if (parts.size() != 2) {
+        return std::nullopt;
+    }
+    bool isX = false;
+    bool isY = false;
+    const QPointF point(parts[0].toDouble(&isX), parts[1].toDouble(&isY));
+    if (!isX || !isY || !std::isfinite(point.x()) || !std::isfinite(point.y())) {
+        return std::nullopt;
+    }
+    return point;
+}
+
+bool SessionOptions::hasNumber(double Session::*member) const
+{
+    return std::any_of(numbers.begin(), numbers.end(),
+                       [member](const Number &number) { return number.member == member; });
+}
+
+void SessionOptions::applyTo(Session &session) const
+{
+    if (kind && *kind != session.kind) {
+        session.kind = *kind;
+        session.points.clear();
+        session.jointShown = false;
+    }
+    for (const Number &number : numbers) {
+        session.*number.member = number.value;
+    }
+    if (rearCircle) {
+        session.rearCircleX = rearCircle->x();
+        session.rearCircleY = rearCircle->y();
+    }
+    if (calibrationText) {
+        session.calibrationText = *calibrationText;
+        session.mmPerPixel.reset();
+    }
+    if (mmPerPixel) {
+        session.mmPerPixel = mmPerPixel;
+    }
+    if (clicks) {
+        session.points.clear();
+        for (const QPointF &pixel : *clicks) {
+            session.points.append({pixel, {}, {}});
+        }
+    }
+    session.unit = unit.value_or(session.unit);
+    session.rearCircleActive = rearCircleActive.value_or(session.rearCircleActive);
+    session.clockDEG = clockDEG.value_or(session.clockDEG);
+    session.viewDownstream = viewDownstream.value_or(session.viewDownstream);
+    session.jointShown = jointShown.value_or(session.jointShown);
+    session.viewStyle = viewStyle.value_or(session.viewStyle);
+}
+
+QString SessionOptions::misfit(const MeasurementKind &measurementKind) const
+{
+    const struct
+    {
+        bool isGiven;
+        bool isUsed;
+        const char *option;
+    } checks[] = {
+        {clicks.has_value(), measurementKind.usesPoints, "--click"},
+        {!laserSpots.isEmpty(), measurementKind.usesScale, "--laser"},
+        {mmPerPixel.has_value(), measurementKind.usesScale, "--mm-per-pixel"},
+        {hasNumber(&Session::percentage), measurementKind.usesPercentage, "--percentage"},
+        {hasNumber(&Session::angleDEG), measurementKind.usesAngle, "--angle"},
+        {clockDEG.has_value(), measurementKind.usesClock, "--clock"},
+        {viewDownstream.has_value(), measurementKind.usesDirection, "--direction"},
+        {jointShown.has_value(), measurementKind.usesDirection, "--joint"},
+    };
+    for (const auto &check : checks) {
+        if (check.isGiven && !check.isUsed) {
+            return QStringLiteral("the kind %1 takes no %2")
+                .arg(measurementKind.name, QLatin1String(check.option));
+        }
+    }
+    return angleMisfit(*this, measurementKind);
+}
+
+QStringList optionsOf(const MeasurementKind &kind)
+{
+    QStringList options;
+    const auto add = [&options](bool isUsed, const char *option) {
+        if (isUsed) {
+            options += QLatin1String(option);
+        }
+    };
+    add(kind.usesPoints, "--click");
+    add(kind.usesScale, "--mm-per-pixel");
+    add(kind.usesScale, "--laser");
+    add(kind.usesScale, "--calibration");
+    add(kind.usesPercentage, "--percentage");
+    add(kind.usesAngle, "--angle");
+    add(kind.usesClock, "--clock");
+    add(kind.usesDirection, "--direction");
+    add(kind.usesDirection, "--joint");
+    return options;
+}
+
+void addSessionOptions(QCommandLineParser &parser)
+{
+    parser.addOption(QCommandLineOption(QStringLiteral("kind"),
+                                        QStringLiteral("What is measured: %1.").arg(knownKinds()),
+                                        QStringLiteral("NAME")));
+    for (const NumberOption &option : numberOptions) {
+        addOption(parser, option.name, option.description, option.valueName);
+    }
+    addOption(parser, "rear-circle", "Moves the pipe's far end; in units as --offset.", "X,Y");
+    parser.addOption(
+        QCommandLineOption(QStringLiteral("rear-circle-active"),
+                           QStringLiteral("Stored in the session: gestures move the far end.")));
+    addOption(
+        parser, "clock",
+        "Direction of the branch, the bend or the joint in whole degrees clockwise from the top.",
+        "DEG");
+    addOption(parser, "direction", "A bend is seen downstream or upstream.", "NAME");
+    parser.addOption(QCommandLineOption(QStringLiteral("joint"),
+                                        QStringLiteral("Measures a joint instead of a bend.")));
+    addOption(parser, "view-style", "How much is drawn: measure, ends or full.", "NAME");
+    addOption(parser, "unit", "Unit of the texts: metric or imperial. Numbers stay metric.",
+              "NAME");
+    addOption(parser, "click",
+              "A measurement point in picture pixels from the top left; repeat it for more points.",
+              "X,Y");
+    addOption(parser, "mm-per-pixel", "Scale for crack widths.", "MM");
+    addOption(parser, "laser",
+              "The two laser spots in picture pixels; gives the scale for crack widths.",
+              "X,Y X,Y");
+    addOption(parser, "calibration", "Camera calibration file.", "FILE");
+}
+
+std::optional<SessionOptions> readSessionOptions(const QCommandLineParser &parser, QString &problem)
+{
+    problem.clear();
+    SessionOptions options;
+    OptionReader reader(parser, problem);
+    readNumbers(reader, options);
+    readChoices(reader, options);
+    options.mmPerPixel = reader.number("mm-per-pixel", smallestMMPerPixel, largestMMPerPixel);
+    readLaserSpots(reader, options);
+    readClicks(parser, reader, options);
+    reader.value("calibration");
+    if (options.kind && problem.isEmpty()) {
+        reader.note(options.misfit(*findMeasurementKind(*options.kind)));
+    }
+    return problem.isEmpty() ? std::optional<SessionOptions>(options) : std::nullopt;
+}
+
+} // namespace Drevon::Zalento::Apps

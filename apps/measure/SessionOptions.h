@@ -1,0 +1,65 @@
+#pragma once
+
+#include "session/MeasurementKind.h"
+#include "session/Session.h"
+
+#include <QCommandLineParser>
+#include <QPointF>
+#include <QString>
+#include <QVector>
+
+#include <optional>
+
+namespace Drevon::Zalento::Apps {
+
+/** What the command line says about a session; what it leaves out stays as it is. */
+struct SessionOptions
+{
+    /** A number that was given. */
+    struct Number
+    {
+        QString option; ///< without dashes
+        double Session::*member;
+        double value;
+    };
+
+    QVector<Number> numbers;
+    std::optional<QString> kind;
+    std::optional<MeasureUnit> unit;
+    std::optional<QPointF> rearCircle; ///< in gesture units
+    std::optional<bool> rearCircleActive;
+    std::optional<int> clockDEG;
+    std::optional<bool> viewDownstream;
+    std::optional<bool> jointShown;
+    std::optional<ViewStyle> viewStyle;
+    std::optional<QString> calibrationText;
+    std::optional<double> mmPerPixel;
+    std::optional<QVector<QPointF>> clicks; ///< replace the session's points
+    QVector<QPointF> laserSpots;            ///< two, or none
+
+    bool hasNumber(double Session::*member) const;
+
+    /** Changes the session. A change of the kind drops points that were made for another. */
+    void applyTo(Session &session) const;
+
+    /** Names the first option that means nothing to the kind; empty when there is none. */
+    QString misfit(const MeasurementKind &kind) const;
+};
+
+/** Declares the options that applyTo() knows. */
+void addSessionOptions(QCommandLineParser &parser);
+
+/**
+ * Reads them; the calibration file is not read.
+ * @param problem on failure: names the option and what was expected
+ */
+std::optional<SessionOptions> readSessionOptions(const QCommandLineParser &parser,
+                                                 QString &problem);
+
+/** Options that the kind takes beside those of the alignment, each with its leading dashes. */
+QStringList optionsOf(const MeasurementKind &kind);
+
+/** A point "X,Y" with '.' as decimal mark. */
+std::optional<QPointF> parsePoint(const QString &text);
+
+} // namespace Drevon::Zalento::Apps

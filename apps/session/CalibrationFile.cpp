@@ -1,0 +1,59 @@
+#include "session/CalibrationFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace Drevon::Zalento::Apps {
+
+namespace {
+
+constexpr qint64 largestFileBytes = 1024 * 1024;
+constexpr int laserFieldCount = 4;
+constexpr int scaleFieldCount = 3;
+
+bool isRecord(const QString &line)
+{
+    const QStringList fields = line.trimmed().split(QLatin1Char(';'));
+    const bool isLaser = fields.first().compare(QLatin1String("LASER"), Qt::CaseInsensitive) == 0;
+    return fields.size() == (isLaser ? laserFieldCount : scaleFieldCount);
+}
+
+QString readText(const QString &path, QString &text)
+{
+    QFile file(path);
+    if (QFileInfo(path).isDir()) {
+        return QStringLiteral("is a folder, not a calibration file");
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        return QStringLiteral("cannot be read: %1").arg(file.errorString());
+    }
+    const QByteArray content = file.read(largestFileBytes + 1);
+    if (content.size() > largestFileBytes) {
+        return QStringLiteral("is too large for a calibration file");
+    }
+    text = QString::fromUtf8(content); // without the byte order mark
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    if (std::none_of(lines.begin(), lines.end(), isRecord)) {
+        return QStringLiteral("holds no calibration: expected lines LASER;;;MM or "
+                              "DIAMETER;PIXELS;MM");
+    }
+    return {};
+}
+
+} // namespace
+
+std::optional<QString> loadCalibration(const QString &path, QString &problem)
+{
+    QString text;
+    problem = readText(path, text);
+    if (!problem.isEmpty()) {
+        problem = QStringLiteral("%1: %2").arg(path, problem);
+        return std::nullopt;
+    }
+    return text;
+}
+
+} // namespace Drevon::Zalento::Apps
