@@ -1,0 +1,811 @@
+// The item's interface: what QML sees, what each control does and reports.
+#include "support/TestCase.h"
+#include "support/Tolerances.h"
+
+#include "zalento/item/CommonConstants.h"
+#include "zalento/item/ZaItem.h"
+
+#include <drevon/AppState.h>
+#include <drevon/CLocaleSupport.h>
+
+#include <QDir>
+#include <QImage>
+#include <QMetaMethod>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <vector>
+
+using namespace Drevon;
+using namespace Drevon::Zalento;
+using namespace Drevon::Zalento::Test;
+
+namespace {
+
+using Record = QSharedPointer<Database::CDomainObject>;
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr int unknownView = 7;
+
+const QString nominalSize = "OBJ_Size1";
+
+/** The object behind a view number; what is on view stays. */
+template <class Object = PipeBase>
+Object &objectOf(ZaItem &item, int viewObject)
+{
+    const int shown = item.viewObject();
+    item.setViewMode(viewObject);
+    auto &object = dynamic_cast<Object &>(item.getCurrentViewObject());
+    item.setViewMode(shown);
+    return object;
+}
+
+Pipe &pipeOf(ZaItem &item)
+{
+    return objectOf<Pipe>(item, 0);
+}
+
+QList<PipeBase *> objectsOf(ZaItem &item)
+{
+    return {&objectOf(item, 0), &objectOf(item, 1), &objectOf(item, 2), &objectOf(item, 3)};
+}
+
+void setSize(ZaItem &item, double width, double height)
+{
+    item.setSize(QSizeF(width, height));
+}
+
+Record recordOf(const QVariant &size)
+{
+    const Record record(new Database::CDomainObject);
+    record->writeValue(nominalSize, size);
+    return record;
+}
+
+using View = std::function<void(ZaItem &)>;
+
+/** A click travels through single precision: 2e-6 m, at up to 2000 pixels a metre. */
+constexpr Tolerance clickTolerance{0.05, "px"};
+
+void paintOnce(ZaItem &item)
+{
+    QImage image(item.size().toSize(), QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    item.paint(&painter);
+}
+
+/** Every signal of an item's own, by declaration, with its arguments. */
+class SignalLog
+{
+public:
+    explicit SignalLog(ZaItem &item)
+    {
+        const QMetaObject &meta = ZaItem::staticMetaObject;
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+            if (meta.method(i).methodType() == QMetaMethod::Signal) {
+                m_spies.push_back(std::make_unique<QSignalSpy>(&item, meta.method(i)));
+                m_names.append(meta.method(i).name());
+            }
+        }
+    }
+
+    /** What was sent since the last call: "angleChanged(30)". */
+    QStringList take()
+    {
+        QStringList sent;
+        for (std::size_t i = 0; i < m_spies.size(); ++i) {
+            for (const QVariantList &arguments : qAsConst(*m_spies[i])) {
+                QStringList texts;
+                for (const QVariant &argument : arguments) {
+                    texts.append(argument.toString());
+                }
+                sent.append(m_names[static_cast<int>(i)] + '(' + texts.join(", ") + ')');
+            }
+            m_spies[i]->clear();
+        }
+        return sent;
+    }
+
+private:
+    std::vector<std::unique_ptr<QSignalSpy>> m_spies;
+    QStringList m_names;
+};
+
+QString described(const QMetaProperty &property)
+{
+    QStringList words{property.name(), property.typeName()};
+    words << (property.isWritable() ? "writable" : "read-only")
+          << (property.hasNotifySignal() ? property.notifySignal().name() : "silent");
+    const bool isPlain = property.isReadable() && property.isDesignable() &&
+                         property.isScriptable() && property.isStored() && !property.isConstant();
+    return (words << (isPlain ? "" : "odd")).join(' ').trimmed();
+}
+
+QString described(const QMetaMethod &method)
+{
+    static const char *const kinds[] = {"invokable", "signal", "slot", "constructor"};
+    static const char *const accesses[] = {"private ", "protected ", ""};
+    QStringList parameters;
+    for (int i = 0; i < method.parameterCount(); ++i) {
+        parameters.append(
+            (method.parameterTypes()[i] + ' ' + method.parameterNames()[i]).trimmed());
+    }
+    return QString("%1%2 %3 %4(%5)%6")
+        .arg(accesses[method.access()], kinds[method.methodType()], method.typeName(),
+             QString(method.name()), parameters.join(", "),
+             (method.attributes() & QMetaMethod::Cloned) != 0 ? " cloned" : "");
+}
+
+QString described(const QMetaEnum &enumeration)
+{
+    QStringList words{enumeration.name()};
+    for (int i = 0; i < enumeration.keyCount(); ++i) {
+        words << QString("%1=%2").arg(enumeration.key(i)).arg(enumeration.value(i));
+    }
+    return (enumeration.isFlag() ? "flags " : "") + words.join(' ');
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(View)
+
+class TestZaItem : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void propertiesInOrder();
+    void methodsInOrder();
+    void constants();
+
+    void startsWithDefaults();
+    void control_data();
+    void control();
+    void notANumberChangesNothing_data();
+    void notANumberChangesNothing();
+    void controlsReachTheObjects();
+    void percentageReachesTheObjects();
+    void rearCircleTakesOverTwoControls();
+    void clockSendsNothing();
+    void measuresAreThoseOfTheStraightPipeOnView();
+
+    void kind_data();
+    void kind();
+    void sameKindAgainKeepsThePoints();
+    void emptyKindOnNewItem();
+
+    void record_data();
+    void record();
+    void recordAtConstruction();
+    void itemsShareTheDiameter();
+
+    void layout_data();
+    void layout();
+    void clickedPixel_data();
+    void clickedPixel();
+    void pointIsDrawnWhereItWasClicked_data();
+    void pointIsDrawnWhereItWasClicked();
+    void pointListIsReported();
+    void clicksReachTheStraightPipeOnly_data();
+    void clicksReachTheStraightPipeOnly();
+    void unresolvableClicksAreMisses();
+    void calibration();
+    void pictureUrl();
+};
+
+void TestZaItem::init()
+{
+    TestCase::init();
+    ZaItem::sharedMainPipeDiameter() = 300;
+}
+
+void TestZaItem::cleanup()
+{
+    AppState::instance()->setActiveStructure({});
+    TestCase::cleanup();
+}
+
+void TestZaItem::propertiesInOrder()
+{
+    const QMetaObject &meta = ZaItem::staticMetaObject;
+    QCOMPARE(meta.className(), "Drevon::Zalento::ZaItem");
+    QCOMPARE(meta.superClass(), &QQuickPaintedItem::staticMetaObject);
+    QStringList properties;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+        properties.append(described(meta.property(i)));
+    }
+    QCOMPARE(properties.join('\n'),
+             QString("isTwoHitpointList bool read-only isTwoHitpointListChanged\n"
+                     "useDistanceLasers bool writable silent\n"
+                     "diameter double writable diameterChanged\n"
+                     "percentage double writable percentageChanged\n"
+                     "cameraHeight double writable cameraHeightChanged\n"
+                     "rearCircleActive bool writable rearCircleActiveChanged\n"
+                     "angle double writable angleChanged\n"
+                     "clock int writable clockChanged\n"
+                     "viewObject int writable viewModeChanged\n"
+                     "viewStyle int writable viewStyleChanged\n"
+                     "measureType int writable measureTypeChanged\n"
+                     "measureUnit int writable measureUnitChanged\n"
+                     "iWantToMeasure QString writable iWantToMeasureChanged\n"
+                     "measure1 double read-only measure1Changed\n"
+                     "measure2 double read-only measure2Changed\n"
+                     "viewDownstream bool writable bendDownstreamChanged\n"
+                     "vertFov double writable vertFovChanged"));
+}
+
+void TestZaItem::methodsInOrder()
+{
+    const QMetaObject &meta = ZaItem::staticMetaObject;
+    QStringList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        methods.append(described(meta.method(i)));
+    }
+    QCOMPARE(methods.join('\n'),
+             QString("signal void cameraHeightChanged(double cameraHeight)\n"
+                     "signal void rearCircleActiveChanged(bool rearCircleActive)\n"
+                     "signal void angleChanged(double angle)\n"
+                     "signal void clockChanged(double clock)\n"
+                     "signal void percentageChanged(double percentage)\n"
+                     "signal void viewModeChanged(int viewObject)\n"
+                     "signal void viewStyleChanged(int viewStyle)\n"
+                     "signal void diameterChanged()\n"
+                     "signal void measureTypeChanged()\n"
+                     "signal void measureUnitChanged()\n"
+                     "signal void iWantToMeasureChanged(QString iWantToMeasure)\n"
+                     "signal bool isTwoHitpointListChanged(bool)\n"
+                     "signal void measure1Changed(double measure)\n"
+                     "signal void measure2Changed(double measure)\n"
+                     "signal void bendDownstreamChanged(bool viewDownstream)\n"
+                     "signal void vertFovChanged(double vertFov)\n"
+                     "slot void setViewDownstream(bool viewDownstream)\n"
+                     "private slot void onInspectionChanged("
+                     "QSharedPointer<Drevon::Database::CDomainObject> obj)\n"
+                     "invokable void mouseClick(double x, double y)\n"
+                     "invokable void clearMeasurementPoints()\n"
+                     "invokable void move(double x, double y)\n"
+                     "invokable void rotate(double r)\n"
+                     "invokable void setFovDeg(double s)\n"
+                     "invokable double getFovDeg()\n"
+                     "invokable void moveScaleRotate(double x, double y, double s, double r)\n"
+                     "invokable void requestCameraCalibration(double mmPerPixel)\n"
+                     "invokable void requestCameraCalibration() cloned\n"
+                     "invokable void undo()\n"
+                     "invokable QString xxx()\n"
+                     "invokable void refreshMainPipeDiameter()"));
+}
+
+void TestZaItem::constants()
+{
+    const QMetaObject &meta = CommonConstants::staticMetaObject;
+    QCOMPARE(meta.className(), "Drevon::CommonConstants");
+    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
+    QCOMPARE(meta.methodCount(), meta.methodOffset());
+    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+    QStringList enumerations;
+    for (int i = 0; i < meta.enumeratorCount(); ++i) {
+        enumerations.append(described(meta.enumerator(i)));
+    }
+    QCOMPARE(enumerations,
+             QStringList({"VideoOutputSize VideoWidth=768 VideoHeight=576",
+                          "MeasurementDragConstants DragMinimumX=-185 DragMaximumX=-15 "
+                          "DragMaximumY=0 DragMinimumY=-100 DragExtendedWidth=100 "
+                          "DragExtendedHight=50"}));
+}
+
+void TestZaItem::startsWithDefaults()
+{
+    QQuickItem parent;
+    ZaItem item(&parent);
+    QCOMPARE(item.parentItem(), &parent);
+    const QVariantMap expected{{"isTwoHitpointList", false},
+                               {"useDistanceLasers", false},
+                               {"diameter", 300.0},
+                               {"percentage", 0.0},
+                               {"cameraHeight", 0.5},
+                               {"rearCircleActive", false},
+                               {"angle", 0.0},
+                               {"clock", 0},
+                               {"viewObject", 0},
+                               {"viewStyle", 2},
+                               {"measureType", 0},
+                               {"measureUnit", 0},
+                               {"iWantToMeasure", ""},
+                               {"measure1", 0.0},
+                               {"measure2", 0.0},
+                               {"viewDownstream", true},
+                               {"vertFov", 37.5}};
+    for (auto it = expected.begin(); it != expected.end(); ++it) {
+        QVERIFY2(item.property(qPrintable(it.key())) == it.value(), qPrintable(it.key()));
+    }
+    for (const PipeBase *object : objectsOf(item)) {
+        QCOMPARE(object->diameterMM, 300.0);
+        QCOMPARE(object->cameraHeight, 0.5);
+        QCOMPARE(object->camera.fovYDEG, 37.5);
+    }
+    QCOMPARE(item.calculatePos(3.5, 4.5), QPoint(3, 4));
+}
+
+void TestZaItem::control_data()
+{
+    QTest::addColumn<int>("viewObject");
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QVariant>("written");
+    QTest::addColumn<QVariant>("read");
+    QTest::addColumn<QString>("sent");
+    QTest::addColumn<QString>("sentAgain");
+    const auto row = [](const char *name, int viewObject, const char *property,
+                        const QVariant &written, const QVariant &read, const QString &sent) {
+        QTest::newRow(name) << viewObject << QByteArray(property) << written << read << sent
+                            << sent;
+    };
+    const auto guardedRow = [](const char *name, const char *property, const QVariant &written,
+                               const QVariant &read, const QString &sent) {
+        QTest::newRow(name) << 0 << QByteArray(property) << written << read << sent << QString();
+    };
+    row("distance lasers", 0, "useDistanceLasers", true, true, "");
+    row("diameter", 0, "diameter", 450.5, 450.5, "diameterChanged()");
+    row("percent in, fraction out", 0, "percentage", 40.0, 0.4, "percentageChanged(40)");
+    row("percentage is not clamped", 0, "percentage", 140.0, 1.4, "percentageChanged(140)");
+    row("camera height", 0, "cameraHeight", 30.0, 0.3, "cameraHeightChanged(30)");
+    row("camera above the pipe", 0, "cameraHeight", 150.0, 1.0, "cameraHeightChanged(150)");
+    row("camera below the pipe", 0, "cameraHeight", -5.0, 0.0, "cameraHeightChanged(-5)");
+    row("rear circle", 0, "rearCircleActive", true, true, "rearCircleActiveChanged(true)");
+    row("angle without an object for it", 0, "angle", 60.0, 0.0, "angleChanged(60)");
+    row("angle of the lateral", 1, "angle", 62.0, 62.0, "angleChanged(62)");
+    row("angle below the lateral's", 1, "angle", 10.0, 30.0, "angleChanged(30)");
+    row("angle above the lateral's", 1, "angle", 151.0, 150.0, "angleChanged(150)");
+    row("angle of the bend, to 5 degrees", 2, "angle", 62.0, 60.0, "angleChanged(62)");
+    row("angle below the lateral's at the bend", 2, "angle", 10.0, 10.0, "angleChanged(30)");
+    row("angle above the bend's", 2, "angle", 120.0, 90.0, "angleChanged(120)");
+    row("negative angle at the bend", 2, "angle", -20.0, 0.0, "angleChanged(30)");
+    row("angle of the joint is not read", 3, "angle", 60.0, 0.0, "angleChanged(60)");
+    row("angle at an unknown object", unknownView, "angle", 60.0, 0.0, "angleChanged(60)");
+    row("infinite angle", 1, "angle", infinity, 150.0, "angleChanged(150)");
+    row("clock", 0, "clock", 120, 0, "");
+    row("object on view", 0, "viewObject", 2, 2, "viewModeChanged(2)");
+    row("unknown object", 0, "viewObject", unknownView, unknownView, "viewModeChanged(7)");
+    row("view style", 0, "viewStyle", 1, 1, "viewStyleChanged(1)");
+    row("default view style", 0, "viewStyle", 2, 2, "viewStyleChanged(2)");
+    row("unknown view style", 0, "viewStyle", -9, -9, "viewStyleChanged(-9)");
+    row("measure type", 0, "measureType", 5, 5, "measureTypeChanged()");
+    row("unit", 0, "measureUnit", 1, 1, "measureUnitChanged()");
+    row("unknown unit", 0, "measureUnit", 9, 9, "measureUnitChanged()");
+    guardedRow("kind", "iWantToMeasure", "WaterLevel", "WaterLevel",
+               "iWantToMeasureChanged(WaterLevel)");
+    guardedRow("upstream", "viewDownstream", false, false, "bendDownstreamChanged(false)");
+    guardedRow("downstream as before", "viewDownstream", true, true, "");
+    guardedRow("field of view", "vertFov", 60.0, 60.0, "vertFovChanged(60)");
+    guardedRow("field of view as before", "vertFov", 37.5, 37.5, "");
+    guardedRow("field of view 0", "vertFov", 0.0, 37.5, "");
+}
+
+void TestZaItem::control()
+{
+    QFETCH(int, viewObject);
+    QFETCH(QByteArray, property);
+    QFETCH(QVariant, written);
+    QFETCH(QVariant, read);
+    QFETCH(QString, sent);
+    QFETCH(QString, sentAgain);
+    ZaItem item;
+    item.setViewMode(viewObject);
+    SignalLog log(item);
+    QVERIFY(item.setProperty(property, written));
+    QCOMPARE(item.property(property), read);
+    QCOMPARE(log.take().join(' '), sent);
+    QVERIFY(item.setProperty(property, written));
+    QCOMPARE(log.take().join(' '), sentAgain);
+}
+
+void TestZaItem::notANumberChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    for (const char *property : {"diameter", "percentage", "cameraHeight", "angle", "vertFov"}) {
+        QTest::newRow(property) << QByteArray(property);
+    }
+}
+
+void TestZaItem::notANumberChangesNothing()
+{
+    QFETCH(QByteArray, property);
+    ZaItem item;
+    item.setViewMode(property == "angle" ? 1 : 0);
+    item.setProperty(property, 40.0);
+    const QVariant before = item.property(property);
+    SignalLog log(item);
+    item.setProperty(property, notANumber);
+    QCOMPARE(item.property(property), before);
+    QCOMPARE(log.take(), QStringList());
+}
+
+void TestZaItem::controlsReachTheObjects()
+{
+    ZaItem item;
+    item.setDiameter(450);
+    item.setCameraHeight(30);
+    item.setRearCircleActive(true);
+    item.setFovDeg(60);
+    item.setAngle(62);
+    item.setClock(30);
+    item.setViewDownstream(false);
+    for (const PipeBase *object : objectsOf(item)) {
+        QCOMPARE(object->diameterMM, 450.0);
+        QCOMPARE(object->cameraHeight, 0.3);
+        QVERIFY(object->rearCircleActive);
+        QCOMPARE(object->camera.fovYDEG, 60.0);
+        QCOMPARE(object->clockDeg, object == &pipeOf(item) ? 0.0 : 120.0);
+    }
+    QCOMPARE(pipeOf(item).getDiameterM(), 0.45);
+    QCOMPARE(objectOf(item, 1).getDiameterM(), 0.45);
+    QCOMPARE(objectOf(item, 2).diameterM, 0.45);
+    QCOMPARE(objectOf(item, 3).diameterM, 0.45);
+    QCOMPARE(objectOf<PipeLateral>(item, 1).getAngleDeg(), 62.0);
+    QCOMPARE(objectOf<PipeBend>(item, 2).angleDeg, 60.0);
+    QCOMPARE(objectOf<PipeJoint>(item, 3).angleDeg, 60.0);
+    QVERIFY(!objectOf<PipeBend>(item, 2).getViewDownstream());
+}
+
+void TestZaItem::percentageReachesTheObjects()
+{
+    ZaItem item;
+    const Cylinder &cylinder = pipeOf(item).cylinder;
+    const auto &lateral = objectOf<PipeLateral>(item, 1);
+    const auto &joint = objectOf<PipeJoint>(item, 3);
+    item.setiWantToMeasure("CrossSection");
+    item.setPercentage(30);
+    QCOMPARE(cylinder.crossSectDistancePercent, 0.3);
+    QCOMPARE(cylinder.waterLevelPercent, 0.0);
+    QCOMPARE(lateral.getLateralDiameterPercent(), 0.3);
+    COMPARE_NEAR(joint.getOffsetZ_Percent(), 0.3, roundingTolerance);
+    item.setiWantToMeasure("WaterLevel");
+    item.setPercentage(60);
+    QCOMPARE(cylinder.crossSectDistancePercent, 0.3);
+    QCOMPARE(item.percentage(), 0.6);
+    QCOMPARE(lateral.getLateralDiameterPercent(), 0.6);
+    COMPARE_NEAR(joint.getOffsetZ_Percent(), 0.6, roundingTolerance);
+}
+
+void TestZaItem::rearCircleTakesOverTwoControls()
+{
+    ZaItem item;
+    item.setRearCircleActive(true);
+    SignalLog log(item);
+    item.setCameraHeight(70);
+    QCOMPARE(log.take(), QStringList("cameraHeightChanged(70)"));
+    QCOMPARE(item.cameraHeight(), 0.5);
+    item.setRearCircleActive(false);
+    item.setCameraHeight(20);
+    QCOMPARE(item.cameraHeight(), 0.2);
+}
+
+void TestZaItem::clockSendsNothing()
+{
+    ZaItem item;
+    SignalLog log(item);
+    item.setClock(std::numeric_limits<int>::max());
+    QCOMPARE(log.take(), QStringList());
+    QCOMPARE(objectOf(item, 2).clockDeg, 2147483737.0);
+}
+
+void TestZaItem::measuresAreThoseOfTheStraightPipeOnView()
+{
+    ZaItem item;
+    SignalLog log(item);
+    Pipe &pipe = pipeOf(item);
+    log.take();
+    pipe.measure1 = 12;
+    pipe.measure2 = 0.5;
+    Q_EMIT pipe.measure1Changed(12);
+    Q_EMIT pipe.measure2Changed(0.5);
+    QCOMPARE(log.take(), QStringList({"measure1Changed(12)", "measure2Changed(0.5)"}));
+    QCOMPARE(item.measure1(), 12.0);
+    QCOMPARE(item.measure2(), 0.5);
+    for (const int other : {1, 2, 3, unknownView}) {
+        item.setViewMode(other);
+        QCOMPARE(item.measure1(), 0.0);
+        QCOMPARE(item.measure2(), 0.0);
+    }
+}
+
+void TestZaItem::kind_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<int>("viewObject");
+    QTest::addColumn<int>("measureMode");
+    QTest::addColumn<int>("measureType");
+    QTest::newRow("crack width") << "CrackWidth" << 0 << 4 << 1;
+    QTest::newRow("pipe dimension") << "PipeDimension" << 0 << 1 << 1;
+    QTest::newRow("water level") << "WaterLevel" << 0 << 3 << 3;
+    QTest::newRow("branch angle") << "BranchAngle" << 1 << 0 << 6;
+    QTest::newRow("bend angle") << "BendAngle" << 2 << 0 << 5;
+    QTest::newRow("cross section") << "CrossSection" << 0 << 2 << 2;
+    QTest::newRow("lower case") << "crackwidth" << 0 << 0 << 0;
+    QTest::newRow("empty after another") << "" << 0 << 0 << 0;
+}
+
+void TestZaItem::kind()
+{
+    QFETCH(QString, kind);
+    ZaItem item;
+    setSize(item, 600, 600);
+    item.setiWantToMeasure("another kind");
+    item.setViewMode(0);
+    item.mouseClick(300, 50);
+    item.mouseClick(300, 550);
+    item.setViewMode(3);
+    item.setMeasureType(4);
+    QVERIFY(item.isTwoHitpointList());
+    SignalLog log(item);
+    item.setiWantToMeasure(kind);
+    QCOMPARE(log.take(), QStringList({"iWantToMeasureChanged(" + kind + ')',
+                                      "isTwoHitpointListChanged(false)"}));
+    QTEST(item.viewObject(), "viewObject");
+    QTEST(static_cast<int>(pipeOf(item).measureMode), "measureMode");
+    QTEST(item.measureType(), "measureType");
+    QVERIFY(pipeOf(item).hitPoints.empty());
+}
+
+void TestZaItem::sameKindAgainKeepsThePoints()
+{
+    ZaItem item;
+    setSize(item, 600, 600);
+    item.setiWantToMeasure("CrackWidth");
+    item.mouseClick(10, 10);
+    item.setViewMode(2);
+    item.setiWantToMeasure("CrackWidth");
+    QCOMPARE(pipeOf(item).hitPoints.size(), std::size_t(1));
+    QCOMPARE(item.viewObject(), 2);
+}
+
+void TestZaItem::emptyKindOnNewItem()
+{
+    ZaItem item;
+    item.setViewMode(2);
+    item.setiWantToMeasure("");
+    QCOMPARE(item.viewObject(), 2);
+}
+
+void TestZaItem::record_data()
+{
+    QTest::addColumn<QVariant>("size");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<bool>("isTaken");
+    QTest::addColumn<double>("diameterMM");
+    QTest::newRow("millimetres") << QVariant(250) << "mm" << true << 250.0;
+    QTest::newRow("inches lose the fraction") << QVariant(8) << "inch" << true << 203.0;
+    QTest::newRow("feet lose the fraction") << QVariant(1) << "ft" << true << 304.0;
+    QTest::newRow("metres count a hundred") << QVariant(3) << "m" << true << 300.0;
+    QTest::newRow("metres beyond an int") << QVariant(30000000) << "m" << true << 3e9;
+    QTest::newRow("no unit") << QVariant(250) << "" << true << 250.0;
+    QTest::newRow("unit in capitals") << QVariant(8) << "INCH" << true << 8.0;
+    QTest::newRow("whole number as text") << QVariant("250") << "mm" << true << 250.0;
+    QTest::newRow("fraction is rounded") << QVariant(250.6) << "mm" << true << 251.0;
+    QTest::newRow("fraction as text") << QVariant("250.5") << "mm" << false << 300.0;
+    QTest::newRow("words") << QVariant("egg-shaped") << "mm" << false << 300.0;
+    QTest::newRow("no field") << QVariant() << "mm" << false << 300.0;
+    QTest::newRow("zero") << QVariant(0) << "mm" << true << 0.0;
+}
+
+void TestZaItem::record()
+{
+    QFETCH(QVariant, size);
+    QFETCH(QString, unit);
+    QFETCH(bool, isTaken);
+    QFETCH(double, diameterMM);
+    Shared::CLocaleSupport::setCatalogTemplateColumnUnit(nominalSize, unit);
+    ZaItem item;
+    QSignalSpy changed(&item, &ZaItem::diameterChanged);
+    AppState::instance()->setActiveStructure(recordOf(size));
+    AppState::instance()->setActiveStructure({});
+    QCOMPARE(item.diameter(), diameterMM);
+    QCOMPARE(ZaItem::sharedMainPipeDiameter(), diameterMM);
+    QCOMPARE(changed.count(), isTaken ? 1 : 0);
+}
+
+void TestZaItem::recordAtConstruction()
+{
+    Shared::CLocaleSupport::setCatalogTemplateColumnUnit(nominalSize, "mm");
+    AppState::instance()->setActiveStructure(recordOf(250));
+    const ZaItem item;
+    QCOMPARE(item.diameter(), 250.0);
+}
+
+void TestZaItem::itemsShareTheDiameter()
+{
+    ZaItem first;
+    first.setDiameter(450);
+    const ZaItem second;
+    QCOMPARE(second.diameter(), 450.0);
+    ZaItem::sharedMainPipeDiameter() = 200;
+    QCOMPARE(first.diameter(), 450.0);
+    QSignalSpy changed(&first, &ZaItem::diameterChanged);
+    first.refreshMainPipeDiameter();
+    QCOMPARE(first.diameter(), 200.0);
+    QCOMPARE(changed.count(), 1);
+}
+
+void TestZaItem::layout_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<QRectF>("viewport");
+    QTest::newRow("wide") << QSizeF(800, 600) << QRectF(100, 0, 600, 600);
+    QTest::newRow("high") << QSizeF(600, 800) << QRectF(0, 100, 600, 600);
+    QTest::newRow("square") << QSizeF(50, 50) << QRectF(0, 0, 50, 50);
+    QTest::newRow("half a pixel") << QSizeF(101, 100) << QRectF(0.5, 0, 100, 100);
+}
+
+void TestZaItem::layout()
+{
+    QFETCH(QSizeF, size);
+    QFETCH(QRectF, viewport);
+    ZaItem item;
+    item.setSize(size);
+    for (const PipeBase *object : objectsOf(item)) {
+        QCOMPARE(object->camera.viewport, viewport);
+    }
+}
+
+void TestZaItem::clickedPixel_data()
+{
+    QTest::addColumn<QPointF>("position");
+    QTest::addColumn<QPoint>("pixel");
+    QTest::newRow("fractions are dropped") << QPointF(100.9, 50.2) << QPoint(0, 50);
+    QTest::newRow("towards zero left of the area") << QPointF(99.1, -0.9) << QPoint(0, 0);
+    QTest::newRow("left of the area") << QPointF(98.9, 600) << QPoint(-1, 600);
+}
+
+void TestZaItem::clickedPixel()
+{
+    QFETCH(QPointF, position);
+    QFETCH(QPoint, pixel);
+    ZaItem item;
+    setSize(item, 800, 600);
+    QCOMPARE(item.calculatePos(position.x(), position.y()), pixel);
+    item.setiWantToMeasure("CrackWidth");
+    item.mouseClick(position.x(), position.y());
+    COMPARE_EXACT(pipeOf(item).hitPoints.at(0).position,
+                  Vec3(pixel.x() / 600.0, pixel.y() / 600.0, 0));
+}
+
+void TestZaItem::pointIsDrawnWhereItWasClicked_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<View>("view");
+    const std::vector<std::pair<const char *, View>> views{
+        {"as it comes", [](ZaItem &) {}},
+        {"low camera, wide angle",
+         [](ZaItem &item) {
+             item.setCameraHeight(30);
+             item.setFovDeg(60);
+         }},
+        {"shifted and rolled", [](ZaItem &item) { item.moveScaleRotate(30, 10, 1, 25); }},
+        {"far end moved both ways",
+         [](ZaItem &item) {
+             item.setRearCircleActive(true);
+             item.move(40, 0);
+             item.setCameraHeight(60);
+         }},
+        {"far end moved beyond the mouth",
+         [](ZaItem &item) {
+             item.setRearCircleActive(true);
+             item.move(-90, 0);
+             item.rotate(-30);
+         }},
+    };
+    for (const char *kind : {"CrossSection", "PipeDimension", "CrackWidth"}) {
+        for (const auto &[name, view] : views) {
+            QTest::addRow("%s, %s", kind, name) << QString(kind) << view;
+        }
+    }
+}
+
+void TestZaItem::pointIsDrawnWhereItWasClicked()
+{
+    QFETCH(QString, kind);
+    QFETCH(View, view);
+    ZaItem item;
+    setSize(item, 800, 600);
+    item.setiWantToMeasure(kind);
+    item.setPercentage(30);
+    view(item);
+    paintOnce(item);
+    item.mouseClick(330, 200);
+    paintOnce(item);
+    const std::vector<HitPoint> &points = pipeOf(item).hitPoints;
+    QCOMPARE(points.size(), std::size_t(1));
+    const double pixelCentre = kind == "CrackWidth" ? 0.0 : 0.5;
+    COMPARE_NEAR(points[0].screenPos, Vec2(330 + pixelCentre, 200 + pixelCentre), clickTolerance);
+}
+
+void TestZaItem::pointListIsReported()
+{
+    ZaItem item;
+    setSize(item, 600, 600);
+    item.setiWantToMeasure("CrackWidth");
+    SignalLog log(item);
+    const auto clicked = [&](double x) {
+        item.mouseClick(x, 5);
+        return log.take().join(' ');
+    };
+    QCOMPARE(clicked(1), QString());
+    QCOMPARE(clicked(2), QString("isTwoHitpointListChanged(true)"));
+    QVERIFY(item.isTwoHitpointList());
+    QCOMPARE(clicked(3), QString("isTwoHitpointListChanged(false)"));
+    item.undo();
+    QCOMPARE(log.take(), QStringList("isTwoHitpointListChanged(true)"));
+    item.clearMeasurementPoints();
+    QCOMPARE(log.take(), QStringList("isTwoHitpointListChanged(false)"));
+    item.undo();
+    QCOMPARE(log.take(), QStringList());
+    QVERIFY(pipeOf(item).hitPoints.empty());
+}
+
+void TestZaItem::clicksReachTheStraightPipeOnly_data()
+{
+    QTest::addColumn<int>("viewObject");
+    for (const int viewObject : {1, 2, 3, unknownView, -1}) {
+        QTest::addRow("view object %d", viewObject) << viewObject;
+    }
+}
+
+void TestZaItem::clicksReachTheStraightPipeOnly()
+{
+    QFETCH(int, viewObject);
+    ZaItem item;
+    setSize(item, 600, 600);
+    item.setiWantToMeasure("CrackWidth");
+    item.setViewMode(viewObject);
+    item.mouseClick(10, 10);
+    QVERIFY(pipeOf(item).hitPoints.empty());
+}
+
+void TestZaItem::unresolvableClicksAreMisses()
+{
+    for (const char *kind : {"PipeDimension", "CrossSection", "CrackWidth", ""}) {
+        ZaItem item; // without an area a click means no place
+        item.setiWantToMeasure(kind);
+        item.mouseClick(10, 10);
+        QVERIFY2(pipeOf(item).hitPoints.empty(), kind);
+        setSize(item, 600, 600);
+        for (const double bad : {notANumber, infinity, -infinity}) {
+            item.mouseClick(bad, 10);
+            item.mouseClick(10, bad);
+        }
+        QVERIFY2(pipeOf(item).hitPoints.empty(), kind);
+        item.mouseClick(300, 50);
+        QVERIFY2(pipeOf(item).hitPoints.size() == 1, kind);
+    }
+}
+
+void TestZaItem::calibration()
+{
+    ZaItem item;
+    setSize(item, 600, 600);
+    item.setiWantToMeasure("CrackWidth");
+    item.requestCameraCalibration(0.25);
+    QCOMPARE(pipeOf(item).laserScale, 0.25);
+    item.requestCameraCalibration(notANumber);
+    QCOMPARE(pipeOf(item).laserScale, 0.25);
+    item.mouseClick(100, 300);
+    item.mouseClick(500, 300);
+    QVERIFY(QMetaObject::invokeMethod(&item, "requestCameraCalibration"));
+    QVERIFY(pipeOf(item).hitPoints.empty());
+    QCOMPARE(pipeOf(item).laserScale, 50.0 / 400); // the spots lie 50 mm apart
+}
+
+void TestZaItem::pictureUrl()
+{
+    ZaItem item;
+    QCOMPARE(item.xxx(), "file:///" + QDir::currentPath() + "/Connection.jpg");
+}
+
+QTEST_MAIN(TestZaItem)
+#include "tst_zaitem.moc"
