@@ -2,6 +2,9 @@
 
 #include "zalento/math/CLocale.h"
 
+#include <QByteArray>
+#include <QDataStream>
+#include <QMetaType>
 #include <QVariant>
 
 #include <array>
@@ -38,6 +41,25 @@ void loadFont(const QSettings &settings, const QString &key, QFont &font)
     font.fromString(settings.value(key, font).toString());
 }
 
+// A damaged store can hold a colour of no known kind; even copying such a QColor is undefined. Its
+// kind is the first byte of the form in which Qt stores it.
+bool isColorOfKnownKind(const QVariant &value)
+{
+    QByteArray stored;
+    QDataStream stream(&stored, QIODevice::WriteOnly);
+    QMetaType::save(stream, QMetaType::QColor, value.constData());
+    return stored.at(0) >= QColor::Invalid && stored.at(0) <= QColor::ExtendedRgb;
+}
+
+QColor loadColor(const QSettings &settings, const QString &key, const QColor &fallback)
+{
+    const QVariant value = settings.value(key, fallback);
+    if (value.userType() == QMetaType::QColor && !isColorOfKnownKind(value)) {
+        return QColor();
+    }
+    return value.value<QColor>();
+}
+
 // Six decimals and '.', rounded as the C library does (ties to even); Qt's own rounding differs.
 QString lengthText(double mm)
 {
@@ -60,7 +82,7 @@ void ZASettings::Load(QSettings &settings)
     loadFont(settings, QStringLiteral("fontSmall"), fontSmall);
     loadFont(settings, QStringLiteral("fontLarge"), fontLarge);
     for (const ColorKey &color : colorKeys()) {
-        this->*color.field = settings.value(color.key, color.fallback).value<QColor>();
+        this->*color.field = loadColor(settings, color.key, color.fallback);
     }
     const QString unit = settings.value(QStringLiteral("MeasureUnit"), metricText).toString();
     MeasureUnit = unit == metricText ? Drevon::Zalento::MeasureUnit::Metric
