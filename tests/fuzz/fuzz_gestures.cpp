@@ -1,0 +1,332 @@
+// Everything that QML can do to an item, in any order and with any value.
+#include "FuzzInput.h"
+#include "zalento/item/ZaItem.h"
+#include "zalento/render/ModelViewScope.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPicture>
+
+#include <cmath>
+
+using namespace Drevon::Zalento;
+
+namespace {
+
+constexpr int imageSize = 48;
+constexpr int mostSteps = 40;
+
+const char *const kinds[] = {"CrackWidth", "PipeDimension", "WaterLevel", "BranchAngle",
+                             "BendAngle",  "CrossSection",  "",           "no kind"};
+constexpr int kindCount = 8;
+// The kinds that an operator chooses.
+constexpr int properKindCount = 6;
+
+// Most paints are recorded; rasterising takes a hundred times as long and is Qt's part.
+QByteArray painted(ZaItem &item)
+{
+    QPicture picture;
+    QPainter painter(&picture);
+    item.paint(&painter);
+    painter.end();
+    return QByteArray(picture.data(), static_cast<int>(picture.size()));
+}
+
+void paintPixels(ZaItem &item)
+{
+    QImage image(imageSize, imageSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    item.paint(&painter);
+}
+
+void setGeometry(ZaItem &item, double x, double y, double width, double height)
+{
+    item.geometryChanged(QRectF(x, y, width, height), QRectF());
+}
+
+// The pipe object with a number, leaving the view as it was.
+PipeBase &objectOf(ZaItem &item, int number)
+{
+    const int viewObject = item.viewObject();
+    item.setViewMode(number);
+    PipeBase &object = item.getCurrentViewObject();
+    item.setViewMode(viewObject);
+    return object;
+}
+
+const Pipe &pipeOf(ZaItem &item)
+{
+    return static_cast<const Pipe &>(objectOf(item, 0));
+}
+
+bool isBetween(double value, double low, double high)
+{
+    return value >= low && value <= high;
+}
+
+bool isRegular(const Vec3 &p)
+{
+    constexpr double farthestM = 1e6;
+    return isBetween(p.x, -farthestM, farthestM) && isBetween(p.y, -farthestM, farthestM) &&
+           isBetween(p.z, -farthestM, farthestM);
+}
+
+// A pipe and a view that somebody could have in front of him.
+bool isRegular(const PipeBase &pipe)
+{
+    const QRectF &area = pipe.camera.viewport;
+    return isBetween(pipe.getDiameterM(), 0.01, 100) && isBetween(pipe.camera.fovYDEG, 5, 120) &&
+           isBetween(area.width(), 16, 10000) && isBetween(area.x(), -10000, 10000) &&
+           isBetween(area.y(), -10000, 10000) && isRegular(pipe.camera.eye);
+}
+
+void step(ZaItem &item, FuzzInput &input)
+{
+    switch (input.choice(22)) {
+    case 0:
+        item.setProperty("diameter", input.takeDouble());
+        break;
+    case 1:
+        item.setProperty("percentage", input.takeDouble());
+        break;
+    case 2:
+        item.setProperty("cameraHeight", input.takeDouble());
+        break;
+    case 3:
+        item.setProperty("rearCircleActive", input.choice(2) == 1);
+        break;
+    case 4:
+        item.setProperty("angle", input.takeDouble());
+        break;
+    case 5:
+        item.setProperty("clock", input.takeInt());
+        break;
+    case 6:
+        item.setProperty("viewObject", input.takeInt());
+        break;
+    case 7:
+        item.setProperty("viewStyle", input.takeInt());
+        break;
+    case 8:
+        item.setProperty("measureType", input.takeInt());
+        break;
+    case 9:
+        item.setProperty("measureUnit", input.takeInt());
+        break;
+    case 10:
+    case 11:
+        item.setProperty("iWantToMeasure", QLatin1String(kinds[input.choice(kindCount)]));
+        break;
+    case 12:
+        item.setProperty("viewDownstream", input.choice(2) == 1);
+        break;
+    case 13:
+        item.setProperty("vertFov", input.takeDouble());
+        break;
+    case 14:
+    case 15: {
+        const double x = input.takeDouble();
+        item.mouseClick(x, input.takeDouble());
+        break;
+    }
+    case 16: {
+        const double x = input.takeDouble();
+        item.move(x, input.takeDouble());
+        break;
+    }
+    case 17:
+        item.rotate(input.takeDouble());
+        break;
+    case 18: {
+        const double x = input.takeDouble();
+        const double y = input.takeDouble();
+        const double scale = input.takeDouble();
+        item.moveScaleRotate(x, y, scale, input.takeDouble());
+        break;
+    }
+    case 19:
+        item.requestCameraCalibration(input.takeDouble());
+        break;
+    case 20:
+        input.choice(2) == 0 ? item.undo() : item.clearMeasurementPoints();
+        break;
+    default: {
+        const double x = input.takeDouble();
+        const double y = input.takeDouble();
+        const double width = input.takeDouble();
+        setGeometry(item, x, y, width, input.takeDouble());
+    }
+    }
+}
+
+void checkState(ZaItem &item)
+{
+    const Pipe &pipe = pipeOf(item);
+    FUZZ_VERIFY(item.isTwoHitpointList() == (pipe.hitPoints.size() == 2));
+    for (int number = 0; number < 4; ++number) {
+        const PipeBase &object = objectOf(item, number);
+        FUZZ_VERIFY(object.camera.modelViewStack.empty());
+        FUZZ_VERIFY(isBetween(object.cameraHeight, 0, 1));
+    }
+    FUZZ_VERIFY(isBetween(pipe.cylinder.crossSectDistancePercent, 0, 1));
+}
+
+void checkMeasures(ZaItem &item)
+{
+    const Pipe &pipe = pipeOf(item);
+    bool isMeasurable = isRegular(pipe) && !pipe.hitPoints.empty() && item.viewObject() == 0 &&
+                        isBetween(pipe.laserScale, -1e6, 1e6);
+    for (const HitPoint &point : pipe.hitPoints) {
+        isMeasurable = isMeasurable && isRegular(point.position);
+    }
+    if (isMeasurable && pipe.observable != ObservableType::NothingObserved) {
+        FUZZ_VERIFY(std::isfinite(item.measure1()) && std::isfinite(item.measure2()));
+    }
+}
+
+// Clicks right after a paint: the new point is drawn where the click was.
+void checkClick(ZaItem &item, FuzzInput &input)
+{
+    constexpr double largestTurnDeg = 60;
+    const double roll = input.take<std::uint8_t>();
+    const QPoint pixel(input.take<std::uint16_t>() % 1024, input.take<std::uint16_t>() % 1024);
+    item.rotate(roll);
+    painted(item);
+    const Pipe &pipe = pipeOf(item);
+    const std::size_t before = pipe.hitPoints.size();
+    const QPointF corner = pipe.camera.viewport.topLeft();
+    item.mouseClick(corner.x() + pixel.x() + 0.25, corner.y() + pixel.y() + 0.25);
+    const Vec2 turned = pipe.rotationCorrector.touchRotation;
+    const double largest = std::max(std::abs(turned.x), std::abs(turned.y));
+    const bool onWall = pipe.measureMode == MeasureMode::NoMeasure ||
+                        pipe.measureMode == MeasureMode::PipeDimension;
+    if (item.viewObject() != 0 || pipe.hitPoints.size() != before + 1 || !isRegular(pipe) ||
+        !(largest * pipe.camera.fovYDEG / 2 < largestTurnDeg) || !onWall) {
+        return;
+    }
+    MiniGL camera = pipe.camera;
+    camera.modelViewMatrix.lookAt(camera.eye, camera.center, camera.up);
+    camera.rotateByTouchRotationVector(turned);
+    camera.modelViewMatrix.rotate(roll, 0, 0, 1);
+    Mat4 toPixels;
+    camera.combinedMatrix(toPixels);
+    Vec2 drawn;
+    toPixels.multiply(pipe.hitPoints.back().position, drawn);
+    constexpr double tolerancePx = 0.01;
+    FUZZ_VERIFY(std::abs(drawn.x - corner.x() - pixel.x() - 0.5) < tolerancePx);
+    FUZZ_VERIFY(std::abs(drawn.y - corner.y() - pixel.y() - 0.5) < tolerancePx);
+}
+
+// Sets every control to a value that an operator could choose.
+void setProperly(ZaItem &item, const char *kind)
+{
+    setGeometry(item, 0, 0, imageSize, imageSize);
+    item.setProperty("iWantToMeasure", QString());
+    item.setProperty("iWantToMeasure", QLatin1String(kind));
+    item.setProperty("diameter", 250.0);
+    item.setProperty("percentage", 35.0);
+    item.setProperty("vertFov", 40.0);
+    item.setProperty("angle", 60.0);
+    item.setProperty("clock", 20);
+    item.setProperty("viewStyle", 2);
+    item.setProperty("measureUnit", 0);
+    item.setProperty("viewDownstream", true);
+    item.setProperty("rearCircleActive", true);
+    item.setProperty("cameraHeight", 60.0);
+    item.move(30, 0);
+    item.setProperty("rearCircleActive", false);
+    item.setProperty("cameraHeight", 40.0);
+    item.move(-20, 0);
+    item.rotate(15);
+    item.requestCameraCalibration(0.5);
+}
+
+struct Outcome
+{
+    QByteArray drawing;
+    double measure1 = 0.0;
+    bool isTwoHitpointList = false;
+    double angle = 0.0;
+    double percentage = 0.0;
+
+    bool operator==(const Outcome &other) const
+    {
+        return drawing == other.drawing && measure1 == other.measure1 &&
+               isTwoHitpointList == other.isTwoHitpointList && angle == other.angle &&
+               percentage == other.percentage;
+    }
+};
+
+// A measurement of a kind from beginning to end.
+Outcome measured(ZaItem &item, const char *kind)
+{
+    setProperly(item, kind);
+    painted(item);
+    for (const QPointF click :
+         {QPointF(20, 20), QPointF(30, 20), QPointF(30, 30), QPointF(21, 20)}) {
+        item.mouseClick(click.x(), click.y());
+    }
+    Outcome outcome;
+    outcome.drawing = painted(item);
+    outcome.measure1 = item.measure1();
+    outcome.isTwoHitpointList = item.isTwoHitpointList();
+    outcome.angle = item.angle();
+    outcome.percentage = item.percentage();
+    item.setProperty("viewObject", 3); // the joint, which no kind shows
+    outcome.drawing += painted(item);
+    return outcome;
+}
+
+void checkWorksAsNew(ZaItem &used, int kind)
+{
+    static Outcome ofNewItem[properKindCount];
+    if (ofNewItem[kind].drawing.isEmpty()) {
+        ZaItem fresh;
+        ofNewItem[kind] = measured(fresh, kinds[kind]);
+    }
+    FUZZ_VERIFY(measured(used, kinds[kind]) == ofNewItem[kind]);
+}
+
+} // namespace
+
+int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static const QGuiApplication application(*argc, *argv);
+    return 0;
+}
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    FuzzInput input(data, size);
+    ZaItem::sharedMainPipeDiameter() = 300; // as in a new process
+    const int kind = input.choice(2 * properKindCount);
+    ZaItem item;
+    for (int i = 0; i < mostSteps && !input.isEmpty(); ++i) {
+        switch (input.choice(32)) {
+        case 0:
+            paintPixels(item);
+            break;
+        case 1:
+        case 2:
+        case 3:
+            painted(item);
+            checkMeasures(item);
+            break;
+        case 4:
+        case 5:
+        case 6:
+            checkClick(item, input);
+            break;
+        default:
+            step(item, input);
+        }
+        checkState(item);
+    }
+    if (kind < properKindCount) {
+        checkWorksAsNew(item, kind);
+    }
+    return 0;
+}
