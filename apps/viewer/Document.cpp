@@ -1,0 +1,39 @@
+#include "Document.h"
+
+#include "session/SessionFile.h"
+
+#include <utility>
+
+namespace Drevon::Zalento {
+
+namespace {
+
+// Sessions are small; this is a day's work on one picture.
+constexpr int largestHistory = 500;
+
+} // namespace
+
+Document::Document(const QString &path)
+    : picturePath(path)
+    , sessionPath(Apps::sessionPathOf(path))
+    , m_history(std::make_unique<QUndoStack>())
+{
+    m_history->setUndoLimit(largestHistory);
+}
+
+SessionStep::SessionStep(const QString &name, Apps::Session before, Apps::Session after,
+                         int mergeNumber, Show show)
+    : QUndoCommand(name)
+    , m_before(std::move(before))
+    , m_after(std::move(after))
+    , m_mergeNumber(mergeNumber)
+    , m_show(std::move(show))
+{}
+
+bool SessionStep::mergeWith(const QUndoCommand *next)
+{
+    m_after = static_cast<const SessionStep *>(next)->m_after;
+    return true;
+}
+
+} // namespace Drevon::Zalento

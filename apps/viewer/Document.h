@@ -1,0 +1,65 @@
+#pragma once
+
+#include "session/MeasuredValues.h"
+#include "session/Session.h"
+
+#include <QString>
+#include <QUndoStack>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace Drevon::Zalento {
+
+/** A picture in the viewer: its measurement, what can be undone, and where that is saved. */
+class Document
+{
+public:
+    explicit Document(const QString &picturePath);
+
+    QString picturePath;
+    QString sessionPath;
+    /** Why the picture cannot be shown; empty when it can. */
+    QString problem;
+    /** What has to be confirmed before the session file is overwritten; empty for nothing. */
+    QString overwriteWarning;
+    /** The session file is what was loaded or saved here. */
+    bool ownsSessionFile = false;
+    /** The measurement; empty until the picture was shown. */
+    std::optional<Apps::Session> session;
+    Apps::Measurement measurement;
+
+    QUndoStack &history() { return *m_history; }
+    bool isModified() const { return !m_history->isClean(); }
+
+private:
+    std::unique_ptr<QUndoStack> m_history;
+};
+
+/**
+ * One finished gesture: the session before and after it.
+ *
+ * Steps with the same positive merge number become one, as those of a key that is held.
+ */
+class SessionStep : public QUndoCommand
+{
+public:
+    using Show = std::function<void(const Apps::Session &)>;
+
+    SessionStep(const QString &name, Apps::Session before, Apps::Session after, int mergeNumber,
+                Show show);
+
+    void undo() override { m_show(m_before); }
+    void redo() override { m_show(m_after); }
+    int id() const override { return m_mergeNumber; }
+    bool mergeWith(const QUndoCommand *next) override;
+
+private:
+    Apps::Session m_before;
+    Apps::Session m_after;
+    int m_mergeNumber;
+    Show m_show;
+};
+
+} // namespace Drevon::Zalento

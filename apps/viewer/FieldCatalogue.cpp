@@ -1,0 +1,285 @@
+#include "FieldCatalogue.h"
+
+#include "session/MeasurementKind.h"
+
+#include <zalento/settings/UnitConv.h>
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Drevon::Zalento {
+
+using Apps::Session;
+
+namespace {
+
+constexpr double degreesPerHour = 30.0;
+constexpr double hoursPerTurn = 12.0;
+constexpr double largestLaserMM = 10000.0;
+constexpr double bendStepDEG = 5.0;
+
+const QString laserRecordStart = QStringLiteral("LASER;;;");
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Field", text);
+}
+
+// A field that is a plain number of the session, with the session's own limits.
+Field numberField(const QString &name, double Session::*member)
+{
+    Field field;
+    field.name = name;
+    field.get = [member](const Session &s) { return s.*member; };
+    field.set = [member](Session &s, std::optional<double> v) { s.*member = v.value_or(0.0); };
+    for (const Apps::SessionNumber &number : Apps::sessionNumbers()) {
+        if (number.member == member) {
+            field.smallest = number.smallest;
+            field.largest = number.largest;
+        }
+    }
+    return field;
+}
+
+Field with(Field field, const char *label, const QString &unit, double step, int decimals)
+{
+    field.label = tr(label);
+    field.unit = unit;
+    field.step = step;
+    field.decimals = decimals;
+    return field;
+}
+
+// In inches while the unit is imperial.
+Field diameterField(const Session &session)
+{
+    Field field = with(numberField(QStringLiteral("diameterMM"), &Session::diameterMM),
+                       QT_TRANSLATE_NOOP("Field", "Nominal diameter"), QStringLiteral("mm"), 5, 2);
+    if (session.unit != MeasureUnit::Metric) {
+        field.unit = QStringLiteral("in");
+        field.step = 1;
+        field.decimals = 3;
+        field.smallest = UnitConv::mmToInch(field.smallest);
+        field.largest = UnitConv::mmToInch(field.largest);
+        field.get = [](const Session &s) { return UnitConv::mmToInch(s.diameterMM); };
+        field.set = [](Session &s, std::optional<double> inch) {
+            s.diameterMM = UnitConv::inchTomm(inch.value_or(0.0));
+        };
+    }
+    return field;
+}
+
+Field percentageField(const Session &session)
+{
+    static const QHash<QString, const char *> labels{
+        {QStringLiteral("WaterLevel"), QT_TRANSLATE_NOOP("Field", "Water level")},
+        {QStringLiteral("BranchAngle"), QT_TRANSLATE_NOOP("Field", "Branch size")},
+        {QStringLiteral("BendAngle"), QT_TRANSLATE_NOOP("Field", "Piece length")},
+        {QStringLiteral("CrossSection"), QT_TRANSLATE_NOOP("Field", "Plane depth")},
+    };
+    Field field = with(numberField(QStringLiteral("percentage"), &Session::percentage),
+                       labels.value(session.kind, ""), QStringLiteral("%"), 1, 1);
+    field.hasSlider = true;
+    return field;
+}
+
+Field angleField(const Session &session)
+{
+    Field field = with(numberField(QStringLiteral("angleDEG"), &Session::angleDEG),
+                       QT_TRANSLATE_NOOP("Field", "Angle"), QStringLiteral("°"), 1, 1);
+    field.hasSlider = true;
+    if (const Apps::MeasurementKind *kind = Apps::findMeasurementKind(session.kind)) {
+        field.smallest = kind->smallestAngleDEG;
+        field.largest = kind->largestAngleDEG;
+    }
+    if (session.kind == QLatin1String("BendAngle")) {
+        field.step = bendStepDEG;
+        field.decimals = 0;
+    }
+    return field;
+}
+
+// The hour at which the branch or the bend leaves the pipe: 12 is up, 3 is right.
+Field clockField()
+{
+    Field field;
+    field.name = QStringLiteral("clock");
+    field = with(field, QT_TRANSLATE_NOOP("Field", "Direction"), tr("o'clock"), 0.5, 2);
+    field.largest = hoursPerTurn;
+    field.get = [](const Session &s) {
+        const double hours = std::fmod(-s.clockDEG / degreesPerHour, hoursPerTurn);
+        return hours > 0.0 ? hours : hours + hoursPerTurn;
+    };
+    field.set = [](Session &s, std::optional<double> hours) {
+        s.clockDEG = -static_cast<int>(std::lround(hours.value_or(0.0) * degreesPerHour));
+    };
+    return field;
+}
+
+Field laserField()
+{
+    Field field;
+    field.name = QStringLiteral("laserMM");
+    field = with(field, QT_TRANSLATE_NOOP("Field", "Laser distance"), QStringLiteral("mm"), 1, 3);
+    field.smallest = 0.001;
+    field.largest = largestLaserMM;
+    field.get = [](const Session &s) {
+        return s.calibrationText.mid(laserRecordStart.size()).toDouble();
+    };
+    field.set = [](Session &s, std::optional<double> mm) {
+        s.calibrationText = laserRecordStart + QString::number(mm.value_or(0.0), 'g', 17);
+    };
+    return field;
+}
+
+Field scaleField()
+{
+    Field field;
+    field.name = QStringLiteral("mmPerPixel");
+    field = with(field, QT_TRANSLATE_NOOP("Field", "Scale"), tr("mm/px"), 0.01, 6);
+    field.smallest = Apps::smallestMMPerPixel;
+    field.largest = Apps::largestMMPerPixel;
+    field.mayBeEmpty = true;
+    field.get = [](const Session &s) { return s.mmPerPixel; };
+    field.set = [](Session &s, std::optional<double> v) { s.mmPerPixel = v; };
+    return field;
+}
+
+Field alignmentField(const QString &name)
+{
+    const auto plain = [&name](double Session::*member, const char *label, const QString &unit,
+                               double step, int decimals) {
+        return with(numberField(name, member), label, unit, step, decimals);
+    };
+    if (name == QLatin1String("offset")) {
+        return plain(&Session::offset, QT_TRANSLATE_NOOP("Field", "Sideways"), {}, 2, 1);
+    }
+    if (name == QLatin1String("cameraHeightPercent")) {
+        return plain(&Session::cameraHeightPercent, QT_TRANSLATE_NOOP("Field", "Camera height"),
+                     QStringLiteral("%"), 1, 1);
+    }
+    if (name == QLatin1String("rollDEG")) {
+        return plain(&Session::rollDEG, QT_TRANSLATE_NOOP("Field", "Roll"), QStringLiteral("°"), 1,
+                     1);
+    }
+    if (name == QLatin1String("fovYDEG")) {
+        return plain(&Session::fovYDEG, QT_TRANSLATE_NOOP("Field", "Field of view"),
+                     QStringLiteral("°"), 0.5, 2);
+    }
+    if (name == QLatin1String("rearCircleX")) {
+        return plain(&Session::rearCircleX, QT_TRANSLATE_NOOP("Field", "Far end sideways"), {}, 1,
+                     1);
+    }
+    return plain(&Session::rearCircleY, QT_TRANSLATE_NOOP("Field", "Far end up"), {}, 1, 1);
+}
+
+QString number(double value, int decimals)
+{
+    QString text = QString::number(value, 'f', decimals);
+    if (text.contains(QLatin1Char('.'))) {
+        while (text.endsWith(QLatin1Char('0'))) {
+            text.chop(1);
+        }
+        if (text.endsWith(QLatin1Char('.'))) {
+            text.chop(1);
+        }
+    }
+    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+}
+
+} // namespace
+
+Field fieldNamed(const QString &name, const Session &session)
+{
+    static const QHash<QString, std::function<Field(const Session &)>> special{
+        {QStringLiteral("diameterMM"), diameterField},
+        {QStringLiteral("percentage"), percentageField},
+        {QStringLiteral("angleDEG"), angleField},
+        {QStringLiteral("clock"), [](const Session &) { return clockField(); }},
+        {QStringLiteral("laserMM"), [](const Session &) { return laserField(); }},
+        {QStringLiteral("mmPerPixel"), [](const Session &) { return scaleField(); }},
+    };
+    const auto found = special.find(name);
+    return found == special.end() ? alignmentField(name) : (*found)(session);
+}
+
+QStringList kindFields(const Session &session)
+{
+    if (session.kind == QLatin1String("CrackWidth")) {
+        // A table of scales goes by the diameter; a laser record by the distance of the spots.
+        const bool isLaser = session.calibrationText.startsWith(laserRecordStart) &&
+                             !session.calibrationText.contains(QLatin1Char('\n'));
+        return {QStringLiteral("mmPerPixel"),
+                isLaser ? QStringLiteral("laserMM") : QStringLiteral("diameterMM")};
+    }
+    if (session.kind == QLatin1String("PipeDimension")) {
+        return {QStringLiteral("diameterMM")};
+    }
+    if (session.kind == QLatin1String("WaterLevel")) {
+        return {QStringLiteral("percentage")};
+    }
+    if (session.kind == QLatin1String("BranchAngle")) {
+        return {QStringLiteral("angleDEG"), QStringLiteral("percentage"), QStringLiteral("clock")};
+    }
+    if (session.kind == QLatin1String("CrossSection")) {
+        return {QStringLiteral("diameterMM"), QStringLiteral("percentage")};
+    }
+    QStringList names{QStringLiteral("angleDEG"), QStringLiteral("clock")};
+    if (session.jointShown) {
+        names.append(QStringLiteral("percentage"));
+    }
+    return names;
+}
+
+QStringList alignmentFields(const Session &session)
+{
+    if (!hasModel(session.kind)) {
+        return {};
+    }
+    if (session.rearCircleActive) {
+        return {QStringLiteral("rearCircleX"), QStringLiteral("rearCircleY")};
+    }
+    return {QStringLiteral("offset"), QStringLiteral("cameraHeightPercent"),
+            QStringLiteral("rollDEG"), QStringLiteral("fovYDEG")};
+}
+
+bool hasModel(const QString &kind)
+{
+    return kind != QLatin1String("CrackWidth");
+}
+
+QString fieldText(const Field &field, const Session &session)
+{
+    const std::optional<double> value = field.get(session);
+    return value ? number(*value, field.decimals) : QString();
+}
+
+std::optional<double> readField(const Field &field, const QString &text, QString &problem)
+{
+    problem.clear();
+    const QString trimmed = text.trimmed();
+    if (trimmed.isEmpty() && field.mayBeEmpty) {
+        return std::nullopt;
+    }
+    bool isNumber = false;
+    const double value =
+        QLocale::c().toDouble(UnitConv::cultureIndependentDecimalSeparator(trimmed), &isNumber);
+    if (!isNumber || !std::isfinite(value)) {
+        problem = tr(QT_TRANSLATE_NOOP("Field", "This is not a number."));
+        return std::nullopt;
+    }
+    if (value < field.smallest || value > field.largest) {
+        problem = tr(QT_TRANSLATE_NOOP("Field", "From %1 to %2 %3, please."))
+                      .arg(number(field.smallest, field.decimals),
+                           number(field.largest, field.decimals), field.unit)
+                      .trimmed();
+        return std::nullopt;
+    }
+    return value;
+}
+
+} // namespace Drevon::Zalento

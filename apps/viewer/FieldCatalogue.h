@@ -1,0 +1,51 @@
+#pragma once
+
+#include "session/Session.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+namespace Drevon::Zalento {
+
+/** A number of the measurement that the operator types, steps or slides. */
+struct Field
+{
+    QString name;
+    QString label;
+    QString unit;
+    double smallest = 0.0;
+    double largest = 0.0;
+    double step = 1.0;
+    int decimals = 0; ///< shown at most
+    bool hasSlider = false;
+    bool mayBeEmpty = false;
+    std::function<std::optional<double>(const Apps::Session &)> get;
+    std::function<void(Apps::Session &, std::optional<double>)> set;
+};
+
+/** The field of this name as @p session shows it; its label and limits depend on the kind. */
+Field fieldNamed(const QString &name, const Apps::Session &session);
+
+/** Names of the fields that the session's kind uses, but for those of the alignment. */
+QStringList kindFields(const Apps::Session &session);
+
+/** Names of the fields that align the model; none for a kind without a model. */
+QStringList alignmentFields(const Apps::Session &session);
+
+/** Whether the kind shows a model that can be aligned. */
+bool hasModel(const QString &kind);
+
+/** The field's value as text; empty when it has none. */
+QString fieldText(const Field &field, const Apps::Session &session);
+
+/**
+ * Reads a typed number; a decimal comma is understood.
+ * @param problem what is wrong, in words for the operator; empty when nothing is
+ * @return nothing for an empty text that is allowed, or on a problem
+ */
+std::optional<double> readField(const Field &field, const QString &text, QString &problem);
+
+} // namespace Drevon::Zalento

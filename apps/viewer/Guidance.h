@@ -1,0 +1,23 @@
+#pragma once
+
+#include "session/MeasuredValues.h"
+#include "session/Session.h"
+
+#include <QString>
+
+namespace Drevon::Zalento {
+
+/** What the status line goes by. */
+struct Situation
+{
+    const Apps::Session &session;
+    const Apps::Measurement &measurement;
+    bool isClosed = false;      ///< the points are a closed polygon
+    int laserSpotsExpected = 0; ///< clicks that the calibration still waits for
+    bool isPanning = false;     ///< a drag pans instead of moving the model
+};
+
+/** What the next click or drag does, in one sentence or two. */
+QString guidance(const Situation &situation);
+
+} // namespace Drevon::Zalento

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "session/Session.h"
+
+#include <QPointF>
+#include <QSize>
+
+namespace Drevon::Zalento {
+
+/**
+ * The session with its model dragged by @p moved picture pixels, so that the pipe's mouth stays
+ * under the pointer; while the rear circle is active its far end is dragged instead.
+ */
+Apps::Session modelDragged(const Apps::Session &start, const QPointF &moved,
+                           const QSize &pictureSize);
+
+/** Sideways shift in gesture units of @p movedX picture pixels. */
+double gestureUnits(double movedX, const QSize &pictureSize);
+
+} // namespace Drevon::Zalento

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <zalento/item/ZaItem.h>
+
+#include <QImage>
+#include <QPointF>
+#include <QPointer>
+#include <QQuickPaintedItem>
+#include <QVariantList>
+
+namespace Drevon::Zalento {
+
+/**
+ * Shows the measuring item through a view: the stage, or the loupe.
+ *
+ * The item itself lies at the picture's own pixel size, so that its pixels are picture pixels. Its
+ * own texture would grow with the square of the zoom; this one is as large as the view and is
+ * painted through contentsScale, so lines and labels are crisp at every zoom.
+ */
+class OverlayView : public QQuickPaintedItem
+{
+    Q_OBJECT
+
+    /** The item whose overlay is shown; it may be invisible. */
+    Q_PROPERTY(Drevon::Zalento::ZaItem *item READ item WRITE setItem NOTIFY itemChanged)
+    /** Picture point at the view's top-left corner, in picture pixels. */
+    Q_PROPERTY(QPointF origin READ origin WRITE setOrigin NOTIFY originChanged)
+    /** Painted under the overlay, every picture pixel a square; a null image paints nothing. */
+    Q_PROPERTY(QImage picture READ picture WRITE setPicture NOTIFY pictureChanged)
+    /** Points marked with a ring, in picture pixels. */
+    Q_PROPERTY(QVariantList marks READ marks WRITE setMarks NOTIFY marksChanged)
+    /** Paints the item; default true. */
+    Q_PROPERTY(bool isOverlayShown READ isOverlayShown WRITE setIsOverlayShown NOTIFY
+                   isOverlayShownChanged)
+    /** Height of the overlay's labels in view pixels, whatever the zoom. */
+    Q_PROPERTY(double labelPx READ labelPx WRITE setLabelPx NOTIFY labelPxChanged)
+
+public:
+    explicit OverlayView(QQuickItem *parent = nullptr);
+
+    ZaItem *item() const { return m_item; }
+    void setItem(ZaItem *item);
+    QPointF origin() const { return m_origin; }
+    void setOrigin(const QPointF &origin);
+    QImage picture() const { return m_picture; }
+    void setPicture(const QImage &picture);
+    QVariantList marks() const { return m_marks; }
+    void setMarks(const QVariantList &marks);
+    bool isOverlayShown() const { return m_isOverlayShown; }
+    void setIsOverlayShown(bool shown);
+    double labelPx() const { return m_labelPx; }
+    void setLabelPx(double px);
+
+    void paint(QPainter *painter) override;
+
+Q_SIGNALS:
+    void itemChanged();
+    void originChanged();
+    void pictureChanged();
+    void marksChanged();
+    void isOverlayShownChanged();
+    void labelPxChanged();
+
+private:
+    void paintPicture(QPainter &painter) const;
+    void paintMarks(QPainter &painter) const;
+
+    QPointer<ZaItem> m_item;
+    QPointF m_origin;
+    QImage m_picture;
+    QVariantList m_marks;
+    bool m_isOverlayShown = true;
+    double m_labelPx = 15.0;
+};
+
+} // namespace Drevon::Zalento

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QImage>
+#include <QQuickImageProvider>
+
+namespace Drevon::Zalento {
+
+/** Hands the picture on view to the scene, as "image://picture/<any id>". GUI thread only. */
+class PictureProvider : public QQuickImageProvider
+{
+public:
+    PictureProvider()
+        : QQuickImageProvider(Image)
+    {}
+
+    void setPicture(const QImage &picture) { m_picture = picture; }
+
+    QImage requestImage(const QString &, QSize *size, const QSize &) override
+    {
+        if (size) {
+            *size = m_picture.size();
+        }
+        return m_picture;
+    }
+
+private:
+    QImage m_picture;
+};
+
+} // namespace Drevon::Zalento

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QQmlApplicationEngine>
+
+class QQuickWindow;
+
+namespace Drevon::Zalento {
+
+class ViewerController;
+
+/** The viewer's window with its scene. The controller outlives it. */
+class ViewerWindow
+{
+public:
+    explicit ViewerWindow(ViewerController &controller);
+
+    /** @return false when the scene cannot be loaded; the reasons stand on stderr */
+    bool show();
+
+    /** Null before show(). */
+    QQuickWindow *window() const;
+
+private:
+    QQmlApplicationEngine m_engine;
+};
+
+} // namespace Drevon::Zalento

@@ -1,0 +1,201 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Qt.labs.folderlistmodel 2.15
+import Drevon.Zalento.Viewer 1.0
+
+// Chooses files with rows that a finger hits.
+ViewerDialog {
+    id: picker
+
+    property bool isSaving: false
+    property bool takesSeveral: false
+    property var chosen: []
+    property var run: null
+    property bool asksToReplace: false
+
+    readonly property string pictures: qsTr("pictures and sessions")
+    readonly property string folderPath: pathOf(list.folder)
+
+    width: Math.min(parent.width - 40, 820)
+    height: Math.min(parent.height - 40, 620)
+
+    function openPictures() {
+        show(qsTr("Open pictures"), ["*.jpg", "*.jpeg", "*.png", "*.bmp", "*.gif", "*.ppm", "*.pgm",
+                                     "*.tif", "*.tiff", "*.webp", "*.zalento.json"],
+             paths => Viewer.openPaths(paths))
+        takesSeveral = true
+    }
+    function openCalibration() {
+        show(qsTr("Load a camera calibration"), ["*.ini", "*.txt", "*.csv", "*.cal"],
+             paths => Viewer.loadCalibration(paths[0]))
+    }
+    function openRecord() {
+        show(qsTr("Load a pipe record"), ["*.json"], paths => Viewer.loadRecord(paths[0]))
+    }
+    function exportTo(what) {
+        const path = Viewer.suggestedPath(what)
+        show(qsTr("Save as"), ["*." + (what === "session" ? "json" : what)],
+             paths => Viewer.exportTo(what, paths[0]))
+        isSaving = true
+        const slash = path.lastIndexOf("/")
+        list.folder = urlOf(path.substring(0, slash))
+        nameField.text = path.substring(slash + 1)
+    }
+
+    function show(text, patterns, action) {
+        title = text
+        list.nameFilters = patterns
+        run = action
+        isSaving = false
+        takesSeveral = false
+        asksToReplace = false
+        chosen = []
+        list.folder = urlOf(Viewer.startFolder())
+        open()
+    }
+    function urlOf(path) {
+        return "file://" + path.split("/").map(encodeURIComponent).join("/")
+    }
+    function pathOf(url) {
+        return decodeURIComponent(url.toString().replace(/^file:\/\//, ""))
+    }
+    function toggle(path) {
+        if (isSaving) {
+            nameField.text = path.substring(path.lastIndexOf("/") + 1)
+            return
+        }
+        if (chosen.includes(path))
+            chosen = chosen.filter(p => p !== path)
+        else
+            chosen = takesSeveral ? chosen.concat([path]) : [path]
+    }
+    function finish() {
+        const target = folderPath + "/" + nameField.text
+        if (isSaving && Viewer.exists(target) && !asksToReplace) {
+            asksToReplace = true
+            return
+        }
+        close()
+        run(isSaving ? [target] : chosen)
+    }
+
+    FolderListModel {
+        id: list
+        showDirsFirst: true
+        showDotAndDotDot: false
+        caseSensitive: false
+    }
+
+    contentItem: Item {
+        Row {
+            id: top
+            width: parent.width
+            spacing: Theme.gap
+            ToolKey {
+                text: "↑"
+                font.pixelSize: 20
+                hint: qsTr("Folder above")
+                enabled: picker.folderPath !== "/"
+                onClicked: list.folder = list.parentFolder
+            }
+            Text {
+                width: parent.width - Theme.touch - Theme.gap
+                height: Theme.touch
+                verticalAlignment: Text.AlignVCenter
+                elide: Text.ElideLeft
+                text: picker.folderPath
+                color: Theme.quiet
+                font { family: Theme.family; pixelSize: Theme.small }
+            }
+        }
+        ListView {
+            id: rows
+            objectName: "fileRows"
+            anchors { top: top.bottom; topMargin: 8; bottom: bottom.top; bottomMargin: 8 }
+            width: parent.width
+            clip: true
+            model: list
+            boundsBehavior: Flickable.StopAtBounds
+            ScrollBar.vertical: ScrollBar { width: 12 }
+            delegate: ItemDelegate {
+                id: row
+                readonly property bool isChosen: picker.chosen.includes(filePath)
+                width: rows.width - 14
+                height: Theme.touch
+                Accessible.name: fileName
+                onClicked: fileIsDir ? list.folder = picker.urlOf(filePath)
+                                     : picker.toggle(filePath)
+                onDoubleClicked: if (!fileIsDir && !picker.isSaving) {
+                    picker.chosen = [filePath]
+                    picker.finish()
+                }
+                contentItem: Text {
+                    text: (fileIsDir ? "▸  " : row.isChosen ? "✔  " : "    ") + fileName
+                    verticalAlignment: Text.AlignVCenter
+                    elide: Text.ElideMiddle
+                    color: row.isChosen ? Theme.accent : Theme.text
+                    font { family: Theme.family; pixelSize: Theme.normal; bold: fileIsDir }
+                }
+                background: Rectangle {
+                    radius: Theme.radius
+                    color: row.isChosen || row.hovered ? Theme.control : "transparent"
+                }
+            }
+            Text {
+                anchors.centerIn: parent
+                visible: rows.count === 0
+                text: qsTr("Nothing here to choose")
+                color: Theme.quiet
+                font { family: Theme.family; pixelSize: Theme.normal }
+            }
+        }
+        Row {
+            id: bottom
+            anchors { right: parent.right; bottom: parent.bottom }
+            spacing: Theme.gap
+            layoutDirection: Qt.RightToLeft
+            width: parent.width
+            ToolKey {
+                id: acceptKey
+                objectName: "pickerAccept"
+                text: picker.isSaving ? (picker.asksToReplace ? qsTr("Replace") : qsTr("Save"))
+                                      : qsTr("Open")
+                emphasized: true
+                enabled: picker.isSaving ? nameField.text : picker.chosen.length > 0
+                onClicked: picker.finish()
+            }
+            ToolKey {
+                id: folderKey
+                visible: picker.takesSeveral
+                text: qsTr("Open whole folder")
+                onClicked: {
+                    picker.close()
+                    picker.run([picker.folderPath])
+                }
+            }
+            ToolKey {
+                id: cancelKey
+                text: qsTr("Cancel")
+                onClicked: picker.close()
+            }
+            TextField {
+                id: nameField
+                objectName: "pickerName"
+                visible: picker.isSaving
+                width: parent.width - acceptKey.width - cancelKey.width - 2 * Theme.gap
+                height: Theme.touch
+                selectByMouse: true
+                color: picker.asksToReplace ? Theme.warning : Theme.text
+                font { family: Theme.family; pixelSize: Theme.normal }
+                Accessible.name: qsTr("File name")
+                onTextChanged: picker.asksToReplace = false
+                onAccepted: picker.finish()
+                background: Rectangle {
+                    radius: Theme.radius
+                    color: Theme.window
+                    border { width: 1; color: Theme.line }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,46 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+
+AbstractButton {
+    id: button
+
+    property string kind
+    property int number
+
+    implicitHeight: 58
+    checkable: false
+    focusPolicy: Qt.TabFocus
+    Accessible.name: text
+    Accessible.role: Accessible.RadioButton
+    Accessible.checked: checked
+    ToolTip.text: text + "  (" + number + ")"
+    ToolTip.visible: hovered && !down
+    ToolTip.delay: 600
+
+    contentItem: Item {
+        KindIcon {
+            id: icon
+            x: 8
+            anchors.verticalCenter: parent.verticalCenter
+            kind: button.kind
+            stroke: button.checked ? Theme.onAccent : Theme.text
+            measure: button.checked ? Theme.onAccent : Theme.accent
+        }
+        Text {
+            anchors { left: icon.right; leftMargin: 8; right: parent.right; rightMargin: 4 }
+            height: parent.height
+            verticalAlignment: Text.AlignVCenter
+            text: button.text
+            wrapMode: Text.WordWrap
+            font { family: Theme.family; pixelSize: Theme.normal }
+            color: button.checked ? Theme.onAccent : Theme.text
+        }
+    }
+    background: Rectangle {
+        radius: Theme.radius
+        color: button.checked ? Theme.accent
+                              : button.down || button.hovered ? Theme.controlDown : Theme.control
+        border.width: button.visualFocus ? 2 : 0
+        border.color: Theme.text
+    }
+}

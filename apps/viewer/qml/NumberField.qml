@@ -1,0 +1,164 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Drevon.Zalento.Viewer 1.0
+
+// One number of the measurement: typed, stepped, or dragged on the slider where there is one.
+// A bad text stays as it was typed, marked, until it is put right or given up with Esc.
+FocusScope {
+    id: root
+
+    property string name
+    readonly property var info: Viewer.fieldInfo(name)
+    readonly property string current: Viewer.revision >= 0 ? Viewer.fieldText(name) : ""
+    property string problem: ""
+
+    implicitHeight: column.implicitHeight
+    onCurrentChanged: if (!problem) field.text = current
+    Component.onCompleted: field.text = current
+
+    function commit() {
+        if (field.text === current) {
+            problem = ""
+            return
+        }
+        problem = Viewer.commitField(name, field.text)
+        if (!problem)
+            field.text = current
+    }
+    function giveUp() {
+        problem = ""
+        field.text = current
+        Viewer.focusStage()
+    }
+    function step(count) {
+        problem = ""
+        Viewer.stepField(name, count)
+        field.text = current
+    }
+
+    Column {
+        id: column
+        width: parent.width
+        spacing: 2
+
+        Row {
+            width: parent.width
+            spacing: 4
+
+            Text {
+                width: parent.width - 3 * 4 - 2 * Theme.touch - input.width
+                height: Theme.touch
+                verticalAlignment: Text.AlignVCenter
+                wrapMode: Text.WordWrap
+                text: root.info.label
+                color: Theme.text
+                font { family: Theme.family; pixelSize: Theme.normal }
+            }
+            ToolKey {
+                text: "−"
+                font.pixelSize: 22
+                hint: qsTr("%1 down").arg(root.info.label)
+                autoRepeat: true
+                onClicked: root.step(-1)
+            }
+            Rectangle {
+                id: input
+                width: 104
+                height: Theme.touch
+                radius: Theme.radius
+                color: Theme.window
+                border.width: root.problem || field.activeFocus ? 2 : 1
+                border.color: root.problem ? Theme.error
+                                           : field.activeFocus ? Theme.accent : Theme.line
+
+                TextField {
+                    id: field
+                    objectName: "field." + root.name
+                    anchors { fill: parent; rightMargin: unit.width ? unit.width + 8 : 0 }
+                    focus: true
+                    selectByMouse: true
+                    background: null
+                    color: root.problem ? Theme.error : Theme.text
+                    horizontalAlignment: TextInput.AlignRight
+                    inputMethodHints: Qt.ImhFormattedNumbersOnly
+                    font { family: Theme.family; pixelSize: Theme.normal }
+                    Accessible.name: root.info.label
+                    Accessible.description: root.problem
+                    onActiveFocusChanged: activeFocus ? selectAll() : root.commit()
+                    Keys.onEscapePressed: root.giveUp()
+                    Keys.onReturnPressed: accept()
+                    Keys.onEnterPressed: accept()
+
+                    function accept() {
+                        root.commit()
+                        if (!root.problem)
+                            Viewer.focusStage()
+                    }
+                }
+                Text {
+                    id: unit
+                    anchors { right: parent.right; rightMargin: 6; verticalCenter: parent.verticalCenter }
+                    text: root.info.unit
+                    color: Theme.quiet
+                    font { family: Theme.family; pixelSize: Theme.small }
+                }
+            }
+            ToolKey {
+                text: "+"
+                font.pixelSize: 22
+                hint: qsTr("%1 up").arg(root.info.label)
+                autoRepeat: true
+                onClicked: root.step(1)
+            }
+        }
+        Text {
+            visible: root.problem
+            width: parent.width
+            wrapMode: Text.WordWrap
+            text: root.problem
+            color: Theme.error
+            font { family: Theme.family; pixelSize: Theme.small }
+        }
+        Slider {
+            id: slider
+            objectName: "slider." + root.name
+            visible: root.info.hasSlider
+            width: parent.width
+            height: Theme.touch
+            from: root.info.smallest
+            to: root.info.largest
+            stepSize: root.info.step
+            snapMode: Slider.SnapAlways
+            value: Viewer.revision >= 0 ? Viewer.fieldValue(root.name) : 0
+            focusPolicy: Qt.TabFocus
+            Accessible.name: root.info.label
+            onMoved: Viewer.dragField(root.name, value)
+            onPressedChanged: if (!pressed) {
+                Viewer.endFieldDrag()
+                value = Qt.binding(() => Viewer.revision >= 0 ? Viewer.fieldValue(root.name) : 0)
+            }
+            background: Rectangle {
+                y: (slider.height - height) / 2
+                width: slider.width
+                height: 6
+                radius: 3
+                color: Theme.control
+                Rectangle {
+                    width: slider.visualPosition * parent.width
+                    height: parent.height
+                    radius: 3
+                    color: Theme.accent
+                }
+            }
+            handle: Rectangle {
+                x: slider.visualPosition * (slider.width - width)
+                y: (slider.height - height) / 2
+                width: 26
+                height: 26
+                radius: 13
+                color: slider.pressed ? Theme.accent : Theme.text
+                border { width: slider.visualFocus ? 3 : 0; color: Theme.accent }
+            }
+        }
+    }
+}

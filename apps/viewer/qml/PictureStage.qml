@@ -1,0 +1,243 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Drevon.Zalento 1.0
+import Drevon.Zalento.Viewer 1.0
+
+// The picture with the overlay, and everything that a hand does on it.
+FocusScope {
+    id: stage
+
+    property bool isOverlayHidden: false
+    readonly property alias view: stageView
+    signal openRequested()
+
+    // How near to a point a press takes hold of it, in stage pixels.
+    readonly property int mouseReach: 12
+    readonly property int fingerReach: 26
+    readonly property real zoomStep: 1.25
+
+    objectName: "stage"
+    clip: true
+    focus: true
+
+    function zoom(steps) { stageView.zoom(Math.pow(zoomStep, steps)) }
+    function fit() { stageView.fit() }
+    function actualSize() { stageView.actualSize() }
+    function cancel() {
+        gestures.cancel()
+        loupe.aim = null
+        Viewer.cancel()
+    }
+
+    Connections {
+        target: Viewer
+        function onStageFocusRequested() { stage.forceActiveFocus() }
+        function onChanged() { overlay.update() }
+    }
+    Keys.onPressed: {
+        const length = event.modifiers & Qt.ShiftModifier ? 10 : 1
+        const arrows = {}
+        arrows[Qt.Key_Left] = [-1, 0]
+        arrows[Qt.Key_Right] = [1, 0]
+        arrows[Qt.Key_Up] = [0, -1]
+        arrows[Qt.Key_Down] = [0, 1]
+        const arrow = arrows[event.key]
+        if (arrow) {
+            event.accepted = true
+            if (!Viewer.nudge(arrow[0] * length, arrow[1] * length, event.isAutoRepeat))
+                stageView.panBy(-40 * arrow[0], -40 * arrow[1])
+        } else if (event.key === Qt.Key_H) {
+            event.accepted = true
+            isOverlayHidden = true
+        }
+    }
+    Keys.onReleased: if (event.key === Qt.Key_H && !event.isAutoRepeat)
+        isOverlayHidden = false
+    onActiveFocusChanged: if (!activeFocus) isOverlayHidden = false
+
+    StageView {
+        id: stageView
+        viewSize: Qt.size(stage.width, stage.height)
+        pictureSize: Viewer.pictureSize
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: "black"
+    }
+    Image {
+        x: stageView.offset.x
+        y: stageView.offset.y
+        width: Viewer.pictureSize.width
+        height: Viewer.pictureSize.height
+        scale: stageView.scale
+        transformOrigin: Item.TopLeft
+        source: Viewer.pictureSource
+        cache: false
+        asynchronous: false
+        // From here on the picture's own pixels are what the operator wants to see.
+        smooth: stageView.scale < 3
+        mipmap: true
+    }
+    // As large as the picture, so that its pixels are the picture's; OverlayView shows it.
+    ZaItem {
+        id: item
+        objectName: "item"
+        visible: false
+        Component.onCompleted: Viewer.item = item
+    }
+    OverlayView {
+        id: overlay
+        objectName: "overlay"
+        anchors.fill: parent
+        visible: Viewer.hasPicture && !stage.isOverlayHidden
+        item: item
+        contentsScale: stageView.scale
+        origin: stageView.origin
+    }
+    Repeater {
+        model: stage.isOverlayHidden ? [] : Viewer.points
+        PointHandle {
+            x: modelData.x * stageView.scale + stageView.offset.x
+            y: modelData.y * stageView.scale + stageView.offset.y
+            isSelected: index === Viewer.selectedPoint
+            number: index + 1
+        }
+    }
+    Repeater {
+        model: Viewer.laserSpots
+        PointHandle {
+            x: modelData.x * stageView.scale + stageView.offset.x
+            y: modelData.y * stageView.scale + stageView.offset.y
+            isSelected: true
+            mark: Theme.error
+        }
+    }
+
+    StageGestures {
+        id: gestures
+        objectName: "gestures"
+        anchors.fill: parent
+        panOnly: Viewer.isPanning
+        Accessible.role: Accessible.Graphic
+        Accessible.name: qsTr("Picture %1").arg(Viewer.pictureName)
+
+        property bool pans: false
+        property point lastPoint
+        property real startScale: 1
+        property real lastFactor: 1
+        property point lastMoved
+
+        // A finger that zooms also turns a little; the roll starts beyond this.
+        readonly property real twistSlack: 6
+
+        onTapped: {
+            stage.forceActiveFocus()
+            const pixel = stageView.toPicture(point)
+            const near = stage.pointAt(point, isTouch)
+            near >= 0 ? Viewer.selectedPoint = near : Viewer.click(pixel)
+        }
+        onDragBegan: {
+            stage.forceActiveFocus()
+            const reach = isTouch ? stage.fingerReach : stage.mouseReach
+            pans = !Viewer.beginDrag(stageView.toPicture(point), reach / stageView.scale)
+            lastPoint = point
+            loupe.isWanted = isTouch && Viewer.isDraggingPoint()
+        }
+        onDragged: {
+            if (pans)
+                stageView.panBy(point.x - lastPoint.x, point.y - lastPoint.y)
+            else
+                Viewer.dragTo(stageView.toPicture(point))
+            lastPoint = point
+            if (loupe.isWanted)
+                loupe.aim = point
+        }
+        onDragEnded: {
+            loupe.aim = null
+            if (!pans)
+                Viewer.endDrag()
+        }
+        onPanned: stageView.panBy(dx, dy)
+        onAimed: loupe.aim = point
+        onAimEnded: {
+            loupe.aim = null
+            Viewer.click(stageView.toPicture(point))
+        }
+        onPinchBegan: {
+            lastFactor = 1
+            lastMoved = Qt.point(0, 0)
+            Viewer.beginPinch()
+        }
+        onPinched: {
+            stageView.panBy(moved.x - lastMoved.x, moved.y - lastMoved.y)
+            stageView.zoomAt(Qt.point(startCentre.x + moved.x, startCentre.y + moved.y),
+                             factor / lastFactor)
+            lastFactor = factor
+            lastMoved = moved
+            const turn = Math.abs(turnDeg) - twistSlack
+            Viewer.pinch(turn > 0 ? Math.sign(turnDeg) * turn : 0, stageView.scale)
+        }
+        onPinchEnded: Viewer.endPinch()
+        onCancelled: {
+            loupe.aim = null
+            Viewer.cancel()
+        }
+        onWheelTurned: stageView.zoomAt(point, Math.pow(stage.zoomStep, notches))
+    }
+
+    // The handle under a tap, or -1.
+    function pointAt(viewPoint, isTouch) {
+        if (Viewer.isCalibrating)
+            return -1
+        const points = Viewer.points
+        for (let i = points.length - 1; i >= 0; --i) {
+            const p = stageView.toView(points[i])
+            if (Math.hypot(p.x - viewPoint.x, p.y - viewPoint.y) <= selectReach)
+                return isClosing(i) ? -1 : i
+        }
+        return -1
+    }
+    // A tap this near to a point selects it.
+    readonly property int selectReach: 7
+
+    // In an open outline a tap on the first point closes it.
+    function isClosing(index) {
+        return index === 0 && Viewer.kind === "CrossSection" && Viewer.points.length > 2
+    }
+
+    Loupe {
+        id: loupe
+        objectName: "loupe"
+        item: item
+        stageView: stageView
+    }
+    ZoomStrip {
+        anchors { right: parent.right; bottom: parent.bottom; margins: 10 }
+        visible: Viewer.hasPicture
+        stage: stage
+    }
+
+    Column {
+        anchors.centerIn: parent
+        width: parent.width * 0.7
+        spacing: 20
+        visible: !Viewer.hasPicture
+        Text {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.WordWrap
+            text: Viewer.pictureProblem || qsTr("Drop pictures from inside a pipe here")
+            color: Viewer.pictureProblem ? Theme.error : Theme.quiet
+            font { family: Theme.family; pixelSize: 22 }
+        }
+        ToolKey {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 200
+            height: 56
+            text: qsTr("Open pictures")
+            emphasized: true
+            onClicked: stage.openRequested()
+        }
+    }
+}

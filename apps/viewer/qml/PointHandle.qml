@@ -1,0 +1,28 @@
+import QtQuick 2.15
+
+// Marks a measurement point on the stage; the stage itself hears the pointer.
+Item {
+    property bool isSelected: false
+    property int number: 0
+    property color mark: Theme.accent
+
+    Rectangle {
+        readonly property int size: parent.isSelected ? 26 : 18
+        x: -size / 2
+        y: -size / 2
+        width: size
+        height: size
+        radius: size / 2
+        color: "transparent"
+        border { width: 4; color: "#a0000000" }
+        Rectangle {
+            anchors { fill: parent; margins: 1 }
+            radius: width / 2
+            color: "transparent"
+            border {
+                width: 2
+                color: parent.parent.isSelected ? parent.parent.mark : Theme.text
+            }
+        }
+    }
+}

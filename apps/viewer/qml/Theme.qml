@@ -1,0 +1,26 @@
+pragma Singleton
+import QtQuick 2.15
+
+// Dark and calm, so that the eye stays adapted to dark pictures.
+QtObject {
+    readonly property color window: "#101315"
+    readonly property color panel: "#1a1f23"
+    readonly property color control: "#2a3137"
+    readonly property color controlDown: "#39434b"
+    readonly property color line: "#3a434a"
+    readonly property color text: "#f2f5f6"
+    readonly property color quiet: "#a9b4bb"
+    readonly property color accent: "#37c6f4"
+    readonly property color onAccent: "#06222c"
+    readonly property color warning: "#ffc061"
+    readonly property color error: "#ff7a70"
+
+    // The smallest side of anything that a finger is to hit.
+    readonly property int touch: 46
+    readonly property int gap: 8
+    readonly property int radius: 6
+    readonly property int small: 14
+    readonly property int normal: 16
+    readonly property int large: 38
+    readonly property string family: "DejaVu Sans"
+}

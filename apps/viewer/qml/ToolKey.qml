@@ -1,0 +1,42 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+
+// A button that a finger hits; `hint` names it for the tool tip and for those who cannot see it.
+Button {
+    id: key
+
+    property string hint: text
+    property string shortcut: ""
+    property bool emphasized: false
+
+    implicitHeight: Theme.touch
+    implicitWidth: Math.max(Theme.touch, label.implicitWidth + 2 * 12)
+    padding: 0
+    focusPolicy: Qt.TabFocus
+    font.family: Theme.family
+    font.pixelSize: Theme.normal
+    Accessible.name: hint
+    ToolTip.text: shortcut ? hint + "  (" + shortcut + ")" : hint
+    ToolTip.visible: hovered && !down && ToolTip.text !== text
+    ToolTip.delay: 600
+
+    contentItem: Text {
+        id: label
+        text: key.text
+        font: key.font
+        color: key.checked || key.emphasized ? Theme.onAccent : Theme.text
+        opacity: key.enabled ? 1 : 0.35
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        elide: Text.ElideRight
+    }
+    background: Rectangle {
+        radius: Theme.radius
+        color: key.checked || key.emphasized
+               ? (key.down ? Qt.darker(Theme.accent, 1.2) : Theme.accent)
+               : key.down || key.hovered ? Theme.controlDown : Theme.control
+        opacity: key.enabled ? 1 : 0.5
+        border.width: key.visualFocus ? 2 : 0
+        border.color: Theme.text
+    }
+}

@@ -1,0 +1,29 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Drevon.Zalento.Viewer 1.0
+
+Dialog {
+    id: dialog
+
+    parent: Overlay.overlay
+    anchors.centerIn: parent
+    modal: true
+    focus: true
+    padding: 20
+    closePolicy: Popup.CloseOnEscape
+    onClosed: Viewer.focusStage()
+
+    header: Text {
+        text: dialog.title
+        padding: 20
+        bottomPadding: 0
+        color: Theme.text
+        font { family: Theme.family; pixelSize: 20; bold: true }
+    }
+    background: Rectangle {
+        radius: 10
+        color: Theme.panel
+        border { width: 1; color: Theme.line }
+    }
+    Overlay.modal: Rectangle { color: "#b0000000" }
+}
