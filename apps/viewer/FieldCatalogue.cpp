@@ -111,11 +111,11 @@ Field clockField()
     field = with(field, QT_TRANSLATE_NOOP("Field", "Direction"), tr("o'clock"), 0.5, 2);
     field.largest = hoursPerTurn;
     field.get = [](const Session &s) {
-        const double hours = std::fmod(-s.clockDEG / degreesPerHour, hoursPerTurn);
+        const double hours = std::fmod(s.clockDEG / degreesPerHour, hoursPerTurn);
         return hours > 0.0 ? hours : hours + hoursPerTurn;
     };
     field.set = [](Session &s, std::optional<double> hours) {
-        s.clockDEG = -static_cast<int>(std::lround(hours.value_or(0.0) * degreesPerHour));
+        s.clockDEG = static_cast<int>(std::lround(hours.value_or(0.0) * degreesPerHour));
     };
     return field;
 }
@@ -156,7 +156,7 @@ Field alignmentField(const QString &name)
         return with(numberField(name, member), label, unit, step, decimals);
     };
     if (name == QLatin1String("offset")) {
-        return plain(&Session::offset, QT_TRANSLATE_NOOP("Field", "Sideways"), {}, 2, 1);
+        return plain(&Session::offset, QT_TRANSLATE_NOOP("Field", "Shift left"), {}, 2, 1);
     }
     if (name == QLatin1String("cameraHeightPercent")) {
         return plain(&Session::cameraHeightPercent, QT_TRANSLATE_NOOP("Field", "Camera height"),
@@ -171,10 +171,9 @@ Field alignmentField(const QString &name)
                      QStringLiteral("°"), 0.5, 2);
     }
     if (name == QLatin1String("rearCircleX")) {
-        return plain(&Session::rearCircleX, QT_TRANSLATE_NOOP("Field", "Far end sideways"), {}, 1,
-                     1);
+        return plain(&Session::rearCircleX, QT_TRANSLATE_NOOP("Field", "Far end left"), {}, 1, 1);
     }
-    return plain(&Session::rearCircleY, QT_TRANSLATE_NOOP("Field", "Far end up"), {}, 1, 1);
+    return plain(&Session::rearCircleY, QT_TRANSLATE_NOOP("Field", "Far end down"), {}, 1, 1);
 }
 
 QString number(double value, int decimals)

@@ -41,21 +41,17 @@ double halfFovsPerPixel(double fovYDEG, const QSize &pictureSize)
 
 } // namespace
 
-double gestureUnits(double movedX, const QSize &pictureSize)
-{
-    return movedX * diametersPerPixel(pictureSize) * unitsPerDiameter;
-}
-
 Apps::Session modelDragged(const Apps::Session &start, const QPointF &moved,
                            const QSize &pictureSize)
 {
+    // Positive numbers move to the left and down.
     Apps::Session session = start;
     if (start.rearCircleActive) {
         const double turn = halfFovsPerPixel(start.fovYDEG, pictureSize);
         session.rearCircleX -= moved.x() * turn * unitsPerHalfFovX;
-        session.rearCircleY -= moved.y() * turn * unitsPerHalfFovY;
+        session.rearCircleY += moved.y() * turn * unitsPerHalfFovY;
     } else {
-        session.offset += gestureUnits(moved.x(), pictureSize);
+        session.offset -= moved.x() * diametersPerPixel(pictureSize) * unitsPerDiameter;
         // A raised camera sees the pipe lower.
         session.cameraHeightPercent = std::clamp(
             start.cameraHeightPercent + moved.y() * diametersPerPixel(pictureSize) * percentPerOne,

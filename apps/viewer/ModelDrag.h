@@ -14,7 +14,4 @@ namespace Drevon::Zalento {
 Apps::Session modelDragged(const Apps::Session &start, const QPointF &moved,
                            const QSize &pictureSize);
 
-/** Sideways shift in gesture units of @p movedX picture pixels. */
-double gestureUnits(double movedX, const QSize &pictureSize);
-
 } // namespace Drevon::Zalento

@@ -3,6 +3,7 @@
 #include "ValueTable.h"
 #include "ViewerController.h"
 
+#include "session/CalibrationFile.h"
 #include "session/MeasurementKind.h"
 #include "session/OverlayExport.h"
 #include "session/SessionFile.h"
@@ -10,7 +11,6 @@
 
 #include <QClipboard>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
@@ -20,8 +20,6 @@ namespace Drevon::Zalento {
 using Apps::Session;
 
 namespace {
-
-constexpr qint64 largestCalibrationBytes = 1024 * 1024;
 
 QStringList picturesIn(const QString &folder)
 {
@@ -402,21 +400,17 @@ QString ViewerController::loadRecord(const QString &path)
 
 void ViewerController::loadCalibration(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        notice(Level::Error, tr("%1 cannot be read: %2").arg(path, file.errorString()));
-        return;
+    QString problem;
+    const std::optional<QString> text = Apps::loadCalibration(path, problem);
+    if (!text) {
+        notice(Level::Error, problem);
     }
-    if (file.size() > largestCalibrationBytes) {
-        notice(Level::Error, tr("%1 is too large for a calibration.").arg(path));
-        return;
-    }
-    if (!isReady()) {
+    if (!text || !isReady()) {
         return;
     }
     chooseKind(QStringLiteral("CrackWidth"));
     Session session = sessionCopy();
-    session.calibrationText = QString::fromUtf8(file.readAll());
+    session.calibrationText = *text;
     session.mmPerPixel.reset();
     change(tr("Calibration file"), session, false);
     if (!hasScale()) {

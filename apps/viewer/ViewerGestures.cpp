@@ -157,7 +157,7 @@ void ViewerController::pinch(double turnDeg, double scale)
     }
     Session session = sessionCopy();
     if (hasModel()) {
-        session.rollDEG = m_gestureStart->rollDEG + turnDeg;
+        session.rollDEG = m_gestureStart->rollDEG - turnDeg; // a positive roll turns to the right
     }
     preview(session, session.rollDEG != sessionCopy().rollDEG);
     m_item->moveScaleRotate(0.0, 0.0, scale, session.rollDEG);

@@ -11,6 +11,8 @@
 #include <QQuickStyle>
 #include <QQuickWindow>
 
+#include <mutex>
+
 // The scene lies in a static library, whose resources are dropped unless they are asked for. The
 // macro works outside of namespaces only.
 static void keepScene()
@@ -20,20 +22,41 @@ static void keepScene()
 
 namespace Drevon::Zalento {
 
-ViewerWindow::ViewerWindow(ViewerController &controller)
+namespace {
+
+// Under this name the engine knows the controller.
+const char *const controllerProperty = "viewerController";
+
+QObject *controllerOf(QQmlEngine *engine, QJSEngine *)
 {
-    keepScene();
+    auto *controller = engine->property(controllerProperty).value<QObject *>();
+    QQmlEngine::setObjectOwnership(controller, QQmlEngine::CppOwnership);
+    return controller;
+}
+
+void registerViewerTypes()
+{
     constexpr char module[] = "Drevon.Zalento.Viewer";
-    QQuickStyle::setStyle(QStringLiteral("Default"));
     registerTypes("Drevon.Zalento");
     qmlRegisterType<OverlayView>(module, 1, 0, "OverlayView");
     qmlRegisterType<StageGestures>(module, 1, 0, "StageGestures");
     qmlRegisterType<StageView>(module, 1, 0, "StageView");
-    qmlRegisterSingletonInstance(module, 1, 0, "Viewer", &controller);
+    qmlRegisterSingletonType<ViewerController>(module, 1, 0, "Viewer", controllerOf);
+}
+
+} // namespace
+
+ViewerWindow::ViewerWindow(ViewerController &controller)
+{
+    keepScene();
+    QQuickStyle::setStyle(QStringLiteral("Default"));
+    static std::once_flag typesAreRegistered;
+    std::call_once(typesAreRegistered, registerViewerTypes);
 
     auto *provider = new PictureProvider;
     controller.setPictureProvider(provider);
     m_engine.addImageProvider(QStringLiteral("picture"), provider);
+    m_engine.setProperty(controllerProperty, QVariant::fromValue<QObject *>(&controller));
 }
 
 bool ViewerWindow::show()

@@ -5,7 +5,7 @@ import Drevon.Zalento.Viewer 1.0
 Column {
     id: panel
 
-    spacing: Theme.gap
+    spacing: 6
 
     Rectangle {
         width: parent.width

@@ -13,7 +13,7 @@ ViewerDialog {
     contentItem: Column {
         spacing: 24
         Text {
-            width: parent.width
+            width: dialog.availableWidth
             wrapMode: Text.WordWrap
             text: dialog.text
             color: Theme.text

@@ -23,8 +23,8 @@ AbstractButton {
             x: 8
             anchors.verticalCenter: parent.verticalCenter
             kind: button.kind
-            stroke: button.checked ? Theme.onAccent : Theme.text
-            measure: button.checked ? Theme.onAccent : Theme.accent
+            stroke: button.checked ? Theme.accentText : Theme.text
+            measure: button.checked ? Theme.accentText : Theme.accent
         }
         Text {
             anchors { left: icon.right; leftMargin: 8; right: parent.right; rightMargin: 4 }
@@ -33,7 +33,7 @@ AbstractButton {
             text: button.text
             wrapMode: Text.WordWrap
             font { family: Theme.family; pixelSize: Theme.normal }
-            color: button.checked ? Theme.onAccent : Theme.text
+            color: button.checked ? Theme.accentText : Theme.text
         }
     }
     background: Rectangle {

@@ -10,7 +10,7 @@ Column {
     signal calibrationRequested()
     signal recordRequested()
 
-    spacing: Theme.gap
+    spacing: 6
 
     Row {
         visible: panel.isCrack

@@ -26,7 +26,7 @@ ApplicationWindow {
         button: Theme.control
         buttonText: Theme.text
         highlight: Theme.accent
-        highlightedText: Theme.onAccent
+        highlightedText: Theme.accentText
         toolTipBase: Theme.control
         toolTipText: Theme.text
         mid: Theme.line

@@ -27,7 +27,7 @@ Rectangle {
             KindButton {
                 objectName: "kind." + modelData.name
                 width: (panel.width - 2 * Theme.gap - 6) / 2
-                height: panel.isLow ? 48 : 58
+                height: panel.isLow ? 46 : 54
                 kind: modelData.name
                 number: index + 1
                 text: modelData.title
@@ -48,9 +48,9 @@ Rectangle {
     Flickable {
         id: controls
         objectName: "controls"
-        anchors { top: rule.bottom; bottom: bottomRow.top; left: parent.left; right: parent.right }
+        anchors { top: rule.bottom; bottom: bottomRow.top; bottomMargin: 6; left: parent.left; right: parent.right }
         clip: true
-        contentHeight: column.height + 2 * Theme.gap
+        contentHeight: column.height + 2 * column.y
         boundsBehavior: Flickable.StopAtBounds
         visible: Viewer.hasPicture
         ScrollBar.vertical: ScrollBar {
@@ -61,9 +61,9 @@ Rectangle {
         Column {
             id: column
             x: Theme.gap
-            y: Theme.gap
+            y: 6
             width: parent.width - 2 * Theme.gap - 6
-            spacing: Theme.gap
+            spacing: 6
             KindPanel {
                 width: parent.width
                 onCalibrationRequested: panel.calibrationRequested()
@@ -83,7 +83,7 @@ Rectangle {
         ToolKey {
             objectName: "undoKey"
             width: bottomRow.keyWidth
-            height: 52
+            height: 50
             text: qsTr("↶ Undo")
             hint: Viewer.undoText ? qsTr("Undo: %1").arg(Viewer.undoText) : qsTr("Undo")
             shortcut: "Ctrl+Z"
@@ -93,7 +93,7 @@ Rectangle {
         ToolKey {
             objectName: "redoKey"
             width: bottomRow.keyWidth
-            height: 52
+            height: 50
             text: qsTr("↷ Redo")
             hint: Viewer.redoText ? qsTr("Redo: %1").arg(Viewer.redoText) : qsTr("Redo")
             shortcut: "Ctrl+Shift+Z"
@@ -103,7 +103,7 @@ Rectangle {
         ToolKey {
             objectName: "clearKey"
             width: bottomRow.keyWidth
-            height: 52
+            height: 50
             text: qsTr("✕ Points")
             hint: qsTr("Clear all points")
             enabled: Viewer.points.length > 0

@@ -11,7 +11,7 @@ QtObject {
     readonly property color text: "#f2f5f6"
     readonly property color quiet: "#a9b4bb"
     readonly property color accent: "#37c6f4"
-    readonly property color onAccent: "#06222c"
+    readonly property color accentText: "#06222c"
     readonly property color warning: "#ffc061"
     readonly property color error: "#ff7a70"
 

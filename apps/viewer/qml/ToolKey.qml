@@ -24,7 +24,7 @@ Button {
         id: label
         text: key.text
         font: key.font
-        color: key.checked || key.emphasized ? Theme.onAccent : Theme.text
+        color: key.checked || key.emphasized ? Theme.accentText : Theme.text
         opacity: key.enabled ? 1 : 0.35
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter

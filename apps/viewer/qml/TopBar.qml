@@ -10,7 +10,7 @@ Rectangle {
     signal recordRequested()
     signal keysRequested()
 
-    height: 58
+    height: 54
     color: Theme.panel
 
     Row {

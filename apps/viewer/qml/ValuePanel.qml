@@ -7,13 +7,13 @@ Item {
 
     property bool isLow: false
 
-    height: isLow ? 84 : 104
+    height: isLow ? 80 : 92
 
     Text {
         id: label
         objectName: "valueText"
         anchors { left: parent.left; leftMargin: 14; right: keys.left; rightMargin: 6 }
-        y: panel.isLow ? 8 : 14
+        y: panel.isLow ? 4 : 8
         height: 50
         verticalAlignment: Text.AlignVCenter
         text: Viewer.value || (Viewer.statusLevel === 1 && !Viewer.hasScale
