@@ -294,7 +294,9 @@ void TestPicking::diameterThatIsNoPipe()
         Cylinder pipe(diameterM);
         pipe.crossSectDistancePercent = 0.3;
         pipe.waterLevelPercent = level;
-        for (const PipeView &view : {frontView(0.1), frontView(diameterM)}) {
+        for (const double eyeZ : {0.15, 1.5 * diameterM}) {
+            PipeView view = frontView(0.1);
+            view.camera.eye.z = eyeZ;
             for (const QPoint pixel : {QPoint(288, 288), QPoint(10, 500)}) {
                 Vec3 picked = untouched;
                 QVERIFY(!pipe.intersectRay(pixel, view.camera, picked, Vec3(0.1, 0.2, 30)));
