@@ -10,14 +10,15 @@ job_count() {
     echo "$jobs"
 }
 
-# configure <preset>: only when that was not done since the presets changed; what else the build
-# depends on, the build looks after itself.
+# configure <preset>: afresh when that was not done since the presets or a toolchain changed; what
+# else the build depends on, the build looks after itself.
 configure() {
     stamp=build/$1/configured
-    if [ ! -f "build/$1/build.ninja" ] || [ ! -f "$stamp" ] || [ CMakePresets.json -nt "$stamp" ]; then
+    if [ ! -f "build/$1/build.ninja" ] || [ ! -f "$stamp" ] ||
+        [ -n "$(find CMakePresets.json cmake/toolchains -newer "$stamp")" ]; then
         rm -f "$stamp"
         mkdir -p "build/$1"
-        if ! cmake --preset "$1" >"build/$1/configure.log" 2>&1; then
+        if ! cmake --fresh --preset "$1" >"build/$1/configure.log" 2>&1; then
             cat "build/$1/configure.log" >&2
             return 1
         fi
