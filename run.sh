@@ -43,48 +43,26 @@ done
 . scripts/build.sh
 scripts/setup.sh build
 configure release
-build release
+build release zalento-viewer zalento-measure
+programs=build/release/bin
 
-view() {
-    if [ -z "$picture" ]; then
-        picture=$(first_sample)
-    fi
-    exec build/release/bin/zalento-viewer "$picture"
-}
-
-# A sample with a session beside it shows more than a bare picture.
+# A picture with a session beside it shows more than a bare one.
 first_sample() {
-    local candidate
-    for candidate in samples/*.jpg samples/*.png; do
-        if [ -f "${candidate%.*}.zalento.json" ] || [ -f "$candidate.zalento.json" ]; then
-            echo "$candidate"
-            return
-        fi
+    local session
+    for session in samples/*.zalento.json; do
+        echo "${session%.zalento.json}"
+        return
     done
-    echo "run.sh: samples/ holds no picture with a session" >&2
-    exit 1
 }
 
-# Values and pictures of every sample session go to out/; one bad session does not stop the rest.
+# The values go to the terminal, the annotated pictures to out/.
 measure_samples() {
-    local session failed=0
-    mkdir -p out
-    for session in samples/*.zalento.json; do
-        [ -f "$session" ] || {
-            echo "run.sh: samples/ holds no sessions" >&2
-            exit 1
-        }
-        build/release/bin/zalento-measure measure --session "$session" --format text \
-            --overlay both --output out --force || failed=1
-    done
+    "$programs/zalento-measure" measure --recursive --overlay both --output out --force samples
     echo
-    echo "The annotated pictures are in $(pwd)/out:"
-    (cd out && ls)
-    return "$failed"
+    echo "The pictures with the measured overlay are in $(pwd)/out (PNG and SVG)."
 }
 
 if [ "$measure" = no ] && [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-    view
-else
-    measure_samples
+    exec "$programs/zalento-viewer" "${picture:-$(first_sample)}"
 fi
+measure_samples

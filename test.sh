@@ -78,6 +78,8 @@ scripts/setup.sh build test ${target:+"$target"}
 if [ -n "$target" ]; then
     scripts/make-sysroot.sh "$target"
     run_stage "$target" "Cross-built for $target, emulated"
+    stage "Measured values of the samples: this machine and $target"
+    scripts/compare-values.sh release "$target"
 else
     run_stage dev "Development build"
     if [ "$quick" = no ]; then

@@ -26,12 +26,14 @@ configure() {
     fi
 }
 
-# build <preset>: a line a step on a terminal; elsewhere the compiler's messages alone.
+# build <preset> [targets...]: a line a step on a terminal; elsewhere the compiler's messages alone.
 build() {
+    preset=$1
+    shift
     quiet=
     [ -t 1 ] || quiet=--quiet
     # shellcheck disable=SC2086  # an empty option must vanish
-    cmake --build --preset "$1" --parallel "$(job_count)" -- $quiet
+    cmake --build --preset "$preset" --parallel "$(job_count)" ${1:+--target "$@"} -- $quiet
 }
 
 if command -v ccache >/dev/null; then
