@@ -210,6 +210,7 @@ void MiniGL::renderCrossSectionDisc(QPainter &painter, const QColor &color,
     combinedMatrix(toPixels);
     const Vec2 first = projected(toPixels, cylinder.frontCircle.front());
     QPainterPath disc;
+    disc.reserve(static_cast<int>(cylinder.frontCircle.size()));
     disc.moveTo(first.x, first.y);
     for (std::size_t k = 1; k < cylinder.frontCircle.size(); ++k) {
         const Vec2 s = projected(toPixels, cylinder.frontCircle[k]);
