@@ -14,11 +14,6 @@ constexpr double arcToleranceSq = 0.0001;
 // The bracket on a straight line shrinks to 1e-6 m; in m².
 constexpr double straightToleranceSq = 1e-12;
 
-bool isFinite(const Vec3 &v)
-{
-    return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
-}
-
 double squaredDistance(const Vec3 &a, const Vec3 &b)
 {
     return (a - b).lengthSquared();

@@ -14,11 +14,6 @@ namespace Drevon::Zalento {
 
 namespace {
 
-bool isFinite(const Vec3 &v)
-{
-    return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
-}
-
 QVector3D toSinglePrecision(const Vec3 &v)
 {
     return {static_cast<float>(v.x), static_cast<float>(v.y), static_cast<float>(v.z)};

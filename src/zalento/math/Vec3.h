@@ -186,6 +186,12 @@ inline constexpr Vec3 Vec3::XAxis{1.0, 0.0, 0.0};
 inline constexpr Vec3 Vec3::YAxis{0.0, 1.0, 0.0};
 inline constexpr Vec3 Vec3::ZAxis{0.0, 0.0, 1.0};
 
+/** True when no component is infinite or NaN. */
+inline bool isFinite(const Vec3 &v)
+{
+    return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
+}
+
 inline Vec3 operator*(double s, const Vec3 &a)
 {
     return Vec3::multiply(a, s);

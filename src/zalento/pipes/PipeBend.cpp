@@ -4,8 +4,6 @@ namespace Drevon::Zalento {
 
 namespace {
 
-constexpr double initialDiameterMM = 110.0;
-constexpr double initialDiameterM = 0.11;
 constexpr double straightLengthInDiameters = 0.65;
 
 } // namespace

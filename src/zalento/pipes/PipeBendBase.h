@@ -36,6 +36,10 @@ public:
                     const ZASettings &settings, double straightLength, Vec3 rotation,
                     QPoint offset);
 
+protected:
+    static constexpr double initialDiameterMM = 110.0;
+    static constexpr double initialDiameterM = 0.11;
+
 private:
     class CircleChain;
     void renderDownstream(CircleChain &chain, double straightLength) const;

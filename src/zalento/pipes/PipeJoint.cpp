@@ -7,8 +7,6 @@ namespace Drevon::Zalento {
 
 namespace {
 
-constexpr double initialDiameterMM = 110.0;
-constexpr double initialDiameterM = 0.11;
 constexpr double smallestFraction = 0.01;
 constexpr double largestFraction = 0.99;
 

@@ -9,6 +9,22 @@ namespace {
 constexpr double nearPlaneM = 0.1;
 constexpr double farPlaneM = 10.0;
 
+struct ScreenPair
+{
+    Vec2 a;
+    Vec2 b;
+};
+
+ScreenPair projectedPair(const MiniGL &camera, const Vec3 &a, const Vec3 &b)
+{
+    Mat4 toPixels;
+    camera.combinedMatrix(toPixels);
+    ScreenPair pair;
+    toPixels.multiply(a, pair.a);
+    toPixels.multiply(b, pair.b);
+    return pair;
+}
+
 } // namespace
 
 void MiniGL::onResize(const QRectF &rect)
@@ -48,24 +64,16 @@ void MiniGL::combinedMatrix(Mat4 &out) const
 
 double MiniGL::getScreenDistance(const Vec3 &a, const Vec3 &b) const
 {
-    Mat4 toPixels;
-    combinedMatrix(toPixels);
-    Vec2 pa;
-    Vec2 pb;
-    toPixels.multiply(a, pa);
-    toPixels.multiply(b, pb);
-    return (pa.x - pb.x) * (pa.x - pb.x) + (pa.y - pb.y) * (pa.y - pb.y);
+    const ScreenPair pair = projectedPair(*this, a, b);
+    const double dx = pair.a.x - pair.b.x;
+    const double dy = pair.a.y - pair.b.y;
+    return dx * dx + dy * dy;
 }
 
 Vec2 MiniGL::calculate2DDirectionVectorOnScreenFromTwo3DPoints(Vec3 a, Vec3 b) const
 {
-    Mat4 toPixels;
-    combinedMatrix(toPixels);
-    Vec2 pa;
-    Vec2 pb;
-    toPixels.multiply(a, pa);
-    toPixels.multiply(b, pb);
-    Vec2 direction(pb.x - pa.x, pb.y - pa.y);
+    const ScreenPair pair = projectedPair(*this, a, b);
+    Vec2 direction(pair.b.x - pair.a.x, pair.b.y - pair.a.y);
     if (!direction.isZeroLengthVector()) {
         direction.normalize();
     }
