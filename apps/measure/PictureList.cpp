@@ -1,10 +1,10 @@
 #include "measure/PictureList.h"
 
+#include "session/Picture.h"
 #include "session/SessionFile.h"
 
 #include <QDirIterator>
 #include <QFileInfo>
-#include <QImageReader>
 
 namespace Drevon::Zalento::Apps {
 
@@ -14,8 +14,7 @@ const QLatin1String overlayMark(".overlay");
 
 bool isPictureName(const QFileInfo &info)
 {
-    static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    return formats.contains(info.suffix().toLower().toLatin1()) &&
+    return pictureFormats().contains(info.suffix().toLower().toLatin1()) &&
            !info.completeBaseName().endsWith(overlayMark);
 }
 

@@ -1,5 +1,7 @@
 #include "session/Picture.h"
 
+#include "session/CompletePicture.h"
+
 #include <QBuffer>
 #include <QCryptographicHash>
 #include <QFile>
@@ -50,17 +52,13 @@ QString sizeProblem(const QSize &size)
 // The size stands at the start of a picture file: it is known without decoding.
 QString headerProblem(QImageReader &reader)
 {
-    if (!reader.canRead()) {
+    if (!reader.canRead() || !pictureFormats().contains(reader.format())) {
         return QStringLiteral("is not a picture in a known format");
     }
     const QSize size = reader.size();
-    if (!size.isValid()) {
-        return QStringLiteral("the picture's size cannot be told; the file is damaged");
-    }
     if (size.isEmpty()) {
-        return QStringLiteral("the picture has no pixels: %1 x %2")
-            .arg(size.width())
-            .arg(size.height());
+        return QStringLiteral("the picture has no size: its header is damaged or cut off, or tells "
+                              "a size of zero");
     }
     return sizeProblem(size);
 }
@@ -75,6 +73,9 @@ QString decode(const QByteArray &content, QImage &image)
     const QString problem = headerProblem(reader);
     if (!problem.isEmpty()) {
         return problem;
+    }
+    if (!isCompletePicture(content, reader.format())) {
+        return QStringLiteral("the picture is cut off: the file ends too early");
     }
     if (!reader.read(&image) || image.isNull()) {
         return QStringLiteral("the picture is damaged or cut off: %1").arg(reader.errorString());
@@ -105,6 +106,22 @@ QString load(const QString &path, Picture &picture)
 }
 
 } // namespace
+
+// Icons and drawings are no pictures of a pipe, and an overlay in SVG is not to be measured.
+const QList<QByteArray> &pictureFormats()
+{
+    static const QList<QByteArray> formats = [] {
+        QList<QByteArray> readable;
+        for (const char *format :
+             {"bmp", "jpeg", "jpg", "pbm", "pgm", "png", "ppm", "tif", "tiff", "webp"}) {
+            if (QImageReader::supportedImageFormats().contains(format)) {
+                readable += format;
+            }
+        }
+        return readable;
+    }();
+    return formats;
+}
 
 std::optional<Picture> loadPicture(const QString &path, QString &problem)
 {

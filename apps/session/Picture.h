@@ -2,7 +2,9 @@
 
 #include "session/Session.h"
 
+#include <QByteArray>
 #include <QImage>
+#include <QList>
 #include <QString>
 
 #include <optional>
@@ -17,7 +19,10 @@ struct Picture
 };
 
 /** More pixels than any inspection camera has; such a file is refused before it is decoded. */
-constexpr qint64 largestPictureMegapixels = 200;
+constexpr qint64 largestPictureMegapixels = 100;
+
+/** Formats of photographs that can be read, in lower case: "jpg", "png", ... */
+const QList<QByteArray> &pictureFormats();
 
 /**
  * Loads a picture.

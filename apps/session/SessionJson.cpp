@@ -134,12 +134,19 @@ private:
 
 // Picture
 
+// What is not known is left out.
 QByteArray pictureToJson(const PictureIdentity &picture)
 {
     OrderedJson json;
-    json.add(QStringLiteral("path"), picture.path);
-    json.add(QStringLiteral("size"), QJsonArray{picture.size.width(), picture.size.height()});
-    json.add(QStringLiteral("sha256"), QString::fromLatin1(picture.sha256));
+    if (!picture.path.isEmpty()) {
+        json.add(QStringLiteral("path"), picture.path);
+    }
+    if (!picture.size.isEmpty()) {
+        json.add(QStringLiteral("size"), QJsonArray{picture.size.width(), picture.size.height()});
+    }
+    if (!picture.sha256.isEmpty()) {
+        json.add(QStringLiteral("sha256"), QString::fromLatin1(picture.sha256));
+    }
     json.addAll(picture.unknownFields);
     return json.toLine();
 }

@@ -1,0 +1,85 @@
+#include "session/CompletePicture.h"
+
+#include <QtEndian>
+
+namespace Drevon::Zalento::Apps {
+
+namespace {
+
+// Second bytes of JPEG markers (ITU-T T.81, table B.1); the first one is 0xff.
+constexpr int markerStart = 0xff;
+constexpr int stuffedByte = 0x00;
+constexpr int firstRestart = 0xd0;
+constexpr int endOfImage = 0xd9;
+constexpr int temporary = 0x01;
+
+constexpr int lengthBytes = 2;
+
+int byteAt(const QByteArray &content, int position)
+{
+    return static_cast<unsigned char>(content[position]);
+}
+
+// Inside compressed data 0xff is followed by 0; such pairs and fill bytes are no markers.
+int nextMarker(const QByteArray &content, int position)
+{
+    for (; position + 1 < content.size(); ++position) {
+        const int second = byteAt(content, position + 1);
+        if (byteAt(content, position) == markerStart && second != stuffedByte &&
+            second != markerStart) {
+            return position;
+        }
+    }
+    return -1;
+}
+
+bool hasLength(int marker)
+{
+    return marker != temporary && (marker < firstRestart || marker > endOfImage);
+}
+
+// Markers inside a segment, such as those of an embedded thumbnail, are skipped with it.
+bool isCompleteJpeg(const QByteArray &content)
+{
+    int position = nextMarker(content, 0);
+    while (position >= 0) {
+        const int marker = byteAt(content, position + 1);
+        if (marker == endOfImage) {
+            return true;
+        }
+        position += 2;
+        if (hasLength(marker)) {
+            if (position + lengthBytes > content.size()) {
+                return false;
+            }
+            position += qFromBigEndian<quint16>(content.constData() + position);
+        }
+        position = nextMarker(content, position);
+    }
+    return false;
+}
+
+// Fields of the BMP file header, little-endian.
+constexpr int bmpFileSizeAt = 2;
+constexpr int bmpHeaderBytes = 14;
+
+bool isCompleteBmp(const QByteArray &content)
+{
+    if (content.size() < bmpHeaderBytes) {
+        return false;
+    }
+    const auto promised = qFromLittleEndian<quint32>(content.constData() + bmpFileSizeAt);
+    return static_cast<quint32>(content.size()) >= promised;
+}
+
+} // namespace
+
+bool isCompletePicture(const QByteArray &content, const QByteArray &format)
+{
+    if (format == "jpeg" || format == "jpg") {
+        return isCompleteJpeg(content);
+    }
+    return format != "bmp" || isCompleteBmp(content);
+}
+
+} // namespace Drevon::Zalento::Apps

@@ -1,0 +1,248 @@
+#include "PictureFiles.h"
+
+#include "measure/CommandLine.h"
+#include "session/SessionJson.h"
+#include "support/TestCase.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Drevon::Zalento;
+using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Test;
+
+namespace {
+
+QStringList words(const char *line)
+{
+    return QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+Session appliedTo(const Session &session, const char *line)
+{
+    Session changed = session;
+    const auto outcome = parseCommandLine(words(line));
+    if (outcome.command) {
+        outcome.command->session.applyTo(changed);
+    }
+    return changed;
+}
+
+} // namespace
+
+class TestCommandLine : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void refusesWrongUsage_data();
+    void refusesWrongUsage();
+    void understandsWhatToDo();
+    void optionsReachTheSession();
+    void whatIsLeftOutStays();
+    void anotherKindDropsPoints();
+    void laserSpotsAreTwoWordsOrOne_data();
+    void laserSpotsAreTwoWordsOrOne();
+    void helpAndManualNameEveryOption();
+    void examplesAreUnderstood();
+};
+
+void TestCommandLine::refusesWrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char *name, const char *line, const char *expected) {
+        QTest::newRow(name) << words(line) << QString::fromUtf8(expected);
+    };
+    row("nothing", "", "a verb is missing");
+    row("unknown verb", "mesure a.png", "unknown verb \"mesure\"");
+    row("unknown option", "measure --colour red a.png", "colour");
+    row("value missing", "measure a.png --angle", "angle");
+    row("no picture", "measure --kind WaterLevel", "no picture");
+    row("kind in lower case", "measure --kind waterlevel a", "--kind: expected one of CrackWidth");
+    row("decimal comma", "measure --diameter 300,5 a", "--diameter: expected a number such as");
+    row("no number", "measure --roll nan a", "--roll: expected a number from");
+    row("out of range", "measure --fov 180 a", "--fov: expected a number from 1 to 170");
+    row("fractional clock", "measure --clock 1.5 a", "--clock: expected a whole number");
+    row("given twice", "measure --angle 30 --angle 40 a", "--angle is given 2 times");
+    row("format twice", "measure --format csv --format json a", "--format is given more than once");
+    row("click without y", "measure --click 12 a", "--click: expected X,Y");
+    row("click of three numbers", "measure --click 1,2,3 a", "--click: expected X,Y");
+    row("infinite click", "measure --click inf,2 a", "--click: expected X,Y");
+    row("one laser spot", "measure --laser 1,2 a", "--laser: expected two points");
+    row("two scales", "measure --laser 1,2 3,4 --mm-per-pixel 1 a", "both give the scale");
+    row("scale of zero", "measure --mm-per-pixel 0 a", "--mm-per-pixel: expected");
+    row("unknown unit", "measure --unit inch a", "--unit: expected metric or imperial");
+    row("unknown direction", "measure --direction up a", "--direction: expected downstream");
+    row("unknown view style", "measure --view-style 2 a", "--view-style: expected measure, ends");
+    row("unknown format", "measure --format xml a", "--format: expected text, json, jsonl or csv");
+    row("unknown overlay", "measure --overlay gif a", "--overlay: expected png, svg or both");
+    row("click on water", "measure --kind WaterLevel --click 1,2 a", "takes no --click");
+    row("angle of a crack", "measure --kind CrackWidth --angle 40 a", "takes no --angle");
+    row("joint of a branch", "measure --kind BranchAngle --joint a", "takes no --joint");
+    row("scale of a dimension", "measure --kind PipeDimension --laser 1,2 3,4 a",
+        "takes no --laser");
+    row("bend beyond 90 degrees", "measure --kind BendAngle --angle 95 a", "from 0 to 90");
+    row("branch below 30 degrees", "measure --kind BranchAngle --angle 29 a", "from 30 to 150");
+    row("session and none", "measure --session s --no-session a", "contradict");
+    row("empty session", "measure --session= a", "--session is empty");
+    row("format of files", "render --format csv a", "it takes no --format");
+    row("nothing to write", "measure --output out a", "--output needs something to write");
+    row("kinds of a picture", "kinds a.png", "kinds takes no pictures");
+    row("kinds with an option", "kinds --force", "no option but --format");
+}
+
+void TestCommandLine::refusesWrongUsage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, expected);
+    const CommandLineOutcome outcome = parseCommandLine(arguments);
+    QVERIFY(!outcome.command);
+    QVERIFY(outcome.isProblem);
+    QVERIFY2(outcome.text.contains(expected), qPrintable(outcome.text));
+}
+
+void TestCommandLine::understandsWhatToDo()
+{
+    const auto command = parseCommandLine(
+        words("measure a.png - --recursive --session s.json --format jsonl --overlay both "
+              "--save-session --output out --force dir --calibration c.ini"));
+    QVERIFY2(command.command, qPrintable(command.text));
+    const CommandLine &all = *command.command;
+    QCOMPARE(all.inputs, words("a.png - dir"));
+    QVERIFY(all.recursive && all.writesPng && all.writesSvg && all.savesSession && all.overwrites);
+    QCOMPARE(all.sessionFile, QStringLiteral("s.json"));
+    QCOMPARE(all.outputFolder, QStringLiteral("out"));
+    QCOMPARE(all.calibrationFile, QStringLiteral("c.ini"));
+    QCOMPARE(all.format, Format::JsonLines);
+
+    const CommandLine plain = *parseCommandLine(words("measure a.png")).command;
+    QVERIFY(!plain.recursive && !plain.writesPng && !plain.writesSvg && !plain.overwrites);
+    QCOMPARE(plain.format, Format::Text);
+    QVERIFY(parseCommandLine(words("render a.png")).command->writesPng);
+    const CommandLine vector = *parseCommandLine(words("render --overlay svg a.png")).command;
+    QVERIFY(vector.writesSvg && !vector.writesPng);
+    QCOMPARE(parseCommandLine(words("kinds --format csv")).command->verb, Verb::Kinds);
+}
+
+void TestCommandLine::optionsReachTheSession()
+{
+    Session expected;
+    expected.kind = QStringLiteral("BendAngle");
+    expected.diameterMM = 217.5;
+    expected.fovYDEG = 40.25;
+    expected.cameraHeightPercent = 30;
+    expected.offset = -12.5;
+    expected.rollDEG = -5;
+    expected.percentage = 45;
+    expected.angleDEG = 60;
+    expected.rearCircleX = -3.5;
+    expected.rearCircleY = 4;
+    expected.rearCircleActive = true;
+    expected.clockDEG = -90;
+    expected.viewDownstream = false;
+    expected.jointShown = true;
+    expected.viewStyle = ViewStyle::MeasureOnly;
+    expected.unit = MeasureUnit::Imperial;
+    const Session changed = appliedTo(
+        Session(), "measure --kind BendAngle --diameter 217.5 --fov 40.25 --camera-height 30 "
+                   "--offset -12.5 --roll -5 --percentage 45 --angle 60 --rear-circle -3.5,4 "
+                   "--rear-circle-active --clock -90 --direction upstream --joint "
+                   "--view-style measure --unit imperial a");
+    QCOMPARE(sessionToJson(changed), sessionToJson(expected));
+
+    const Session crack = appliedTo(
+        Session(), "measure --kind CrackWidth --mm-per-pixel 0.25 --click 1.5,2 --click=-3,4 a");
+    QCOMPARE(*crack.mmPerPixel, 0.25);
+    QCOMPARE(crack.points.size(), 2);
+    QCOMPARE(crack.points[1].pixel, QPointF(-3, 4));
+    QVERIFY(!crack.points[1].position);
+}
+
+void TestCommandLine::whatIsLeftOutStays()
+{
+    Session session;
+    session.kind = QStringLiteral("CrackWidth");
+    session.rollDEG = 12;
+    session.unit = MeasureUnit::Imperial;
+    session.mmPerPixel = 3;
+    session.rearCircleActive = true;
+    session.points = {{QPointF(1, 2), Vec3(1, 2, 3), {}}};
+    QVERIFY(appliedTo(session, "measure a") == session);
+    session.fovYDEG = 50;
+    QVERIFY(appliedTo(session, "measure --fov 50 --kind CrackWidth a") == session);
+    QCOMPARE(appliedTo(session, "measure --click 5,6 a").points.size(), 1);
+    QVERIFY(!appliedTo(session, "measure --click 5,6 a").points[0].position);
+}
+
+void TestCommandLine::anotherKindDropsPoints()
+{
+    Session session;
+    session.points = {{QPointF(1, 2), Vec3(1, 2, 3), {}}};
+    session.jointShown = true;
+    const Session changed = appliedTo(session, "measure --kind CrackWidth a");
+    QVERIFY(changed.points.isEmpty());
+    QVERIFY(!changed.jointShown);
+}
+
+void TestCommandLine::laserSpotsAreTwoWordsOrOne_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    const QString one = QStringLiteral("1.5,2 30,4");
+    QTest::newRow("two words") << words("measure --laser 1.5,2 30,4 a.png");
+    QTest::newRow("one word") << QStringList{"measure", "--laser", one, "a.png"};
+    QTest::newRow("with =") << QStringList{"measure", "a.png", "--laser=" + one};
+    QTest::newRow("last") << words("measure a.png --laser 1.5,2 30,4");
+}
+
+void TestCommandLine::laserSpotsAreTwoWordsOrOne()
+{
+    QFETCH(QStringList, arguments);
+    const auto outcome = parseCommandLine(arguments);
+    QVERIFY2(outcome.command, qPrintable(outcome.text));
+    QCOMPARE(outcome.command->inputs, QStringList{"a.png"});
+    QCOMPARE(outcome.command->session.laserSpots, (QVector<QPointF>{{1.5, 2}, {30, 4}}));
+}
+
+void TestCommandLine::helpAndManualNameEveryOption()
+{
+    const CommandLineOutcome help = parseCommandLine(words("measure --help --nonsense"));
+    QVERIFY(!help.command && !help.isProblem);
+    QString manual = QString::fromUtf8(readBytes(QStringLiteral(ZALENTO_MAN_PAGE)));
+    manual.replace(QLatin1String("\\-"), QLatin1String("-"));
+    QRegularExpression option(QStringLiteral("--[a-z-]+"));
+    QStringList names;
+    for (auto match = option.globalMatch(help.text); match.hasNext();) {
+        names += match.next().captured();
+    }
+    names.removeDuplicates();
+    QVERIFY(names.size() > 25);
+    for (const QString &name : names) {
+        QVERIFY2(manual.contains(name), qPrintable(name));
+    }
+    for (const char *section : {"Environment:", "Exit codes:", "Examples:"}) {
+        QVERIFY(help.text.contains(QLatin1String(section)));
+    }
+}
+
+void TestCommandLine::examplesAreUnderstood()
+{
+    QString text = parseCommandLine({QStringLiteral("--help")}).text;
+    text = text.mid(text.indexOf(QLatin1String("Examples:"))).replace("\\\n", " ");
+    QStringList kinds;
+    for (const QString &line : text.split(QLatin1Char('\n')).mid(1)) {
+        if (line.isEmpty()) {
+            continue;
+        }
+        const auto outcome =
+            parseCommandLine(line.split(QLatin1Char(' '), Qt::SkipEmptyParts).mid(1));
+        QVERIFY2(outcome.command, qPrintable(line + ": " + outcome.text));
+        kinds += *outcome.command->session.kind;
+    }
+    for (const MeasurementKind &kind : measurementKinds()) {
+        QVERIFY2(kinds.contains(kind.name), qPrintable(kind.name));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestCommandLine)
+#include "tst_commandline.moc"

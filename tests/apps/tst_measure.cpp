@@ -1,0 +1,439 @@
+#include "PictureFiles.h"
+
+#include "measure/Run.h"
+#include "session/SessionFile.h"
+#include "support/TestCase.h"
+
+#include <QBuffer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Drevon::Zalento;
+using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Test;
+
+namespace {
+
+struct Outcome
+{
+    int code;
+    QByteArray output;
+    QByteArray messages;
+};
+
+Outcome runProgram(const QStringList &arguments, const QByteArray &list = {})
+{
+    QBuffer input;
+    input.setData(list);
+    input.open(QIODevice::ReadOnly);
+    QBuffer output;
+    output.open(QIODevice::WriteOnly);
+    QBuffer messages;
+    messages.open(QIODevice::WriteOnly);
+    const int code = run(arguments, input, output, messages);
+    return {code, output.data(), messages.data()};
+}
+
+const QStringList water{"measure", "--kind", "WaterLevel", "--percentage", "12.5"};
+
+QByteArray sha256Of(const QString &path)
+{
+    return QCryptographicHash::hash(readBytes(path), QCryptographicHash::Sha256).toHex();
+}
+
+} // namespace
+
+class TestMeasure : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void printsEveryFormat_data();
+    void printsEveryFormat();
+    void quotesWhatCsvNeeds();
+    void listsKinds_data();
+    void listsKinds();
+    void wrongUsageTouchesNothing();
+    void badPicturesDoNotStopARun();
+    void saysWhyThereIsNoValue_data();
+    void saysWhyThereIsNoValue();
+    void unreadableFilesStopARun_data();
+    void unreadableFilesStopARun();
+    void writesOverlays();
+    void overwritesOnlyWhenForced();
+    void picturesOfOneNameDoNotMeet();
+    void savedSessionMeasuresTheSame();
+    void takesTheSessionBesideThePicture();
+    void anotherPictureIsNotOverwritten();
+    void oneSessionForManyPictures();
+    void optionsMoveTheSessionsPlane();
+    void foldersAreSorted();
+    void namesComeFromTheInput();
+    void sameBytesTwice();
+
+private:
+    QString path(const char *name) const { return m_dir->filePath(QLatin1String(name)); }
+    bool addPicture(const char *name, const QSize &size = QSize(64, 48)) const
+    {
+        return greyPicture(size).save(path(name));
+    }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+void TestMeasure::init()
+{
+    TestCase::init();
+    m_dir = std::make_unique<QTemporaryDir>();
+    QVERIFY(addPicture("a.png"));
+    QDir::setCurrent(m_dir->path());
+}
+
+void TestMeasure::cleanup()
+{
+    QDir::setCurrent(QDir::rootPath());
+    m_dir.reset();
+    TestCase::cleanup();
+}
+
+void TestMeasure::printsEveryFormat_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QByteArray>("expected"); // HASH stands for the picture's
+    QTest::newRow("text") << "text"
+                          << QByteArray("a.png: waterLevel 13 % (12.5 %)\n"
+                                        "none.png: failed: none.png: there is no such file\n");
+    QTest::newRow("csv") << "csv"
+                         << QByteArray("picture,kind,status,name,number,unit,text,message\n"
+                                       "a.png,WaterLevel,measured,waterLevel,12.5,%,13 %,\n"
+                                       "none.png,,failed,,,,,none.png: there is no such file\n");
+    QTest::newRow("jsonl")
+        << "jsonl"
+        << QByteArray("{\"picture\": \"a.png\", \"size\": [64,48], \"sha256\": \"HASH\", "
+                      "\"kind\": \"WaterLevel\", \"status\": \"measured\", \"values\": "
+                      "[{\"name\": \"waterLevel\", \"number\": 12.5, \"unit\": \"%\", \"text\": "
+                      "\"13 %\"}], \"message\": \"\", \"written\": []}\n"
+                      "{\"picture\": \"none.png\", \"kind\": \"\", \"status\": \"failed\", "
+                      "\"values\": [], \"message\": \"none.png: there is no such file\", "
+                      "\"written\": []}\n");
+}
+
+void TestMeasure::printsEveryFormat()
+{
+    QFETCH(QString, format);
+    QFETCH(QByteArray, expected);
+    const Outcome outcome =
+        runProgram(water + QStringList{"--format", format, "a.png", "none.png"});
+    QCOMPARE(outcome.code, int(SomeNotMeasured));
+    QCOMPARE(outcome.output, expected.replace("HASH", sha256Of(path("a.png"))));
+    QCOMPARE(outcome.messages, QByteArray("zalento-measure: none.png: there is no such file\n"));
+
+    // The lists of JSON have the same objects as its lines.
+    const Outcome list = runProgram(water + QStringList{"--format", "json", "a.png", "none.png"});
+    const QJsonArray array = QJsonDocument::fromJson(list.output).array();
+    QCOMPARE(array.size(), 2);
+    if (format == QLatin1String("jsonl")) {
+        const QByteArrayList lines = outcome.output.split('\n');
+        QCOMPARE(array[0].toObject(), QJsonDocument::fromJson(lines[0]).object());
+        QCOMPARE(array[1].toObject(), QJsonDocument::fromJson(lines[1]).object());
+    }
+}
+
+void TestMeasure::quotesWhatCsvNeeds()
+{
+    QVERIFY(addPicture("a, \"b\".png"));
+    const Outcome outcome = runProgram(water + QStringList{"--format", "csv", "a, \"b\".png"});
+    QVERIFY(outcome.output.contains("\n\"a, \"\"b\"\".png\",WaterLevel,"));
+}
+
+void TestMeasure::listsKinds_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QByteArray>("expected");
+    QTest::newRow("text") << "text" << QByteArray("\n    options: --percentage --angle --clock\n");
+    QTest::newRow("json") << "json" << QByteArray("\"options\": [\"--percentage\"]");
+    QTest::newRow("jsonl") << "jsonl" << QByteArray("\"kind\": \"BendAngle\"");
+    QTest::newRow("csv") << "csv" << QByteArray("PipeDimension,Pipe dimension,");
+}
+
+void TestMeasure::listsKinds()
+{
+    QFETCH(QString, format);
+    QFETCH(QByteArray, expected);
+    const Outcome outcome = runProgram({"kinds", "--format", format});
+    QCOMPARE(outcome.code, int(AllMeasured));
+    QVERIFY2(outcome.output.contains(expected), outcome.output);
+    QVERIFY(outcome.output.contains("CrossSection"));
+    QVERIFY(outcome.messages.isEmpty());
+    if (format == QLatin1String("json")) {
+        QCOMPARE(QJsonDocument::fromJson(outcome.output).array().size(), 6);
+    }
+}
+
+void TestMeasure::wrongUsageTouchesNothing()
+{
+    const QByteArray before = folderState(m_dir->path());
+    const Outcome outcome = runProgram(
+        water + QStringList{"--overlay", "png", "--output", "new", "a.png", "--fov", "x"});
+    QCOMPARE(outcome.code, int(WrongUsage));
+    QVERIFY(outcome.output.isEmpty());
+    QVERIFY(outcome.messages.startsWith("zalento-measure: --fov: expected a number"));
+    QCOMPARE(folderState(m_dir->path()), before);
+    QVERIFY(!QDir(path("new")).exists());
+}
+
+void TestMeasure::badPicturesDoNotStopARun()
+{
+    QVERIFY(writeBytes(path("bad.jpg"), "no picture"));
+    QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("folder")));
+    const Outcome outcome = runProgram(
+        water + QStringList{"--format", "csv", "none.png", "bad.jpg", "folder", "a.png"});
+    QCOMPARE(outcome.code, int(SomeNotMeasured));
+    QCOMPARE(outcome.output.count('\n'), 5);
+    QVERIFY(outcome.output.contains("\na.png,WaterLevel,measured,"));
+    QVERIFY(outcome.messages.contains("bad.jpg: is not a picture in a known format"));
+    QVERIFY(outcome.messages.contains("folder: is a folder: use --recursive"));
+}
+
+void TestMeasure::saysWhyThereIsNoValue_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("status");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *name, const char *options, const char *status,
+                        const char *message) {
+        QTest::newRow(name) << options << status << message;
+    };
+    row("no kind", "", "failed", "--kind is missing");
+    row("no points", "--kind PipeDimension", "no value", "needs at least two points");
+    row("no scale", "--kind CrackWidth --click 1,1 --click 9,1", "no value", "no scale yet");
+    row("no level", "--kind WaterLevel", "no value", "needs --percentage");
+    row("no angle", "--kind BranchAngle --percentage 20", "no value", "needs --angle");
+    row("point outside", "--kind CrackWidth --click 64,1", "failed",
+        "the point 64,1 lies outside the picture of 64 x 48 pixels");
+    row("laser spot outside", "--kind CrackWidth --laser 1,1 1,48", "failed", "1,48 lies outside");
+    row("laser spots on one pixel", "--kind CrackWidth --laser 1,1 1,1", "failed", "same pixel");
+    row("point beside the pipe", "--kind PipeDimension --offset 2000 --click 9,24", "failed",
+        "the point 9,24 meets no wall");
+}
+
+void TestMeasure::saysWhyThereIsNoValue()
+{
+    QFETCH(QString, options);
+    QFETCH(QString, status);
+    QFETCH(QString, message);
+    const QStringList words = options.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const Outcome outcome =
+        runProgram(QStringList{"measure", "--format", "jsonl", "a.png"} + words);
+    QCOMPARE(outcome.code, int(SomeNotMeasured));
+    const QJsonObject result = QJsonDocument::fromJson(outcome.output).object();
+    QCOMPARE(result[QLatin1String("status")].toString(), status);
+    QVERIFY2(result[QLatin1String("message")].toString().contains(message), outcome.output);
+    QVERIFY(result[QLatin1String("values")].toArray().isEmpty());
+    QVERIFY(outcome.messages.contains(message.toUtf8()));
+}
+
+void TestMeasure::unreadableFilesStopARun_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("message");
+    QTest::newRow("no session") << QStringList{"--session", "none.json"}
+                                << QByteArray("none.json: there is no such file");
+    QTest::newRow("malformed session")
+        << QStringList{"--session", "bad"} << QByteArray("bad: not a JSON object");
+    QTest::newRow("session among the pictures")
+        << QStringList{"bad.zalento.json"} << QByteArray("bad.zalento.json: not a JSON object");
+    QTest::newRow("no calibration")
+        << QStringList{"--calibration", "none.ini"} << QByteArray("none.ini: cannot be read");
+    QTest::newRow("calibration without one")
+        << QStringList{"--calibration", "bad"} << QByteArray("bad: holds no calibration");
+    QTest::newRow("output is a file")
+        << QStringList{"--overlay", "png", "--output", "bad"} << QByteArray("cannot be made");
+}
+
+void TestMeasure::unreadableFilesStopARun()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, message);
+    QVERIFY(writeBytes(path("bad"), "bad"));
+    QVERIFY(writeBytes(path("bad.zalento.json"), "bad"));
+    const Outcome outcome =
+        runProgram(QStringList{"measure", "a.png", "--kind", "CrackWidth"} + arguments);
+    QCOMPARE(outcome.code, int(CannotReadOrWrite));
+    QVERIFY2(outcome.messages.contains(message), outcome.messages);
+}
+
+void TestMeasure::writesOverlays()
+{
+    const QByteArray before = readBytes(path("a.png"));
+    const Outcome outcome = runProgram(
+        {"render", "--kind", "WaterLevel", "--overlay", "both", "--output", "out/x", "a.png"});
+    QCOMPARE(outcome.code, int(AllMeasured));
+    QVERIFY(outcome.output.isEmpty());
+    QVERIFY(outcome.messages.contains("wrote out/x/a.overlay.png"));
+    const QImage overlay(path("out/x/a.overlay.png"));
+    QCOMPARE(overlay.size(), QSize(64, 48));
+    const QImage original(path("a.png"));
+    QVERIFY(overlay.convertToFormat(original.format()) != original);
+    QCOMPARE(overlay.pixelColor(0, 0), original.pixelColor(0, 0)); // the model leaves the corners
+    QVERIFY(readBytes(path("out/x/a.overlay.svg")).contains("viewBox=\"0 0 64 48\""));
+    QCOMPARE(readBytes(path("a.png")), before);
+}
+
+void TestMeasure::overwritesOnlyWhenForced()
+{
+    QVERIFY(writeBytes(path("a.overlay.png"), "mine"));
+    const QStringList arguments = water + QStringList{"--overlay", "png", "a.png"};
+    Outcome outcome = runProgram(arguments);
+    QCOMPARE(outcome.code, int(CannotReadOrWrite));
+    QVERIFY(outcome.messages.contains("a.overlay.png exists already"));
+    QVERIFY(outcome.output.contains("waterLevel 13 %"));
+    QCOMPARE(readBytes(path("a.overlay.png")), QByteArray("mine"));
+    outcome = runProgram(arguments + QStringList{"--force"});
+    QCOMPARE(outcome.code, int(AllMeasured));
+    QCOMPARE(QImage(path("a.overlay.png")).size(), QSize(64, 48));
+}
+
+void TestMeasure::picturesOfOneNameDoNotMeet()
+{
+    QVERIFY(addPicture("a.bmp", QSize(10, 10)));
+    const Outcome outcome = runProgram(
+        water + QStringList{"--overlay", "png", "--output", "out", "--force", "a.png", "a.bmp"});
+    QCOMPARE(outcome.code, int(CannotReadOrWrite));
+    QVERIFY(outcome.messages.contains("was written for another picture of this run"));
+    QCOMPARE(QImage(path("out/a.overlay.png")).size(), QSize(64, 48));
+}
+
+void TestMeasure::savedSessionMeasuresTheSame()
+{
+    const QStringList options{"--kind",  "PipeDimension", "--diameter", "217.3",    "--fov",
+                              "41.1",    "--roll",        "3.3",        "--offset", "7",
+                              "--click", "20.5,10.25",    "--click",    "40,33.75", "--format",
+                              "jsonl"};
+    const Outcome first = runProgram(QStringList{"measure", "--save-session", "a.png"} + options);
+    QCOMPARE(first.code, int(AllMeasured));
+    const auto valuesOf = [](const QByteArray &json) {
+        return QJsonDocument::fromJson(json).object().value(QLatin1String("values"));
+    };
+    const QStringList session{"measure", "--format", "jsonl", "--session", "a.png.zalento.json"};
+    QCOMPARE(valuesOf(runProgram(session).output), valuesOf(first.output));
+    QCOMPARE(valuesOf(runProgram({"measure", "--format", "jsonl", "a.png.zalento.json"}).output),
+             valuesOf(first.output));
+    // Points have their place in the scene: the alignment does not change what was measured.
+    const Outcome turned = runProgram(session + QStringList{"--roll", "90"});
+    QCOMPARE(valuesOf(turned.output), valuesOf(first.output));
+    QCOMPARE(runProgram(QStringList{"measure", "--save-session", "a.png"} + options).code,
+             int(CannotReadOrWrite));
+}
+
+void TestMeasure::takesTheSessionBesideThePicture()
+{
+    QCOMPARE(runProgram(water + QStringList{"--save-session", "a.png"}).code, int(AllMeasured));
+    QVERIFY(runProgram({"measure", "a.png"}).output.contains("waterLevel 13 %"));
+    QVERIFY(runProgram({"measure", "--percentage", "40", "a.png"}).output.contains("40 %"));
+    const Outcome ignored = runProgram({"measure", "--no-session", "a.png"});
+    QVERIFY(ignored.output.contains("there is no session"));
+    const Outcome misfit = runProgram({"measure", "--click", "1,1", "a.png"});
+    QVERIFY(misfit.output.contains("the kind WaterLevel takes no --click"));
+}
+
+void TestMeasure::anotherPictureIsNotOverwritten()
+{
+    QCOMPARE(runProgram(water + QStringList{"--save-session", "a.png"}).code, int(AllMeasured));
+    const QByteArray session = readBytes(path("a.png.zalento.json"));
+    QImage changed = greyPicture(QSize(64, 48));
+    changed.setPixelColor(0, 0, Qt::red);
+    QVERIFY(changed.save(path("a.png")));
+
+    QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("out")));
+    const QStringList arguments{"measure", "--save-session", "--output", "out", "a.png"};
+    Outcome outcome = runProgram(arguments);
+    QCOMPARE(outcome.code, int(CannotReadOrWrite));
+    QVERIFY(outcome.output.contains("waterLevel 13 %"));
+    QVERIFY(outcome.messages.contains("warning: the picture's content is not the one"));
+    QCOMPARE(readBytes(path("a.png.zalento.json")), session);
+    QVERIFY(!QFile::exists(path("out/a.png.zalento.json")));
+    outcome = runProgram(arguments + QStringList{"--force"});
+    QCOMPARE(outcome.code, int(AllMeasured));
+    QVERIFY(readBytes(path("out/a.png.zalento.json")).contains(sha256Of(path("a.png"))));
+    QVERIFY(readBytes(path("out/a.png.zalento.json")).contains("\"../a.png\""));
+}
+
+void TestMeasure::oneSessionForManyPictures()
+{
+    QVERIFY(addPicture("b.png"));
+    Session session;
+    session.kind = QStringLiteral("WaterLevel");
+    session.percentage = 66;
+    QCOMPARE(saveSession(session, path("all.json"), Overwrite::Refuse), QString());
+    Outcome outcome = runProgram({"measure", "--session", "all.json", "a.png", "b.png"});
+    QCOMPARE(outcome.code, int(AllMeasured));
+    QCOMPARE(outcome.output.count("waterLevel 66 %"), 2);
+    outcome = runProgram({"measure", "--session", "all.json"});
+    QVERIFY(outcome.messages.contains("the session names no picture"));
+}
+
+void TestMeasure::optionsMoveTheSessionsPlane()
+{
+    const QStringList options{"--kind",       "CrossSection", "--diameter", "200",
+                              "--percentage", "10",           "--click",    "25,20",
+                              "--click",      "40,20",        "--format",   "jsonl"};
+    QCOMPARE(runProgram(QStringList{"measure", "--save-session", "a.png"} + options).code, 0);
+    const Outcome moved =
+        runProgram({"measure", "--percentage", "20", "--save-session", "--output", "out", "a.png"});
+    QCOMPARE(moved.code, int(AllMeasured));
+    QString problem;
+    const auto session = loadSession(path("out/a.png.zalento.json"), problem);
+    QVERIFY2(session, qPrintable(problem));
+    QCOMPARE(session->points[1].position->z, -0.4);
+}
+
+void TestMeasure::foldersAreSorted()
+{
+    QVERIFY(QDir(m_dir->path()).mkpath(QStringLiteral("d/sub")));
+    for (const char *name : {"d/b.png", "d/a.PNG", "d/sub/c.png", "d/a.overlay.png"}) {
+        QVERIFY(greyPicture(QSize(8, 8)).save(path(name), "PNG"));
+    }
+    QVERIFY(writeBytes(path("d/notes.txt"), "notes"));
+    QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("none")));
+    const Outcome outcome = runProgram(water + QStringList{"--recursive", "d", "none"});
+    QCOMPARE(outcome.code, int(SomeNotMeasured));
+    const QByteArrayList lines = outcome.output.split('\n');
+    QCOMPARE(lines.size(), 5);
+    const QByteArrayList starts{"d/a.PNG:", "d/b.png:", "d/sub/c.png:", "none: failed"};
+    for (int i = 0; i < starts.size(); ++i) {
+        QVERIFY2(lines[i].startsWith(starts[i]), lines[i]);
+    }
+}
+
+void TestMeasure::namesComeFromTheInput()
+{
+    const Outcome outcome = runProgram(water + QStringList{"-"}, "a.png\r\n\nnone ä.png");
+    QCOMPARE(outcome.code, int(SomeNotMeasured));
+    QVERIFY(outcome.output.startsWith("a.png: waterLevel"));
+    QVERIFY(outcome.output.contains("none ä.png: failed"));
+    QCOMPARE(runProgram(water + QStringList{"-"}).code, int(SomeNotMeasured));
+}
+
+void TestMeasure::sameBytesTwice()
+{
+    QByteArray states[2];
+    for (QByteArray &state : states) {
+        const Outcome outcome =
+            runProgram(water + QStringList{"--overlay", "both", "--save-session", "--format",
+                                           "json", "--output", "out", "a.png"});
+        QCOMPARE(outcome.code, int(AllMeasured));
+        state = outcome.output + folderState(path("out"));
+        QVERIFY(state.size() > 1000);
+        QVERIFY(QDir(path("out")).removeRecursively());
+    }
+    QCOMPARE(states[0], states[1]);
+}
+
+QTEST_MAIN(TestMeasure)
+#include "tst_measure.moc"
