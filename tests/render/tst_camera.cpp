@@ -114,6 +114,8 @@ void TestCamera::onResize_data()
     QTest::addColumn<QRectF>("viewport");
     QTest::newRow("offset") << QRectF(10, 20, 300, 200) << QRectF(10, 20, 300, 200);
     QTest::newRow("no height") << QRectF(0, 0, 300, 0) << QRectF(0, 0, 300, 1);
+    QTest::newRow("a quarter of a pixel high")
+        << QRectF(0, 0, 300, 0.25) << QRectF(0, 0, 300, 0.25);
     QTest::newRow("no width") << QRectF(0, 0, 0, 200) << QRectF(0, 0, 0, 200);
 }
 

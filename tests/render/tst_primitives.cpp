@@ -345,7 +345,7 @@ void TestPrimitives::survivesEveryCoordinate_data()
     row("infinite", {infinity, -infinity}, cut(INT_MAX, INT_MIN, INT_MAX, INT_MIN + 7));
     row("beyond an int", {-3e9, 3e9}, cut(INT_MIN, INT_MAX, INT_MIN + 7, INT_MAX));
     row("largest double", {1.7e308, 0}, cut(INT_MAX, -4, INT_MAX, 3));
-    row("last full circle", {INT_MAX - 3.0, 0}, {INT_MAX - 7, -4, 8, 8});
+    row("last full circle", {INT_MAX - 3.0, 0}, cut(INT_MAX - 7, -4, INT_MAX, 3));
 }
 
 void TestPrimitives::survivesEveryCoordinate()
