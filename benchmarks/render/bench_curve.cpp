@@ -1,5 +1,6 @@
 // A curve through 361 scene points, beside the bare painter call with points already projected.
 #include "support/Scene.h"
+#include "support/clearVectorRegisters.h"
 #include "support/require.h"
 
 #include <QImage>
@@ -80,6 +81,7 @@ void curve(benchmark::State &state)
     requireSamePicture();
     Canvas canvas;
     for (auto _ : state) {
+        clearVectorRegisters();
         paintCurve(canvas);
     }
 }
@@ -90,6 +92,7 @@ void curveBare(benchmark::State &state)
     const BareCurve bare;
     Canvas canvas;
     for (auto _ : state) {
+        clearVectorRegisters();
         bare.paint(canvas);
     }
 }
@@ -112,12 +115,14 @@ void curveOverhead(benchmark::State &state)
     double ours = 0;
     double control = 0;
     for (auto _ : state) {
+        clearVectorRegisters();
         const double start = threadTimeNs();
         paintCurve(canvas);
-        const double middle = threadTimeNs();
+        ours += threadTimeNs() - start;
+        clearVectorRegisters();
+        const double bareStart = threadTimeNs();
         bare.paint(canvas);
-        control += threadTimeNs() - middle;
-        ours += middle - start;
+        control += threadTimeNs() - bareStart;
     }
     state.counters["ratio"] = ours / control;
 }
