@@ -5,6 +5,8 @@
 #include "session/MeasurementKind.h"
 #include "session/SessionItem.h"
 
+#include <drevon/AppState.h>
+
 #include <QFileInfo>
 
 #include <algorithm>
@@ -32,9 +34,9 @@ ViewerController::~ViewerController() = default;
 void ViewerController::setItem(ZaItem *item)
 {
     m_item = item;
-    if (item) {
-        connect(item, &ZaItem::diameterChanged, this, &ViewerController::takeItemDiameter);
-    }
+    // The item was connected before: it has the record's diameter already.
+    connect(AppState::instance(), &AppState::activeStructureChanged, this,
+            &ViewerController::takeItemDiameter, Qt::UniqueConnection);
     if (m_index >= 0) {
         showPicture(m_index);
     }
@@ -217,9 +219,7 @@ void ViewerController::show(const Session &session)
     document->session = session;
     m_notice.clear();
     if (m_item && m_picture) {
-        m_isApplying = true;
         Apps::applySession(*document->session, *m_item);
-        m_isApplying = false;
         document->measurement = Apps::measure(*m_item);
     }
     if (m_selectedPoint >= points().size()) {
@@ -298,7 +298,7 @@ void ViewerController::notice(Level level, const QString &text)
 // The host's active record has changed.
 void ViewerController::takeItemDiameter()
 {
-    if (m_isApplying || !isReady()) {
+    if (!isReady()) {
         return;
     }
     Session session = sessionCopy();

@@ -286,7 +286,6 @@ private:
     std::optional<Apps::Picture> m_picture;
     int m_pictureNumber = 0;
     int m_revision = 0;
-    bool m_isApplying = false;
 
     std::optional<Apps::Session> m_gestureStart;
     QPointF m_dragStart;

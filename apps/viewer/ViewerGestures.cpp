@@ -18,6 +18,9 @@ namespace {
 
 constexpr int laserSpotCount = 2;
 constexpr double percentPerOne = 100.0;
+constexpr double mmPerMetre = 1000.0;
+// Length of the modelled pipe; beyond, one pixel is more than a diameter.
+constexpr double modelledDiameters = 10.0;
 
 } // namespace
 
@@ -50,23 +53,32 @@ void ViewerController::setPointAt(const QPointF &pixel)
         return;
     }
     change(tr("Set point"), session, false);
-    m_selectedPoint = points().size() - 1;
-    notifyChanged();
+    selectPoint(points().size() - 1);
+    const double depthMM = -session.points.last().position->z * mmPerMetre;
+    if (depthMM > modelledDiameters * session.diameterMM) {
+        notice(Level::Warning, tr("That point lies beyond the pipe's modelled end: a pixel there "
+                                  "is metres of pipe. Backspace drops it."));
+    }
 }
 
-// The water stands as high as the clicked place on the wall.
+// The water stands as high as the clicked place on the wall, which another kind picks.
 void ViewerController::setWaterLineAt(const QPointF &pixel)
 {
     Session picked = sessionCopy();
-    if (Apps::clickPoint(picked, *m_item, pixel) == Apps::ClickResult::Missed) {
-        notice(Level::Warning, tr("The pipe's wall is not there: the level stays."));
-        return;
-    }
-    const double heightMM = picked.points.last().position->y * 1000.0;
+    picked.kind = QStringLiteral("PipeDimension");
+    picked.points.clear();
+    Apps::applySession(picked, *m_item);
+    const Apps::ClickResult result = Apps::clickPoint(picked, *m_item, pixel);
     Session session = sessionCopy();
-    session.percentage =
-        std::clamp((heightMM / session.diameterMM + 0.5) * percentPerOne, 0.0, percentPerOne);
+    if (result != Apps::ClickResult::Missed) {
+        const double heightMM = picked.points.last().position->y * mmPerMetre;
+        session.percentage =
+            std::clamp((heightMM / session.diameterMM + 0.5) * percentPerOne, 0.0, percentPerOne);
+    }
     change(tr("Water level"), session, false);
+    if (result == Apps::ClickResult::Missed) {
+        notice(Level::Warning, tr("The pipe's wall is not there: the level stays."));
+    }
 }
 
 int ViewerController::pointNear(const QPointF &pixel, double radius) const

@@ -34,8 +34,11 @@ QObject *controllerOf(QQmlEngine *engine, QJSEngine *)
     return controller;
 }
 
-void registerViewerTypes()
+// For the first window of the process.
+void prepareScene()
 {
+    keepScene();
+    QQuickStyle::setStyle(QStringLiteral("Default"));
     constexpr char module[] = "Drevon.Zalento.Viewer";
     registerTypes("Drevon.Zalento");
     qmlRegisterType<OverlayView>(module, 1, 0, "OverlayView");
@@ -48,10 +51,8 @@ void registerViewerTypes()
 
 ViewerWindow::ViewerWindow(ViewerController &controller)
 {
-    keepScene();
-    QQuickStyle::setStyle(QStringLiteral("Default"));
-    static std::once_flag typesAreRegistered;
-    std::call_once(typesAreRegistered, registerViewerTypes);
+    static std::once_flag sceneIsPrepared;
+    std::call_once(sceneIsPrepared, prepareScene);
 
     auto *provider = new PictureProvider;
     controller.setPictureProvider(provider);

@@ -42,10 +42,11 @@ Item {
     }
 
     Instantiator {
-        model: table.rows.filter(row => row.run)
+        model: table.rows.length
         delegate: Shortcut {
-            sequences: modelData.keys
-            onActivated: modelData.run()
+            enabled: table.rows[index].run !== null
+            sequences: enabled ? table.rows[index].keys : []
+            onActivated: table.rows[index].run()
         }
     }
 }

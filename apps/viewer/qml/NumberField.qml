@@ -112,6 +112,7 @@ FocusScope {
             }
         }
         Text {
+            objectName: "problem." + root.name
             visible: root.problem
             width: parent.width
             wrapMode: Text.WordWrap
