@@ -7,7 +7,7 @@ ViewerDialog {
     property var keys: []
 
     title: qsTr("Keys")
-    width: Math.min(parent.width - 40, 860)
+    width: Math.min(parent.width - 40, 940)
 
     contentItem: Column {
         spacing: 16
@@ -24,7 +24,7 @@ ViewerDialog {
                     height: 30
                     spacing: 12
                     Text {
-                        width: 150
+                        width: 176
                         anchors.verticalCenter: parent.verticalCenter
                         text: modelData.keys.join(", ")
                         color: Theme.accent

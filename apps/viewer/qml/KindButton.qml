@@ -6,6 +6,7 @@ AbstractButton {
 
     property string kind
     property int number
+    property bool isCompact: false
 
     implicitHeight: 58
     checkable: false
@@ -20,19 +21,21 @@ AbstractButton {
     contentItem: Item {
         KindIcon {
             id: icon
-            x: 8
+            x: button.isCompact ? 4 : 8
+            width: button.isCompact ? 22 : 28
+            height: width
             anchors.verticalCenter: parent.verticalCenter
             kind: button.kind
             stroke: button.checked ? Theme.accentText : Theme.text
             measure: button.checked ? Theme.accentText : Theme.accent
         }
         Text {
-            anchors { left: icon.right; leftMargin: 8; right: parent.right; rightMargin: 4 }
+            anchors { left: icon.right; leftMargin: button.isCompact ? 4 : 8; right: parent.right; rightMargin: 2 }
             height: parent.height
             verticalAlignment: Text.AlignVCenter
             text: button.text
             wrapMode: Text.WordWrap
-            font { family: Theme.family; pixelSize: Theme.normal }
+            font { family: Theme.family; pixelSize: button.isCompact ? 13 : Theme.normal }
             color: button.checked ? Theme.accentText : Theme.text
         }
     }

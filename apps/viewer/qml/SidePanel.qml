@@ -20,13 +20,14 @@ Rectangle {
     Grid {
         id: kinds
         anchors { top: valuePanel.bottom; topMargin: Theme.gap; horizontalCenter: parent.horizontalCenter }
-        columns: 2
+        columns: panel.isLow ? 3 : 2
         spacing: 6
         Repeater {
             model: Viewer.kinds
             KindButton {
                 objectName: "kind." + modelData.name
-                width: (panel.width - 2 * Theme.gap - 6) / 2
+                width: (panel.width - 2 * Theme.gap - 6 * (kinds.columns - 1)) / kinds.columns
+                isCompact: panel.isLow
                 height: panel.isLow ? 46 : 54
                 kind: modelData.name
                 number: index + 1

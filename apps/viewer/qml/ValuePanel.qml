@@ -16,8 +16,8 @@ Item {
         y: panel.isLow ? 4 : 8
         height: 50
         verticalAlignment: Text.AlignVCenter
-        text: Viewer.value || (Viewer.statusLevel === 1 && !Viewer.hasScale
-                               && Viewer.kind === "CrackWidth" ? qsTr("no scale yet") : "–")
+        text: Viewer.value || (Viewer.hasPicture && Viewer.kind === "CrackWidth"
+                               && !Viewer.hasScale ? qsTr("no scale yet") : "–")
         color: Viewer.value ? Theme.accent : Theme.quiet
         font {
             family: Theme.family
@@ -39,7 +39,7 @@ Item {
 
         readonly property string shareOf: Viewer.points.length > 2 ? qsTr(" of the section")
                                                                    : qsTr(" of the diameter")
-        readonly property string note: Viewer.kind === "CrackWidth" && Viewer.hasPicture
+        readonly property string note: Viewer.kind === "CrackWidth" && Viewer.hasScale
                                        ? Viewer.scaleText : ""
     }
     Row {
