@@ -119,10 +119,8 @@ class TestPicking : public TestCase
 private slots:
     void rayThroughPixelCentre_data();
     void rayThroughPixelCentre();
-    void rayOfRandomViews();
     void wallRoundTrip();
     void planeRoundTrip();
-    void rotationIsUndone();
     void rayAlongTheAxis_data();
     void rayAlongTheAxis();
     void planeSeenFromTheSideIsMissed();
@@ -156,21 +154,6 @@ void TestPicking::rayThroughPixelCentre()
     Cylinder(0.1).rayVectors(pixel, view.camera, origin, direction);
     COMPARE_NEAR(origin, Vec3(0, 0, 1), roundingTolerance);
     COMPARE_NEAR(direction, Vec3(x, y, z), (Tolerance{1e-6, ""}));
-}
-
-void TestPicking::rayOfRandomViews()
-{
-    RandomViews random;
-    for (int k = 0; k < views; ++k) {
-        const RandomView r = random.next();
-        Vec3 origin;
-        Vec3 direction;
-        r.pipe.rayVectors(r.pixel, r.view.camera, origin, direction);
-        Vec3 expected = -r.view.visibleDirection(r.pixel);
-        expected.normalize();
-        COMPARE_NEAR(origin, r.view.camera.eye, sceneTolerance);
-        COMPARE_NEAR(direction, expected, roundingTolerance);
-    }
 }
 
 void TestPicking::wallRoundTrip()
@@ -219,21 +202,6 @@ void TestPicking::planeRoundTrip()
         // About a dozen roundings of the three lengths, in each of three components.
         const double lengths = -planeZ + e.length() + (parameter * v).length();
         COMPARE_NEAR(picked.z, planeZ, (Tolerance{24 * singleRounding * lengths, "m"}));
-    }
-}
-
-void TestPicking::rotationIsUndone()
-{
-    RandomViews random;
-    for (int k = 0; k < 100; ++k) {
-        const RandomView r = random.next();
-        const double fov = r.view.camera.fovYDEG;
-        const Vec3 normal = r.pipe.getNormalVectorOfPlaneInTheCilinder(fov, r.view.rotation);
-        COMPARE_NEAR(r.pipe.getHitPointPositionBeforeRotation(fov, r.view.rotation, normal),
-                     Vec3(0, 0, -1), roundingTolerance);
-        const Vec3 point(0.3, -0.2, -1.7);
-        COMPARE_NEAR(r.pipe.getHitPointPositionBeforeRotation(fov, r.view.rotation, point),
-                     r.view.toPipeFrame(point), roundingTolerance);
     }
 }
 
