@@ -5,8 +5,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-#include <QScopedPointer>
-#include <QThread>
+#include <thread>
 
 int main(int argc, char *argv[])
 {
@@ -17,17 +16,16 @@ int main(int argc, char *argv[])
     const QGuiApplication application(argc, argv);
     Drevon::Zalento::ZaItem item;
     item.setSize(QSizeF(sidePx, sidePx));
-    const QScopedPointer<QThread> renderThread(QThread::create([&item] {
+    std::thread renderThread([&item] {
         QImage image(sidePx, sidePx, QImage::Format_ARGB32_Premultiplied);
         QPainter painter(&image);
         for (int i = 0; i < frames; ++i) {
             item.paint(&painter);
         }
-    }));
-    renderThread->start();
+    });
     for (int i = 0; i < turns; ++i) {
         item.rotate(i);
     }
-    renderThread->wait();
+    renderThread.join();
     return 0;
 }
