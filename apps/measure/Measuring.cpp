@@ -177,49 +177,66 @@ void Measuring::measureSession(const Session *start, Work &work)
 
 bool Measuring::putOnItem(const Session *start, Work &work) const
 {
-    PictureResult &result = work.result;
+    work.result.message = mergeSession(start, work);
+    if (work.result.message.isEmpty()) {
+        layOutItem(work.item, work.picture.image.size());
+        work.result.message = takeLaserScale(work);
+    }
+    if (work.result.message.isEmpty()) {
+        work.result.message = placePoints(start, work);
+    }
+    return work.result.message.isEmpty();
+}
+
+QString Measuring::mergeSession(const Session *start, Work &work) const
+{
+    const SessionOptions &options = m_command.session;
     Session &session = work.session;
     session = start ? *start : Session();
-    m_command.session.applyTo(session);
+    options.applyTo(session);
     session.picture = work.picture.identity;
     if (start) {
         session.picture.unknownFields = start->picture.unknownFields;
     }
-    result.kind = session.kind;
+    work.result.kind = session.kind;
     const MeasurementKind &kind = *findMeasurementKind(session.kind);
-    result.message = m_command.session.misfit(kind);
-    if (result.message.isEmpty()) {
-        result.message =
-            clickOutside(clicksOf(session, m_command.session), work.picture.image.size());
+    if (!start && dependsOnDiameter(kind) && !options.hasNumber(&Session::diameterMM)) {
+        work.result.warnings += QStringLiteral("--diameter is missing: a pipe of %1 mm is assumed")
+                                    .arg(session.diameterMM);
     }
-    if (!result.message.isEmpty()) {
-        return false;
-    }
-    if (!start && dependsOnDiameter(kind) && !m_command.session.hasNumber(&Session::diameterMM)) {
-        result.warnings += QStringLiteral("--diameter is missing: a pipe of %1 mm is assumed")
-                               .arg(session.diameterMM);
-    }
-
-    layOutItem(work.item, work.picture.image.size());
-    const QVector<QPointF> &spots = m_command.session.laserSpots;
-    if (!spots.isEmpty()) {
-        session.mmPerPixel = laserScale(session, work.item, spots[0], spots[1], result.message);
-        if (!session.mmPerPixel) {
-            return false;
+    for (const QString &problem :
+         {options.misfit(kind), sessionProblem(session),
+          clickOutside(clicksOf(session, options), work.picture.image.size())}) {
+        if (!problem.isEmpty()) {
+            return problem;
         }
     }
-    const int pointCount = session.points.size();
-    const auto missed = applyMoved(start, m_command.session, session, work.item);
+    return {};
+}
+
+QString Measuring::takeLaserScale(Work &work) const
+{
+    QString problem;
+    const QVector<QPointF> &spots = m_command.session.laserSpots;
+    if (!spots.isEmpty()) {
+        work.session.mmPerPixel = laserScale(work.session, work.item, spots[0], spots[1], problem);
+    }
+    return problem;
+}
+
+QString Measuring::placePoints(const Session *start, Work &work) const
+{
+    const int pointCount = work.session.points.size();
+    const auto missed = applyMoved(start, m_command.session, work.session, work.item);
     if (!missed.isEmpty()) {
-        result.message =
-            QStringLiteral("the point %1 meets no wall of the pipe").arg(pointText(missed.first()));
-        return false;
+        return QStringLiteral("the point %1 meets no wall of the pipe")
+            .arg(pointText(missed.first()));
     }
-    if (session.points.size() != pointCount) {
-        result.warnings += QStringLiteral("a point closed the outline, and a later one started a "
-                                          "new outline");
+    if (work.session.points.size() != pointCount) {
+        work.result.warnings +=
+            QStringLiteral("a point closed the outline, and a later one started a new outline");
     }
-    return true;
+    return {};
 }
 
 // Files

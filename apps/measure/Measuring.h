@@ -49,6 +49,9 @@ private:
     void measurePicture(const Session *start, Work &work);
     void measureSession(const Session *start, Work &work);
     bool putOnItem(const Session *start, Work &work) const;
+    QString mergeSession(const Session *start, Work &work) const;
+    QString takeLaserScale(Work &work) const;
+    QString placePoints(const Session *start, Work &work) const;
     void writeFiles(Work &work);
     void write(const QString &path, const QByteArray &content, PictureResult &result);
     bool isFreeToWrite(const QString &path, PictureResult &result);

@@ -23,7 +23,8 @@ constexpr NumberOption numberOptions[] = {
      "Vertical field of view in degrees of the largest centred square of the picture."},
     {"camera-height", &Session::cameraHeightPercent, "PERCENT",
      "Height of the camera in percent of the diameter; 50 is the axis."},
-    {"offset", &Session::offset, "UNITS", "Shifts the model sideways; 576 units are one diameter."},
+    {"offset", &Session::offset, "UNITS",
+     "Shifts the model to the left; 576 units are one diameter."},
     {"roll", &Session::rollDEG, "DEG", "Rotation about the view axis in degrees."},
     {"percentage", &Session::percentage, "PERCENT",
      "Water level, place of the cross-section, diameter of the branch, or length of the joint's "
@@ -127,18 +128,35 @@ QString knownKinds()
     return names.join(QStringLiteral(", "));
 }
 
+const SessionNumber &limitsOf(double Session::*member)
+{
+    const auto &numbers = sessionNumbers();
+    return *std::find_if(numbers.begin(), numbers.end(),
+                         [member](const SessionNumber &number) { return number.member == member; });
+}
+
 void readNumbers(OptionReader &reader, SessionOptions &options)
 {
     for (const NumberOption &option : numberOptions) {
-        const auto &limits = sessionNumbers();
-        const auto limit =
-            std::find_if(limits.begin(), limits.end(), [&option](const SessionNumber &number) {
-                return number.member == option.member;
-            });
-        const auto value = reader.number(option.name, limit->smallest, limit->largest);
+        const SessionNumber &limits = limitsOf(option.member);
+        const auto value = reader.number(option.name, limits.smallest, limits.largest);
         if (value) {
             options.numbers.append({QLatin1String(option.name), option.member, *value});
         }
+    }
+}
+
+void readRearCircle(OptionReader &reader, SessionOptions &options)
+{
+    options.rearCircle = reader.point("rear-circle");
+    const QPointF position = options.rearCircle.value_or(QPointF());
+    const SessionNumber &limits = limitsOf(&Session::rearCircleX);
+    for (const double coordinate : {position.x(), position.y()}) {
+        reader.note(numberProblem(QStringLiteral("--rear-circle"), coordinate, limits.smallest,
+                                  limits.largest));
+    }
+    if (reader.isSet("rear-circle-active")) {
+        options.rearCircleActive = true;
     }
 }
 
@@ -152,10 +170,6 @@ void readChoices(OptionReader &reader, SessionOptions &options)
         reader.fail("kind", QStringLiteral("one of ") + knownKinds(), *options.kind);
     }
     options.clockDEG = reader.wholeNumber("clock", largestClockDEG);
-    options.rearCircle = reader.point("rear-circle");
-    if (reader.isSet("rear-circle-active")) {
-        options.rearCircleActive = true;
-    }
     if (reader.isSet("joint")) {
         options.jointShown = true;
     }
@@ -326,7 +340,8 @@ void addSessionOptions(QCommandLineParser &parser)
     for (const NumberOption &option : numberOptions) {
         addOption(parser, option.name, option.description, option.valueName);
     }
-    addOption(parser, "rear-circle", "Moves the pipe's far end; in units as --offset.", "X,Y");
+    addOption(parser, "rear-circle",
+              "Moves the pipe's far end to the left and down; in units as --offset.", "X,Y");
     parser.addOption(
         QCommandLineOption(QStringLiteral("rear-circle-active"),
                            QStringLiteral("Stored in the session: gestures move the far end.")));
@@ -357,6 +372,7 @@ std::optional<SessionOptions> readSessionOptions(const QCommandLineParser &parse
     OptionReader reader(parser, problem);
     readNumbers(reader, options);
     readChoices(reader, options);
+    readRearCircle(reader, options);
     options.mmPerPixel = reader.number("mm-per-pixel", smallestMMPerPixel, largestMMPerPixel);
     readLaserSpots(reader, options);
     readClicks(parser, reader, options);

@@ -54,13 +54,13 @@ struct Session
     QString kind = QStringLiteral("PipeDimension"); ///< name of a MeasurementKind
     MeasureUnit unit = MeasureUnit::Metric;         ///< of the texts; numbers stay metric
     double diameterMM = 300.0;                      ///< nominal
-    double offset = 0.0;                            ///< of the model sideways, in gesture units
+    double offset = 0.0;                            ///< of the model to the left, in gesture units
     double rollDEG = 0.0;                           ///< about the view axis
     double cameraHeightPercent = 50.0;              ///< across the diameter; 50 is the axis
     double fovYDEG = 37.5;         ///< vertical field of view of the item's square area
     bool rearCircleActive = false; ///< gestures move the rear circle instead of the model
-    double rearCircleX = 0.0;      ///< of the pipe's far end, in gesture units
-    double rearCircleY = 0.0;      ///< the same, up and down
+    double rearCircleX = 0.0;      ///< of the pipe's far end to the left, in gesture units
+    double rearCircleY = 0.0;      ///< the same, down
     double percentage = 0.0;       ///< MeasurementKind::percentageMeaning says of what
     double angleDEG = 90.0;        ///< of a branch, a bend or a joint
     int clockDEG = 0; ///< where a branch, a bend or a joint points, clockwise from the top

@@ -40,7 +40,6 @@ private slots:
     void understandsWhatToDo();
     void optionsReachTheSession();
     void whatIsLeftOutStays();
-    void anotherKindDropsPoints();
     void laserSpotsAreTwoWordsOrOne_data();
     void laserSpotsAreTwoWordsOrOne();
     void helpAndManualNameEveryOption();
@@ -68,6 +67,8 @@ void TestCommandLine::refusesWrongUsage_data()
     row("format twice", "measure --format csv --format json a", "--format is given more than once");
     row("click without y", "measure --click 12 a", "--click: expected X,Y");
     row("click of three numbers", "measure --click 1,2,3 a", "--click: expected X,Y");
+    row("far end out of sight", "measure --rear-circle 1e9,0 a",
+        "--rear-circle: expected a number");
     row("infinite click", "measure --click inf,2 a", "--click: expected X,Y");
     row("one laser spot", "measure --laser 1,2 a", "--laser: expected two points");
     row("two scales", "measure --laser 1,2 3,4 --mm-per-pixel 1 a", "both give the scale");
@@ -173,16 +174,7 @@ void TestCommandLine::whatIsLeftOutStays()
     QVERIFY(appliedTo(session, "measure --fov 50 --kind CrackWidth a") == session);
     QCOMPARE(appliedTo(session, "measure --click 5,6 a").points.size(), 1);
     QVERIFY(!appliedTo(session, "measure --click 5,6 a").points[0].position);
-}
-
-void TestCommandLine::anotherKindDropsPoints()
-{
-    Session session;
-    session.points = {{QPointF(1, 2), Vec3(1, 2, 3), {}}};
-    session.jointShown = true;
-    const Session changed = appliedTo(session, "measure --kind CrackWidth a");
-    QVERIFY(changed.points.isEmpty());
-    QVERIFY(!changed.jointShown);
+    QVERIFY(appliedTo(session, "measure --kind PipeDimension a").points.isEmpty());
 }
 
 void TestCommandLine::laserSpotsAreTwoWordsOrOne_data()

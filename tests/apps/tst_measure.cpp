@@ -55,8 +55,6 @@ private slots:
     void cleanup();
     void printsEveryFormat_data();
     void printsEveryFormat();
-    void quotesWhatCsvNeeds();
-    void listsKinds_data();
     void listsKinds();
     void wrongUsageTouchesNothing();
     void badPicturesDoNotStopARun();
@@ -144,35 +142,15 @@ void TestMeasure::printsEveryFormat()
     }
 }
 
-void TestMeasure::quotesWhatCsvNeeds()
-{
-    QVERIFY(addPicture("a, \"b\".png"));
-    const Outcome outcome = runProgram(water + QStringList{"--format", "csv", "a, \"b\".png"});
-    QVERIFY(outcome.output.contains("\n\"a, \"\"b\"\".png\",WaterLevel,"));
-}
-
-void TestMeasure::listsKinds_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<QByteArray>("expected");
-    QTest::newRow("text") << "text" << QByteArray("\n    options: --percentage --angle --clock\n");
-    QTest::newRow("json") << "json" << QByteArray("\"options\": [\"--percentage\"]");
-    QTest::newRow("jsonl") << "jsonl" << QByteArray("\"kind\": \"BendAngle\"");
-    QTest::newRow("csv") << "csv" << QByteArray("PipeDimension,Pipe dimension,");
-}
-
 void TestMeasure::listsKinds()
 {
-    QFETCH(QString, format);
-    QFETCH(QByteArray, expected);
-    const Outcome outcome = runProgram({"kinds", "--format", format});
-    QCOMPARE(outcome.code, int(AllMeasured));
-    QVERIFY2(outcome.output.contains(expected), outcome.output);
-    QVERIFY(outcome.output.contains("CrossSection"));
-    QVERIFY(outcome.messages.isEmpty());
-    if (format == QLatin1String("json")) {
-        QCOMPARE(QJsonDocument::fromJson(outcome.output).array().size(), 6);
-    }
+    const Outcome text = runProgram({"kinds"});
+    QCOMPARE(text.code, int(AllMeasured));
+    QVERIFY(text.output.contains("\n    options: --percentage --angle --clock\n"));
+    const Outcome json = runProgram({"kinds", "--format", "json"});
+    QCOMPARE(QJsonDocument::fromJson(json.output).array().size(), 6);
+    const Outcome csv = runProgram({"kinds", "--format", "csv"});
+    QVERIFY(csv.output.contains("\nBendAngle,Bend angle,\"Angle of a bend, in steps"));
 }
 
 void TestMeasure::wrongUsageTouchesNothing()

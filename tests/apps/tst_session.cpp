@@ -70,7 +70,6 @@ private slots:
     void savesBesideThePicture();
     void failedSaveKeepsTheOldFile_data();
     void failedSaveKeepsTheOldFile();
-    void tellsAnotherPicture();
     void readsCalibrationFiles_data();
     void readsCalibrationFiles();
 };
@@ -217,18 +216,6 @@ void TestSession::failedSaveKeepsTheOldFile()
     const QString problem = saveSession(session, dir.filePath(name), Overwrite::Refuse);
     QVERIFY2(problem.contains(expected), qPrintable(problem));
     QCOMPARE(folderState(dir.path()), before);
-}
-
-void TestSession::tellsAnotherPicture()
-{
-    const PictureIdentity picture = fullSession().picture;
-    QCOMPARE(pictureDifference(picture, picture), QString());
-    QCOMPARE(pictureDifference(PictureIdentity(), picture), QString());
-    PictureIdentity other = picture;
-    other.sha256 = QByteArray(64, 'b');
-    QVERIFY(pictureDifference(picture, other).contains(QLatin1String("content")));
-    other.size = QSize(768, 1024);
-    QVERIFY(pictureDifference(picture, other).contains(QLatin1String("1024 x 768")));
 }
 
 void TestSession::readsCalibrationFiles_data()

@@ -108,7 +108,6 @@ private slots:
     void planeTakesItsPointsAlong();
     void laserSpotsGiveTheScale_data();
     void laserSpotsGiveTheScale();
-    void svgIsVector();
 };
 
 void TestSessionItem::replaysWhateverWasBefore_data()
@@ -387,19 +386,6 @@ void TestSessionItem::laserSpotsGiveTheScale()
     COMPARE_NEAR(scale.value_or(0.0), mmPerPixel, millimetreTolerance);
     QCOMPARE(scale.has_value(), problem.isEmpty());
     QVERIFY(sameValues(measure(item), before));
-}
-
-void TestSessionItem::svgIsVector()
-{
-    ZaItem item;
-    layOutItem(item, pictureSize);
-    Session session = exampleSession(QStringLiteral("WaterLevel"));
-    applySession(session, item);
-    const QByteArray svg = overlaySvg(item, pictureSize);
-    QVERIFY(svg.contains("viewBox=\"0 0 800 600\""));
-    QVERIFY(svg.contains("<polyline"));
-    QVERIFY(svg.contains(">30 % </text>") || svg.contains("30 %"));
-    QVERIFY(!svg.contains("<image"));
 }
 
 QTEST_MAIN(TestSessionItem)
