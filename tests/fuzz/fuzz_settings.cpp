@@ -55,7 +55,9 @@ int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     // Fonts need an application.
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    static const QGuiApplication application(*argc, *argv);
+    // Kept until the process ends: some of Qt's own statics are gone before ours.
+    static const auto *application = new QGuiApplication(*argc, *argv);
+    Q_UNUSED(application)
     // Qt warns of every font that is none.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     return 0;
