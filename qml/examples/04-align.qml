@@ -13,7 +13,7 @@ ZaItem {
         onActiveChanged: start = shift
         onTranslationChanged: {
             shift = start + translation.x
-            overlay.move(shift, 0)
+            overlay.move(-shift, 0) // positive values move to the left
         }
     }
     WheelHandler {

@@ -224,11 +224,12 @@ void TestItemPainting::paintsTheObjectOnViewAlone()
     item.setSize(areaPx);
     item.setViewMode(viewObject);
     item.setViewStyle(viewStyle);
-    item.moveScaleRotate(30.9, 0, 2, 25);
+    item.moveScaleRotate(20.6, 0, 3, 70); // offsets add up before they lose the fraction
+    item.moveScaleRotate(10.6, 0, 2, 25);
     const QStringList painted = paintCalls(item);
 
     const std::unique_ptr<PipeBase> object = newObject(viewObject);
-    const QPoint offset(30, 0);
+    const QPoint offset(31, 0);
     const Vec3 rotation =
         object->getNewImageRotationToKeepRearCircleInsideFrontCircle(offset, Vec3(0, 0, 25));
     PaintRecorder recorder(areaPx);

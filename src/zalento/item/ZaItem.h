@@ -171,7 +171,10 @@ public:
     Q_INVOKABLE void mouseClick(double x, double y);
     /** Removes all measurement points. */
     Q_INVOKABLE void clearMeasurementPoints();
-    /** Shifts the model, or the rear circle while #rearCircleActive, to @p x; @p y is not used. */
+    /**
+     * Shifts the model to @p x, of which 576 are one diameter, or while #rearCircleActive the rear
+     * circle, of which 85 are half the field of view. Positive is to the left; @p y is not used.
+     */
     Q_INVOKABLE void move(double x, double y);
     /** Sets the roll in degrees. */
     Q_INVOKABLE void rotate(double r);
