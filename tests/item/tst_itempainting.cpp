@@ -304,6 +304,9 @@ void TestItemPainting::paintsAfterEveryChange_data()
     row(
         "field of view as before", [](ZaItem &item) { item.setFovDeg(37.5); }, false);
     row(
+        "pinch with a roll of NaN", [](ZaItem &item) { item.moveScaleRotate(0, 0, 1, notANumber); },
+        false);
+    row(
         "NaN", [](ZaItem &item) { item.setDiameter(notANumber); }, false);
 }
 
