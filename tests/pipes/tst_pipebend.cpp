@@ -109,6 +109,7 @@ private slots:
         QTest::newRow("halves away from zero") << 47.5 << 50.0;
         QTest::newRow("below half a step") << 2.4 << 0.0;
         QTest::newRow("right angle") << 90.0 << 90.0;
+        QTest::newRow("just below zero") << -2.4 << 0.0;
         QTest::newRow("negative") << -2.5 << -5.0;
     }
 

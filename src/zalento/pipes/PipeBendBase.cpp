@@ -87,7 +87,8 @@ private:
 
 void PipeBendBase::setAngleDeg(double a)
 {
-    angleDeg = std::round(a / turnStepDeg) * turnStepDeg;
+    // Adding zero: a request just below it would stay a negative zero and be written "-0".
+    angleDeg = std::round(a / turnStepDeg) * turnStepDeg + 0.0;
     measure1 = angleDeg;
     observable = ObservableType::BendAngle;
 }
