@@ -95,82 +95,62 @@ bool isRegular(const PipeBase &pipe)
            isBetween(area.y(), -10000, 10000) && isRegular(pipe.camera.eye);
 }
 
-void step(ZaItem &item, FuzzInput &input)
+void writeProperty(ZaItem &item, FuzzInput &input)
 {
-    switch (input.choice(22)) {
+    static const char *const flags[] = {"rearCircleActive", "viewDownstream", "useDistanceLasers"};
+    static const char *const integers[] = {"clock", "viewObject", "viewStyle", "measureType",
+                                           "measureUnit"};
+    static const char *const numbers[] = {"diameter", "percentage", "cameraHeight", "angle",
+                                          "vertFov"};
+    const int which = input.choice(60); // a multiple of every table's size
+    switch (input.choice(5)) {
     case 0:
-        item.setProperty("diameter", input.takeDouble());
+        item.setProperty(flags[which % 3], input.choice(2) == 1);
         break;
     case 1:
-        item.setProperty("percentage", input.takeDouble());
+        item.setProperty(integers[which % 5], input.takeInt());
         break;
     case 2:
-        item.setProperty("cameraHeight", input.takeDouble());
+        item.setProperty("iWantToMeasure", QLatin1String(kinds[which % kindCount]));
         break;
-    case 3:
-        item.setProperty("rearCircleActive", input.choice(2) == 1);
+    default:
+        item.setProperty(numbers[which % 5], input.takeDouble());
+    }
+}
+
+void gesture(ZaItem &item, FuzzInput &input)
+{
+    const int which = input.choice(9);
+    const double a = input.takeDouble();
+    const double b = input.takeDouble();
+    switch (which) {
+    case 0:
+        item.move(a, b);
         break;
+    case 1:
+        item.rotate(a);
+        break;
+    case 2: {
+        const double scale = input.takeDouble();
+        item.moveScaleRotate(a, b, scale, input.takeDouble());
+        break;
+    }
+    case 3: {
+        const double width = input.takeDouble();
+        setGeometry(item, a, b, width, input.takeDouble());
+        break;
+    }
     case 4:
-        item.setProperty("angle", input.takeDouble());
+        item.requestCameraCalibration(a);
         break;
     case 5:
-        item.setProperty("clock", input.takeInt());
+        item.undo();
         break;
     case 6:
-        item.setProperty("viewObject", input.takeInt());
+        item.clearMeasurementPoints();
         break;
-    case 7:
-        item.setProperty("viewStyle", input.takeInt());
-        break;
-    case 8:
-        item.setProperty("measureType", input.takeInt());
-        break;
-    case 9:
-        item.setProperty("measureUnit", input.takeInt());
-        break;
-    case 10:
-    case 11:
-        item.setProperty("iWantToMeasure", QLatin1String(kinds[input.choice(kindCount)]));
-        break;
-    case 12:
-        item.setProperty("viewDownstream", input.choice(2) == 1);
-        break;
-    case 13:
-        item.setProperty("vertFov", input.takeDouble());
-        break;
-    case 14:
-    case 15: {
-        const double x = input.takeDouble();
-        item.mouseClick(x, input.takeDouble());
-        break;
-    }
-    case 16: {
-        const double x = input.takeDouble();
-        item.move(x, input.takeDouble());
-        break;
-    }
-    case 17:
-        item.rotate(input.takeDouble());
-        break;
-    case 18: {
-        const double x = input.takeDouble();
-        const double y = input.takeDouble();
-        const double scale = input.takeDouble();
-        item.moveScaleRotate(x, y, scale, input.takeDouble());
-        break;
-    }
-    case 19:
-        item.requestCameraCalibration(input.takeDouble());
-        break;
-    case 20:
-        input.choice(2) == 0 ? item.undo() : item.clearMeasurementPoints();
-        break;
-    default: {
-        const double x = input.takeDouble();
-        const double y = input.takeDouble();
-        const double width = input.takeDouble();
-        setGeometry(item, x, y, width, input.takeDouble());
-    }
+    default:
+        item.mouseClick(a, b);
     }
 }
 
@@ -328,23 +308,18 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     ZaItem item;
     item.setViewStyle(fastViewStyle);
     for (int i = 0; i < mostSteps && !input.isEmpty(); ++i) {
-        switch (input.choice(32)) {
-        case 0:
+        const int what = input.choice(32);
+        if (what == 0) {
             paintPixels(item);
-            break;
-        case 1:
-        case 2:
-        case 3:
+        } else if (what < 4) {
             painted(item);
             checkMeasures(item);
-            break;
-        case 4:
-        case 5:
-        case 6:
+        } else if (what < 7) {
             checkClick(item, input);
-            break;
-        default:
-            step(item, input);
+        } else if (what < 20) {
+            writeProperty(item, input);
+        } else {
+            gesture(item, input);
         }
         checkState(item);
     }
