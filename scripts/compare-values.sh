@@ -42,6 +42,7 @@ paste -d '\n' "build/$1/values.csv" "build/$2/values.csv" | awk -F, -v limit="$l
     NR == 2 { next }
     {
         compared++
+        other_line = $0
         number = first[5]; other = $5
         $5 = first[5] = ""
         texts = ""
@@ -54,7 +55,7 @@ paste -d '\n' "build/$1/values.csv" "build/$2/values.csv" | awk -F, -v limit="$l
         if (scale > 0) difference /= scale
         if (number "" == other "") same++
         if (difference > largest) largest = difference
-        if (texts != own || difference > limit) { print "differs: " line " / " number " " other; failed++ }
+        if (texts != own || difference > limit) { print "differs: " line "\n    from: " other_line; failed++ }
     }
     END {
         if (!compared) { print "no value was measured"; exit 1 }
