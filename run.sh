@@ -7,9 +7,9 @@ usage() {
     cat <<END
 Usage: ./run.sh [--measure] [PICTURE] [--help]
 
-Installs what is missing and builds the release programs. With a display it opens PICTURE (or the
-first sample picture) in the viewer. Without one it measures every sample picture that has a session
-beside it and leaves values and annotated pictures in out/.
+Installs what is missing and builds the release programs. With a display it opens PICTURE (or a
+sample) in the viewer. Without one it measures every sample picture that has a session beside it,
+prints the values and leaves the pictures with the overlay in out/.
 
   --measure   measure the samples although there is a display
   --help      this text
@@ -46,15 +46,6 @@ configure release
 build release zalento-viewer zalento-measure
 programs=build/release/bin
 
-# A picture with a session beside it shows more than a bare one.
-first_sample() {
-    local session
-    for session in samples/*.zalento.json; do
-        echo "${session%.zalento.json}"
-        return
-    done
-}
-
 # The values go to the terminal, the annotated pictures to out/.
 measure_samples() {
     "$programs/zalento-measure" measure --recursive --overlay both --output out --force samples
@@ -63,6 +54,6 @@ measure_samples() {
 }
 
 if [ "$measure" = no ] && [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-    exec "$programs/zalento-viewer" "${picture:-$(first_sample)}"
+    exec "$programs/zalento-viewer" "${picture:-samples/section.jpg}"
 fi
 measure_samples
