@@ -3,6 +3,7 @@
 #include "session/MeasuredValues.h"
 #include "session/Session.h"
 
+#include <QDateTime>
 #include <QString>
 #include <QUndoStack>
 
@@ -24,8 +25,9 @@ public:
     QString problem;
     /** What has to be confirmed before the session file is overwritten; empty for nothing. */
     QString overwriteWarning;
-    /** The session file is what was loaded or saved here. */
-    bool ownsSessionFile = false;
+    /** When the session file and the picture were last changed, as loaded or saved here. */
+    QDateTime sessionStamp;
+    QDateTime pictureStamp;
     /** The measurement; empty until the picture was shown. */
     std::optional<Apps::Session> session;
     Apps::Measurement measurement;

@@ -55,7 +55,7 @@ std::optional<PipeRecord> loadPipeRecord(const QString &path, QString &problem)
                             fields.value(QLatin1String(unitField)).toString(QStringLiteral("mm"))};
     problem = recordProblem(record);
     if (!problem.isEmpty()) {
-        problem = QStringLiteral("%1: %2").arg(path, problem);
+        problem = tr("%1 (%2): %3").arg(path, QLatin1String(sizeField), problem);
         return std::nullopt;
     }
     return record;
@@ -66,12 +66,10 @@ QString recordProblem(const PipeRecord &record)
     static const QStringList units{QStringLiteral("mm"), QStringLiteral("inch"),
                                    QStringLiteral("ft")};
     if (record.nominalSize < 1 || record.nominalSize > largestNominalSize) {
-        return tr("the nominal size (%1) is a whole number from 1 to %2")
-            .arg(QLatin1String(sizeField))
-            .arg(largestNominalSize);
+        return tr("The nominal size is a whole number from 1 to %1.").arg(largestNominalSize);
     }
     if (!units.contains(record.unit)) {
-        return tr("the unit is one of %1").arg(units.join(QStringLiteral(", ")));
+        return tr("The unit is one of %1.").arg(units.join(QStringLiteral(", ")));
     }
     return {};
 }

@@ -219,7 +219,12 @@ void ViewerController::show(const Session &session)
     document->session = session;
     m_notice.clear();
     if (m_item && m_picture) {
-        Apps::applySession(*document->session, *m_item);
+        const QVector<QPointF> missed = Apps::applySession(*document->session, *m_item);
+        if (!missed.isEmpty()) {
+            m_noticeLevel = Level::Warning;
+            m_notice = tr("%n point(s) of the session meet no wall and were left out.", nullptr,
+                          missed.size());
+        }
         document->measurement = Apps::measure(*m_item);
     }
     if (m_selectedPoint >= points().size()) {

@@ -37,6 +37,12 @@ QStringList picturesIn(const QString &folder)
     return paths;
 }
 
+// Invalid for a file that is not there.
+QDateTime stampOf(const QString &path)
+{
+    return QFileInfo(path).lastModified();
+}
+
 QString shortName(const QString &path)
 {
     return QFileInfo(path).fileName();
@@ -169,6 +175,7 @@ void ViewerController::loadPictureOf(Document &document)
         notice(Level::Error, document.problem);
         return;
     }
+    document.pictureStamp = stampOf(document.picturePath);
     m_store.addRecentFile(document.picturePath);
     m_store.setFolder(QFileInfo(document.picturePath).absolutePath());
     Q_EMIT recentFilesChanged();
@@ -196,7 +203,7 @@ void ViewerController::loadSidecar(Document &document)
         notice(Level::Warning,
                tr("Careful, %1. Nothing is overwritten until you confirm it.").arg(difference));
     }
-    document.ownsSessionFile = true;
+    document.sessionStamp = stampOf(document.sessionPath);
     saved->picture = m_picture->identity;
     document.session = saved;
 }
@@ -229,8 +236,17 @@ QString ViewerController::saveQuestion(const Document &document) const
     if (!document.overwriteWarning.isEmpty()) {
         return document.overwriteWarning;
     }
-    if (!document.ownsSessionFile && QFileInfo::exists(document.sessionPath)) {
-        return tr("%1 is there already. Saving replaces it.").arg(shortName(document.sessionPath));
+    if (stampOf(document.picturePath) != document.pictureStamp) {
+        return tr("%1 has changed since it was opened. What you save belongs to what you see.")
+            .arg(shortName(document.picturePath));
+    }
+    const QDateTime stamp = stampOf(document.sessionPath);
+    if (stamp.isValid() && stamp != document.sessionStamp) {
+        return document.sessionStamp.isValid()
+                   ? tr("%1 was changed by somebody else. Saving replaces it.")
+                         .arg(shortName(document.sessionPath))
+                   : tr("%1 is there already. Saving replaces it.")
+                         .arg(shortName(document.sessionPath));
     }
     return {};
 }
@@ -275,7 +291,8 @@ bool ViewerController::write(Document &document)
         Apps::saveSession(*document.session, document.sessionPath, Apps::Overwrite::Allow);
     if (problem.isEmpty()) {
         document.overwriteWarning.clear();
-        document.ownsSessionFile = true;
+        document.sessionStamp = stampOf(document.sessionPath);
+        document.pictureStamp = stampOf(document.picturePath);
         document.history().setClean();
     }
     return report(problem, tr("Saved as %1.").arg(shortName(document.sessionPath)));

@@ -119,6 +119,7 @@ ViewerDialog {
             ScrollBar.vertical: ScrollBar { width: 12 }
             delegate: ItemDelegate {
                 id: row
+                objectName: "file." + fileName
                 readonly property bool isChosen: picker.chosen.includes(filePath)
                 width: rows.width - 14
                 height: Theme.touch

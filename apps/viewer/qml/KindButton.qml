@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
+import Drevon.Zalento.Viewer 1.0
 
 AbstractButton {
     id: button
@@ -12,6 +13,7 @@ AbstractButton {
     checkable: false
     focusPolicy: Qt.TabFocus
     Accessible.name: text
+    onPressed: Viewer.focusStage()
     Accessible.role: Accessible.RadioButton
     Accessible.checked: checked
     ToolTip.text: text + "  (" + number + ")"

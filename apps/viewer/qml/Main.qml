@@ -57,6 +57,8 @@ ApplicationWindow {
     PictureStage {
         id: stage
         anchors { left: parent.left; right: side.left; top: topBar.bottom; bottom: statusLine.top }
+        isBehindDialog: [filePicker, recordDialog, keyList, saveDialog, unsavedDialog]
+                        .some(dialog => dialog.visible)
         onOpenRequested: filePicker.openPictures()
     }
     StatusLine {
@@ -118,9 +120,9 @@ ApplicationWindow {
         onDiscarded: window.leave()
 
         function saveAndLeave() {
-            window.closesAfterSaving = true
             if (Viewer.saveAll())
                 window.leave()
+            window.closesAfterSaving = saveDialog.visible
         }
     }
     Connections {

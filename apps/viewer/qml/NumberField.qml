@@ -134,7 +134,11 @@ FocusScope {
             focusPolicy: Qt.TabFocus
             Accessible.name: root.info.label
             onMoved: Viewer.dragField(root.name, value)
-            onPressedChanged: if (!pressed) {
+            onPressedChanged: {
+                if (pressed) {
+                    Viewer.focusStage()
+                    return
+                }
                 Viewer.endFieldDrag()
                 value = Qt.binding(() => Viewer.revision >= 0 ? Viewer.fieldValue(root.name) : 0)
             }

@@ -8,6 +8,7 @@ FocusScope {
     id: stage
 
     property bool isOverlayHidden: false
+    property bool isBehindDialog: false
     readonly property alias view: stageView
     signal openRequested()
 
@@ -31,7 +32,7 @@ FocusScope {
 
     Connections {
         target: Viewer
-        function onStageFocusRequested() { stage.forceActiveFocus() }
+        function onStageFocusRequested() { if (!stage.isBehindDialog) stage.forceActiveFocus() }
         function onChanged() { overlay.update() }
     }
     Keys.onPressed: {

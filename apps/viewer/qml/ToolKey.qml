@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
+import Drevon.Zalento.Viewer 1.0
 
 // A button that a finger hits; `hint` names it for the tool tip and for those who cannot see it.
 Button {
@@ -16,6 +17,8 @@ Button {
     font.family: Theme.family
     font.pixelSize: Theme.normal
     Accessible.name: hint
+    // Whatever was typed into a field is committed before the button acts.
+    onPressed: Viewer.focusStage()
     ToolTip.text: shortcut ? hint + "  (" + shortcut + ")" : hint
     ToolTip.visible: hovered && !down && ToolTip.text !== text
     ToolTip.delay: 600

@@ -66,6 +66,11 @@ QQuickItem *ViewerDriver::find(const QString &name) const
     return item;
 }
 
+bool ViewerDriver::hasItem(const QString &name) const
+{
+    return findBelow(window()->contentItem(), name) != nullptr;
+}
+
 QVector<QQuickItem *> ViewerDriver::visibleControls() const
 {
     QVector<QQuickItem *> controls;

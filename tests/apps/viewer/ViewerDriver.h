@@ -31,6 +31,7 @@ public:
     QQuickWindow *window() const { return scene->window(); }
     /** The item of this object name; the test fails when there is none. */
     QQuickItem *find(const QString &name) const;
+    bool hasItem(const QString &name) const;
     /** Buttons, fields and sliders that can be seen. */
     QVector<QQuickItem *> visibleControls() const;
     /** Copies a sample into the folder and opens it. */

@@ -89,6 +89,7 @@ private slots:
     void savedSessionGivesTheSameNumbers();
     void anotherPictureIsNotOverwritten();
     void exportsAndCopies();
+    void picksFiles();
     void severalPictures();
     void closingAsksForUnsavedWork();
     void recordSetsTheDiameter();
@@ -402,6 +403,12 @@ void TestViewer::badValuesStayVisible()
     d.type(name, QStringLiteral("60,5"));
     QCOMPARE(d.viewer.session()->angleDEG, 60.5);
     QVERIFY(!d.find(QStringLiteral("problem.angleDEG"))->isVisible());
+
+    // A press on a button commits, too.
+    d.type(name, QStringLiteral("75"), Qt::Key_End);
+    QCOMPARE(d.viewer.session()->angleDEG, 60.5);
+    d.clickItem(QStringLiteral("unitKey"));
+    QCOMPARE(d.viewer.session()->angleDEG, 75.0);
 }
 
 void TestViewer::controlsOfAKind_data()
@@ -506,6 +513,17 @@ void TestViewer::anotherPictureIsNotOverwritten()
     QVERIFY(contentOf(sessionPath) != saved);
     QVERIFY(!again.viewer.isModified());
 
+    // Somebody else has saved in the meantime.
+    writeTo(sessionPath, saved);
+    QFile touched(sessionPath);
+    QVERIFY(touched.open(QIODevice::ReadWrite));
+    QVERIFY(touched.setFileTime(QDateTime::currentDateTime().addSecs(60),
+                                QFileDevice::FileModificationTime));
+    touched.close();
+    again.click(300, 300);
+    QVERIFY(!again.viewer.save());
+    QCOMPARE(contentOf(sessionPath), saved);
+
     // What cannot be read is not overwritten either.
     writeTo(sessionPath, "{\"schema\": \"zalento-session 9.0\"}");
     ViewerDriver third;
@@ -549,6 +567,33 @@ void TestViewer::exportsAndCopies()
 
     QVERIFY(!d.viewer.exportTo(QStringLiteral("svg"), QStringLiteral("/nowhere/x.svg")));
     QCOMPARE(d.viewer.statusLevel(), 2);
+}
+
+void TestViewer::picksFiles()
+{
+    ViewerDriver d;
+    d.openSample(QStringLiteral("dimension.jpg"));
+    d.copySample(QStringLiteral("water.jpg"));
+    d.click(110, 288);
+    d.key(Qt::Key_O, Qt::ControlModifier);
+    QTRY_VERIFY(d.hasItem(QStringLiteral("file.water.jpg")));
+    d.screenshot(QStringLiteral("open"));
+    d.clickItem(QStringLiteral("file.water.jpg"));
+    d.clickItem(QStringLiteral("pickerAccept"));
+    QCOMPARE(d.viewer.pictureName(), QStringLiteral("water.jpg"));
+    QCOMPARE(d.viewer.pictureCount(), 2);
+
+    // A file that is there is replaced at the second press.
+    const QString target = d.viewer.suggestedPath(QStringLiteral("png"));
+    writeTo(target, "precious");
+    QMetaObject::invokeMethod(d.window()->findChild<QObject *>(QStringLiteral("filePicker")),
+                              "exportTo", Q_ARG(QVariant, QStringLiteral("png")));
+    QTRY_VERIFY(d.find(QStringLiteral("pickerName"))->isVisible());
+    d.clickItem(QStringLiteral("pickerAccept"));
+    QCOMPARE(contentOf(target), QByteArray("precious"));
+    d.screenshot(QStringLiteral("replace-file"));
+    d.clickItem(QStringLiteral("pickerAccept"));
+    QCOMPARE(QImage(target).size(), d.viewer.pictureSize());
 }
 
 void TestViewer::severalPictures()
