@@ -17,6 +17,7 @@
 #include <QJsonDocument>
 #include <QMimeData>
 #include <QStandardPaths>
+#include <QStyleHints>
 #include <QTest>
 
 namespace Drevon::Zalento::Test {
@@ -582,6 +583,7 @@ void TestViewer::picksFiles()
     d.clickItem(QStringLiteral("pickerAccept"));
     QCOMPARE(d.viewer.pictureName(), QStringLiteral("water.jpg"));
     QCOMPARE(d.viewer.pictureCount(), 2);
+    QTRY_VERIFY(!d.hasItem(QStringLiteral("pickerAccept")));
 
     // A file that is there is replaced at the second press.
     const QString target = d.viewer.suggestedPath(QStringLiteral("png"));
@@ -592,8 +594,10 @@ void TestViewer::picksFiles()
     d.clickItem(QStringLiteral("pickerAccept"));
     QCOMPARE(contentOf(target), QByteArray("precious"));
     d.screenshot(QStringLiteral("replace-file"));
+    // Two presses in a row would be a double click, which does not replace.
+    QTest::qWait(2 * QGuiApplication::styleHints()->mouseDoubleClickInterval());
     d.clickItem(QStringLiteral("pickerAccept"));
-    QCOMPARE(QImage(target).size(), d.viewer.pictureSize());
+    QTRY_COMPARE(QImage(target).size(), d.viewer.pictureSize());
 }
 
 void TestViewer::severalPictures()
