@@ -1,0 +1,150 @@
+// What the viewer computes without a window.
+#include "FieldCatalogue.h"
+#include "ModelDrag.h"
+#include "StageView.h"
+#include "ValueTable.h"
+
+#include "session/SessionItem.h"
+#include "support/TestCase.h"
+
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+
+namespace Drevon::Zalento::Test {
+
+class TestViewerParts : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void modelFollowsThePointer_data();
+    void modelFollowsThePointer();
+    void viewKeepsThePictureInSight();
+    void fieldsReadBackWhatTheyShow();
+    void csvKeepsFieldsApart();
+};
+
+namespace {
+
+// Where points on the pipe's axis are seen: in the mouth and at the far end.
+QVector<QPointF> seenAxis(Apps::Session session, const QSize &pictureSize)
+{
+    constexpr double farEndM = -3.0;
+    session.points = {{{}, Vec3(0, 0, 0), {}}, {{}, Vec3(0, 0, farEndM), {}}};
+    ZaItem item;
+    Apps::layOutItem(item, pictureSize);
+    Apps::applySession(session, item);
+    Apps::settle(item);
+    QVector<QPointF> seen;
+    for (const HitPoint &point : static_cast<Pipe &>(item.getCurrentViewObject()).hitPoints) {
+        seen.append(QPointF(point.screenPos.x, point.screenPos.y));
+    }
+    return seen;
+}
+
+} // namespace
+
+void TestViewerParts::modelFollowsThePointer_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<double>("fovYDEG");
+    QTest::addColumn<bool>("isFarEnd");
+    QTest::addColumn<QPointF>("moved");
+    QTest::newRow("pipe right") << QSize(768, 576) << 37.5 << false << QPointF(40, 0);
+    QTest::newRow("pipe up and left") << QSize(768, 576) << 37.5 << false << QPointF(-25, -30);
+    QTest::newRow("pipe, upright picture") << QSize(600, 800) << 60.0 << false << QPointF(50, 20);
+    QTest::newRow("far end right") << QSize(768, 576) << 37.5 << true << QPointF(40, 0);
+    QTest::newRow("far end up") << QSize(768, 576) << 37.5 << true << QPointF(0, -40);
+    QTest::newRow("far end, wide view") << QSize(1920, 1080) << 60.0 << true << QPointF(-50, 30);
+}
+
+void TestViewerParts::modelFollowsThePointer()
+{
+    QFETCH(QSize, size);
+    QFETCH(double, fovYDEG);
+    QFETCH(bool, isFarEnd);
+    QFETCH(QPointF, moved);
+    Apps::Session start;
+    start.fovYDEG = fovYDEG;
+    start.rearCircleActive = isFarEnd;
+    const int end = isFarEnd ? 1 : 0;
+    const QPointF before = seenAxis(start, size)[end];
+    const QPointF after = seenAxis(modelDragged(start, moved, size), size)[end];
+    // The item drops fractions of the offset: up to one gesture unit, of which a mouth has 576.
+    // The far end's turn is taken as small.
+    const double slackPx = isFarEnd ? 0.04 * std::hypot(moved.x(), moved.y())
+                                    : std::min(size.width(), size.height()) / 576.0;
+    const QPointF error = after - before - moved;
+    QVERIFY2(std::hypot(error.x(), error.y()) <= slackPx,
+             qPrintable(QStringLiteral("off by %1, %2 px").arg(error.x()).arg(error.y())));
+}
+
+void TestViewerParts::viewKeepsThePictureInSight()
+{
+    StageView view;
+    view.setViewSize({900, 700});
+    view.setPictureSize({600, 800});
+    QCOMPARE(view.toView({300, 400}), QPointF(450, 350));
+    QCOMPARE(view.scale(), 700.0 / 800.0);
+    view.setViewSize({450, 350});
+    QVERIFY(view.isFitted());
+
+    for (const double bad : {0.0, -1.0, std::numeric_limits<double>::quiet_NaN(),
+                             std::numeric_limits<double>::infinity()}) {
+        view.zoom(bad);
+        QVERIFY(view.isFitted());
+    }
+    view.zoom(1e9);
+    QCOMPARE(view.scale(), StageView::largestScale);
+    view.panBy(1e9, -1e9);
+    const QRectF shown(view.toView({0, 0}), view.toView({600, 800}));
+    QVERIFY(shown.intersects(QRectF(QPointF(0, 0), view.viewSize())));
+    view.zoom(1e-9);
+    QVERIFY(view.scale() > 0.1);
+}
+
+// A shown text that is committed again means the same number, in both units.
+void TestViewerParts::fieldsReadBackWhatTheyShow()
+{
+    Apps::Session session;
+    session.diameterMM = 254.0;
+    session.clockDEG = 285;
+    session.calibrationText = QStringLiteral("LASER;;;12.5");
+    for (const MeasureUnit unit : {MeasureUnit::Metric, MeasureUnit::Imperial}) {
+        session.unit = unit;
+        for (const char *kind : {"CrackWidth", "PipeDimension", "BranchAngle", "BendAngle"}) {
+            session.kind = QLatin1String(kind);
+            const QStringList names = kindFields(session) + alignmentFields(session);
+            for (const QString &name : names) {
+                const Field field = fieldNamed(name, session);
+                QString problem;
+                const auto value = readField(field, fieldText(field, session), problem);
+                Apps::Session again = session;
+                field.set(again, value);
+                QVERIFY2(problem.isEmpty() && again == session, qPrintable(name + problem));
+            }
+        }
+    }
+    QCOMPARE(fieldText(fieldNamed(QStringLiteral("clock"), session), session),
+             QStringLiteral("9.5"));
+}
+
+void TestViewerParts::csvKeepsFieldsApart()
+{
+    Apps::Measurement measurement;
+    measurement.values = {
+        {QStringLiteral("crackWidth"), 0.1, QStringLiteral("mm"), QStringLiteral("0,10\"")}};
+    const QByteArray csv =
+        valuesAsCsv({{QStringLiteral("a \"b\",\nc.jpg"), QStringLiteral("CrackWidth"), measurement},
+                     {QStringLiteral("none.jpg"), QStringLiteral("CrackWidth"), {}}});
+    QCOMPARE(csv,
+             QByteArray("picture,kind,name,number,unit,text\r\n"
+                        "\"a \"\"b\"\",\nc.jpg\",CrackWidth,crackWidth,0.1,mm,\"0,10\"\"\"\r\n"));
+}
+
+} // namespace Drevon::Zalento::Test
+
+QTEST_MAIN(Drevon::Zalento::Test::TestViewerParts)
+#include "tst_viewerparts.moc"
