@@ -1,26 +1,43 @@
 #include "ViewerController.h"
 #include "ViewerWindow.h"
 
+#include <QByteArrayList>
 #include <QCommandLineParser>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QOpenGLContext>
 #include <QQuickWindow>
 
+#include <algorithm>
 #include <cstdio>
-#include <cstring>
+#include <cstdlib>
 
 namespace {
 
-// Qt ends the program when it finds no display; this says what to do instead.
-bool hasDisplay(int argc, char *argv[])
+constexpr int exitNoWindow = 3;
+
+// Qt aborts where it can open no window. The operator gets a sentence and an exit code instead.
+void explainMissingDisplay(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "-platform") == 0) {
-            return true;
-        }
+    if (type != QtFatalMsg) {
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+        return;
     }
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
-           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    std::fputs("zalento-viewer: there is no display to open a window on; "
+               "zalento-measure works without one\n",
+               stderr);
+    std::_Exit(exitNoWindow);
+}
+
+// Help and version need no window, and are given without a display.
+void letHelpDoWithoutDisplay(int argc, char *argv[])
+{
+    const QByteArrayList texts{"-h", "--help", "--help-all", "-v", "--version"};
+    const bool isText = std::any_of(
+        argv, argv + argc, [&texts](const char *argument) { return texts.contains(argument); });
+    if (isText) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
 }
 
 // Without a usable graphics card everything is drawn by the processor.
@@ -38,12 +55,11 @@ int main(int argc, char *argv[])
 {
     using namespace Drevon::Zalento;
 
-    if (!hasDisplay(argc, argv)) {
-        std::fputs("zalento-viewer: there is no display; zalento-measure needs none\n", stderr);
-        return 3;
-    }
     QGuiApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    letHelpDoWithoutDisplay(argc, argv);
+    qInstallMessageHandler(explainMissingDisplay);
     QGuiApplication app(argc, argv);
+    qInstallMessageHandler(nullptr);
     QGuiApplication::setOrganizationName(QStringLiteral("Zalento"));
     QGuiApplication::setApplicationName(QStringLiteral("zalento-viewer"));
     QGuiApplication::setApplicationVersion(QStringLiteral(ZALENTO_VERSION));
@@ -58,12 +74,15 @@ int main(int argc, char *argv[])
                                  QStringLiteral("[files...]"));
     parser.process(app);
 
+    if (QFontDatabase().families().isEmpty()) {
+        std::fputs("zalento-viewer: no font is installed; texts cannot be shown\n", stderr);
+    }
     chooseRenderer();
     ViewerController controller;
     ViewerWindow window(controller);
     if (!window.show()) {
         std::fputs("zalento-viewer: the window cannot be made\n", stderr);
-        return 3;
+        return exitNoWindow;
     }
     controller.openPaths(parser.positionalArguments());
     return QGuiApplication::exec();
