@@ -20,9 +20,6 @@ Item {
         visible: false
         text: overlay.viewObject + " " + overlay.isTwoHitpointList
     }
-    SignalSpy { id: kindSpy; target: overlay; signalName: "iWantToMeasureChanged" }
-    SignalSpy { id: viewSpy; target: overlay; signalName: "viewModeChanged" }
-    SignalSpy { id: typeSpy; target: overlay; signalName: "measureTypeChanged" }
     SignalSpy { id: twoSpy; target: overlay; signalName: "isTwoHitpointListChanged" }
     SignalSpy { id: measureSpy; target: overlay; signalName: "measure1Changed" }
     SignalSpy { id: angleSpy; target: overlay; signalName: "angleChanged" }
@@ -36,7 +33,7 @@ Item {
             overlay.viewObject = 0
             overlay.iWantToMeasure = "CrackWidth"
             overlay.clearMeasurementPoints();
-            [kindSpy, viewSpy, typeSpy, twoSpy, measureSpy, angleSpy, fovSpy].forEach(spy => spy.clear())
+            [twoSpy, measureSpy, angleSpy, fovSpy].forEach(spy => spy.clear())
         }
 
         function test_constants() {
@@ -54,29 +51,6 @@ Item {
                 error = e.qmlErrors[0].message
             }
             verify(error.indexOf("holds enumerations") >= 0, error)
-        }
-
-        function test_kind_data() {
-            return [
-                { tag: "CrackWidth", object: 0, type: 1 },
-                { tag: "PipeDimension", object: 0, type: 1 },
-                { tag: "WaterLevel", object: 0, type: 3 },
-                { tag: "BranchAngle", object: 1, type: 6 },
-                { tag: "BendAngle", object: 2, type: 5 },
-                { tag: "CrossSection", object: 0, type: 2 },
-                { tag: "no such kind", object: 0, type: 0 },
-            ]
-        }
-
-        function test_kind(kind) {
-            overlay.iWantToMeasure = "another"
-            kindSpy.clear()
-            overlay.iWantToMeasure = kind.tag
-            compare(kindSpy.count, 1)
-            compare(kindSpy.signalArguments[0][0], kind.tag)
-            compare(overlay.viewObject, kind.object)
-            compare(overlay.measureType, kind.type)
-            compare(viewSpy.count + typeSpy.count, 0) // a kind does not tell, it is read
         }
 
         function test_controlsTakePercentAndGiveFractions() {
@@ -125,19 +99,6 @@ Item {
             overlay.viewObject = 0
             overlay.undo()
             compare(label.text, "0 false")
-        }
-
-        function test_sharedDiameter() {
-            overlay.diameter = 450
-            const second = createTemporaryQmlObject("import Drevon.Zalento 1.0; ZaItem {}", scene)
-            compare(second.diameter, 450)
-            second.diameter = 300
-            overlay.refreshMainPipeDiameter()
-            compare(overlay.diameter, 300)
-        }
-
-        function test_pictureUrl() {
-            verify(/^file:\/\/\/.*\/Connection\.jpg$/.test(overlay.xxx()))
         }
     }
 }
