@@ -12,8 +12,6 @@
 using namespace Drevon::Zalento;
 using namespace Drevon::Zalento::Test;
 
-Q_DECLARE_METATYPE(Drevon::Zalento::Vec3)
-
 namespace {
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
@@ -185,27 +183,19 @@ private slots:
               insideBefore, requests, insideAfter);
     }
 
-    void requestsBeyondTheControl_data()
-    {
-        QTest::addColumn<Vec3>("request");
-        QTest::addColumn<bool>("corrected");
-        // A turn walks 1/20 touch unit; the far end meets the near one at 1.03 units.
-        QTest::newRow("met after 48 turns") << Vec3(3.4 * 85, 0, 0) << true;
-        QTest::newRow("not met within 50 turns") << Vec3(3.6 * 85, 0, 0) << false;
-        QTest::newRow("downwards, met") << Vec3(0, 3.4 * 50, 0) << true;
-        QTest::newRow("upwards, not met") << Vec3(0, -3.6 * 50, 0) << false;
-    }
-
     void requestsBeyondTheControl()
     {
-        QFETCH(Vec3, request);
-        QFETCH(bool, corrected);
+        // A turn walks 1/20 touch unit; the far end meets the near one at 1.03 units.
         BarePipe pipe;
-        const Vec3 got = pipe.getNewImageRotationToKeepRearCircleInsideFrontCircle({}, request);
-        if (corrected) {
+        for (const Vec3 &met : {Vec3(3.4, 0, 0), Vec3(0, 3.4, 0)}) { // after 48 of 50 turns
+            const Vec3 got = pipe.getNewImageRotationToKeepRearCircleInsideFrontCircle(
+                {}, Vec3(met.x * 85, met.y * 50, 0));
             QVERIFY(std::hypot(got.x, got.y) < 1.1);
-        } else {
-            COMPARE_NEAR(got, Vec3(request.x / 85, request.y / 50, 0), roundingTolerance);
+        }
+        for (const Vec3 &missed : {Vec3(3.6, 0, 0), Vec3(0, -3.6, 0)}) {
+            const Vec3 got = pipe.getNewImageRotationToKeepRearCircleInsideFrontCircle(
+                {}, Vec3(missed.x * 85, missed.y * 50, 0));
+            COMPARE_NEAR(got, missed, roundingTolerance);
         }
     }
 
@@ -245,30 +235,22 @@ private slots:
         COMPARE_EXACT(pipe.rotationCorrector.frontPoint, Vec3::Zero);
     }
 
-    void cameraAfterwards_data()
-    {
-        QTest::addColumn<Vec3>("request");
-        QTest::newRow("kept") << Vec3(10, 5, 0);
-        QTest::newRow("corrected") << Vec3(120, 60, 20);
-        QTest::newRow("never met") << Vec3(400, 0, 0);
-        QTest::newRow("not a number") << Vec3(notANumber, 3, 0);
-        QTest::newRow("infinite") << Vec3(infinity, -infinity, 0);
-        QTest::newRow("huge") << Vec3(1e300, 1e300, 0);
-    }
-
     void cameraAfterwards()
     {
-        QFETCH(Vec3, request);
-        BarePipe pipe;
-        pipe.camera.modelViewMatrix.translate(1, 2, 3);
-        const Mat4 before = pipe.camera.modelViewMatrix;
-        pipe.getNewImageRotationToKeepRearCircleInsideFrontCircle(QPoint(50, 0), request);
-        QVERIFY(std::equal(before.m, before.m + 16, pipe.camera.modelViewMatrix.m));
-        QVERIFY(pipe.camera.modelViewStack.empty());
-        // The eye is where the drawing expects it.
-        const Vec3 eye = pipe.camera.eye;
-        pipe.setupMiniGL(pipe.getDiameterM(), QPoint(50, 0));
-        COMPARE_EXACT(eye, pipe.camera.eye);
+        // Kept, corrected, never met, and no request at all.
+        for (const Vec3 &request : {Vec3(10, 5, 0), Vec3(120, 60, 20), Vec3(400, 0, 0),
+                                    Vec3(notANumber, 3, 0), Vec3(infinity, -infinity, 0)}) {
+            BarePipe pipe;
+            pipe.camera.modelViewMatrix.translate(1, 2, 3);
+            const Mat4 before = pipe.camera.modelViewMatrix;
+            pipe.getNewImageRotationToKeepRearCircleInsideFrontCircle(QPoint(50, 0), request);
+            QVERIFY(std::equal(before.m, before.m + 16, pipe.camera.modelViewMatrix.m));
+            QVERIFY(pipe.camera.modelViewStack.empty());
+            // The eye is where the drawing expects it.
+            const Vec3 eye = pipe.camera.eye;
+            pipe.setupMiniGL(pipe.getDiameterM(), QPoint(50, 0));
+            COMPARE_EXACT(eye, pipe.camera.eye);
+        }
     }
 };
 

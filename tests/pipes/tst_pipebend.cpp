@@ -83,24 +83,6 @@ class TestPipeBend : public TestCase
     Q_OBJECT
 
 private slots:
-    void initialState()
-    {
-        const PipeBend bend;
-        COMPARE_EXACT(bend.diameterM, 0.11);
-        COMPARE_EXACT(bend.diameterMM, 110.0);
-        COMPARE_EXACT(bend.getDiameterM(), 0.11 * drawnShare);
-        COMPARE_EXACT(bend.straightLengthM, 0.11 * 0.65);
-        QCOMPARE(bend.circlePoints.size(), std::size_t(73));
-        QVERIFY(bend.getViewDownstream());
-        QCOMPARE(bend.observable, ObservableType::NothingObserved);
-        const PipeJoint joint;
-        COMPARE_EXACT(joint.diameterMM, 110.0);
-        COMPARE_EXACT(joint.diameterM, 0.11);
-        COMPARE_EXACT(joint.offset, Vec3::Zero);
-        QCOMPARE(joint.observable, ObservableType::BendAngle);
-        QCOMPARE(joint.circlePoints.size(), std::size_t(73));
-    }
-
     void angles_data()
     {
         QTest::addColumn<double>("given");

@@ -131,29 +131,22 @@ private slots:
         check();
     }
 
-    void settingTheText_data()
-    {
-        QTest::addColumn<std::string>("text");
-        QTest::addColumn<bool>("laserPresent");
-        QTest::newRow("laser record") << std::string("LASER;;;50") << true;
-        QTest::newRow("anywhere in the text") << std::string("300;1;2\nxLASERx") << true;
-        QTest::newRow("mixed case") << std::string("lAsEr;;;50") << false;
-        QTest::newRow("empty") << std::string() << false;
-    }
-
     void settingTheText()
     {
-        QFETCH(std::string, text);
-        Pipe pipe;
-        pipe.diameterMM = 300;
-        pipe.calibrateLaser(oldScale);
-        pipe.laserPresent = text.empty();
-        pipe.setCameraCrackIni(text);
-        QTEST(pipe.laserPresent, "laserPresent");
-        QCOMPARE(pipe.cameraCrackIni, text);
-        QVERIFY(!pipe.laserCalibrated);
-        COMPARE_EXACT(pipe.laserScale, oldScale);
-        COMPARE_EXACT(pipe.laserDistance, 0.0); // not read before the diameter is set
+        const std::pair<std::string, bool> texts[] = {
+            {"LASER;;;50", true}, {"300;1;2\nxLASERx", true}, {"lAsEr;;;50", false}, {"", false}};
+        for (const auto &[text, laserPresent] : texts) {
+            Pipe pipe;
+            pipe.diameterMM = 300;
+            pipe.calibrateLaser(oldScale);
+            pipe.laserPresent = !laserPresent;
+            pipe.setCameraCrackIni(text);
+            QCOMPARE(pipe.laserPresent, laserPresent);
+            QCOMPARE(pipe.cameraCrackIni, text);
+            QVERIFY(!pipe.laserCalibrated);
+            COMPARE_EXACT(pipe.laserScale, oldScale);
+            COMPARE_EXACT(pipe.laserDistance, 0.0); // not read before the diameter is set
+        }
     }
 
     void interpolationSortsItsTable()

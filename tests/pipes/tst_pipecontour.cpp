@@ -148,11 +148,7 @@ private slots:
         pipe.hitPoints.clear();
         QCOMPARE(pipe.findNearestHitPoint(pipe.pixel(pipe.onCircle(45)), Vec3::Zero), -1);
         QVERIFY(pipe.highlightPoint != Vec3::Zero);
-    }
-
-    void ofEquallyNearPointsTheFirst()
-    {
-        Contour pipe;
+        // Of equally near points the first.
         pipe.hitPoints = {HitPoint(pipe.onCircle(52)), HitPoint(pipe.onCircle(45)),
                           HitPoint(pipe.onCircle(45))};
         QCOMPARE(pipe.findNearestHitPoint(pipe.pixel(pipe.onCircle(45)), Vec3::Zero), 1);
@@ -217,33 +213,24 @@ private slots:
         }
     }
 
-    void movingWithoutAnchors_data()
-    {
-        QTest::addColumn<QVector<int>>("anchors");
-        QTest::addColumn<int>("index");
-        QTest::newRow("none at all") << QVector<int>{} << 45;
-        QTest::newRow("none behind") << QVector<int>{0} << 45;
-        QTest::newRow("none before") << QVector<int>{90} << 45;
-        QTest::newRow("the point is the only one") << QVector<int>{45} << 45;
-        QTest::newRow("index before the list") << QVector<int>{0, 90, 360} << -1;
-        QTest::newRow("index behind the list") << QVector<int>{0, 90, 360} << 361;
-    }
-
     void movingWithoutAnchors()
     {
-        QFETCH(QVector<int>, anchors);
-        QFETCH(int, index);
-        Contour pipe;
-        for (int i = 0; i < 361; ++i) {
-            pipe.hitPoints[std::size_t(i)].isAnchor = anchors.contains(i);
+        const std::pair<QVector<int>, int> cases[] = {
+            {{}, 45},   {{0}, 45},          {{90}, 45}, // one behind and one before are needed
+            {{45}, 45}, {{0, 90, 360}, -1}, {{0, 90, 360}, 361}};
+        for (const auto &[anchors, index] : cases) {
+            Contour pipe;
+            for (int i = 0; i < 361; ++i) {
+                pipe.hitPoints[std::size_t(i)].isAnchor = anchors.contains(i);
+            }
+            const std::vector<Vec3> before = pipe.positions();
+            const QPoint target = pipe.pixel(pipe.onCircle(45, 0.7));
+            pipe.moveHitPoint(index, target, Vec3::Zero);
+            QCOMPARE(pipe.changed(before), qMakePair(-1, -1));
+            pipe.hitPoints.clear();
+            pipe.moveHitPoint(0, target, Vec3::Zero);
+            QVERIFY(pipe.hitPoints.empty());
         }
-        const std::vector<Vec3> before = pipe.positions();
-        const QPoint target = pipe.pixel(pipe.onCircle(45, 0.7));
-        pipe.moveHitPoint(index, target, Vec3::Zero);
-        QCOMPARE(pipe.changed(before), qMakePair(-1, -1));
-        pipe.hitPoints.clear();
-        pipe.moveHitPoint(0, target, Vec3::Zero);
-        QVERIFY(pipe.hitPoints.empty());
     }
 
     void stretchesOutsideTheListChangeNothing()

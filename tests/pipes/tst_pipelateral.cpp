@@ -54,16 +54,6 @@ class TestPipeLateral : public TestCase
     Q_OBJECT
 
 private slots:
-    void initialState()
-    {
-        const PipeLateral lateral;
-        COMPARE_EXACT(lateral.getDiameterM(), 0.1);
-        COMPARE_EXACT(lateral.lateralCylinder.diameterM, 0.1);
-        COMPARE_EXACT(lateral.lateralDiameterPercent, 0.1);
-        COMPARE_EXACT(lateral.getAngleDeg(), 0.0);
-        QCOMPARE(lateral.observable, ObservableType::NothingObserved);
-    }
-
     void branchDiameter_data()
     {
         QTest::addColumn<double>("share");
