@@ -58,6 +58,7 @@ Rectangle {
             onClicked: exportMenu.open()
             ViewerMenu {
                 id: exportMenu
+                objectName: "exportMenu"
                 y: parent.height + 4
                 width: 320
                 ViewerMenuItem {

@@ -17,7 +17,7 @@ namespace {
 constexpr int dragSteps = 6;
 constexpr int holdMs = 700;
 constexpr int angleDeltaPerNotch = 120;
-constexpr int dialogMs = 300;
+constexpr int dialogMs = 100;
 
 // What repeaters make has no QObject parent in the scene: go by the items.
 QVector<QQuickItem *> allBelow(QQuickItem *root)
@@ -45,6 +45,7 @@ QQuickItem *findBelow(QQuickItem *root, const QString &name)
 
 ViewerDriver::ViewerDriver(const QSize &windowSize)
 {
+    QSettings().clear();
     viewer.setWindowSize(windowSize);
     scene = std::make_unique<ViewerWindow>(viewer);
     if (!scene->show() || !QTest::qWaitForWindowExposed(window())) {
@@ -82,6 +83,17 @@ QVector<QQuickItem *> ViewerDriver::visibleControls() const
         }
     }
     return controls;
+}
+
+void ViewerDriver::waitForDialog(const QString &name) const
+{
+    const auto *dialog = window()->findChild<QObject *>(name);
+    const auto isOpened = [dialog] { return dialog && dialog->property("opened").toBool(); };
+    if (!QTest::qWaitFor(isOpened)) {
+        qFatal("%s does not open", qPrintable(name));
+    }
+    // Rows and columns are laid out with the frame that follows.
+    QTest::qWait(dialogMs);
 }
 
 void ViewerDriver::clickDialog(const QString &dialogName, const QString &itemName)

@@ -45,6 +45,8 @@ public:
 
     void click(double pixelX, double pixelY);
     void clickItem(const QString &name);
+    /** Until the dialog or menu stands where it stays. */
+    void waitForDialog(const QString &name) const;
     /** Clicks an item of the dialog. */
     void clickDialog(const QString &dialogName, const QString &itemName);
     void drag(const QPoint &from, const QPoint &to, Qt::MouseButton button = Qt::LeftButton);

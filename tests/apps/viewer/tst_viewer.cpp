@@ -16,7 +16,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMimeData>
-#include <QStandardPaths>
+#include <QSettings>
 #include <QTest>
 
 namespace Drevon::Zalento::Test {
@@ -161,7 +161,7 @@ void TestViewer::measuresDimension()
     QCOMPARE(number(d.viewer), measured);
 
     d.key(Qt::Key_U);
-    QTRY_VERIFY(d.viewer.value().endsWith(QLatin1Char('\'')));
+    QVERIFY(d.viewer.value().endsWith(QLatin1Char('\'')));
     QCOMPARE(number(d.viewer), measured);
     d.key(Qt::Key_U);
     d.key(Qt::Key_Backspace);
@@ -501,14 +501,14 @@ void TestViewer::anotherPictureIsNotOverwritten()
     QCOMPARE(again.viewer.statusLevel(), 1);
     again.click(640, 300);
     again.key(Qt::Key_S, Qt::ControlModifier);
-    QTest::qWait(300);
+    again.waitForDialog(QStringLiteral("saveDialog"));
     again.screenshot(QStringLiteral("replace-question"));
     QCOMPARE(contentOf(sessionPath), saved);
     again.clickDialog(QStringLiteral("saveDialog"), QStringLiteral("cancelKey"));
     QCOMPARE(contentOf(sessionPath), saved);
     QVERIFY(again.viewer.isModified());
     again.key(Qt::Key_S, Qt::ControlModifier);
-    QTest::qWait(300);
+    again.waitForDialog(QStringLiteral("saveDialog"));
     again.clickDialog(QStringLiteral("saveDialog"), QStringLiteral("acceptKey"));
     QVERIFY(contentOf(sessionPath) != saved);
     QVERIFY(!again.viewer.isModified());
@@ -544,7 +544,7 @@ void TestViewer::exportsAndCopies()
     QCOMPARE(QApplication::clipboard()->text(), d.viewer.value());
 
     d.clickItem(QStringLiteral("exportKey"));
-    QTest::qWait(300);
+    d.waitForDialog(QStringLiteral("exportMenu"));
     d.screenshot(QStringLiteral("export-menu"));
     d.key(Qt::Key_Escape);
     const QString png = d.viewer.suggestedPath(QStringLiteral("png"));
@@ -576,12 +576,28 @@ void TestViewer::picksFiles()
     d.copySample(QStringLiteral("water.jpg"));
     d.click(110, 288);
     d.key(Qt::Key_O, Qt::ControlModifier);
+    d.waitForDialog(QStringLiteral("filePicker"));
     QTRY_VERIFY(d.hasItem(QStringLiteral("file.water.jpg")));
     d.screenshot(QStringLiteral("open"));
     d.clickItem(QStringLiteral("file.water.jpg"));
     d.clickItem(QStringLiteral("pickerAccept"));
     QCOMPARE(d.viewer.pictureName(), QStringLiteral("water.jpg"));
     QCOMPARE(d.viewer.pictureCount(), 2);
+    QTRY_VERIFY(!d.hasItem(QStringLiteral("pickerAccept")));
+
+    // A file that is there is replaced at the second press.
+    const QString target = d.viewer.suggestedPath(QStringLiteral("png"));
+    writeTo(target, "precious");
+    QMetaObject::invokeMethod(d.window()->findChild<QObject *>(QStringLiteral("filePicker")),
+                              "exportTo", Q_ARG(QVariant, QStringLiteral("png")));
+    d.waitForDialog(QStringLiteral("filePicker"));
+    d.clickItem(QStringLiteral("pickerAccept"));
+    QTRY_COMPARE(d.find(QStringLiteral("pickerAccept"))->property("text").toString(),
+                 QStringLiteral("Replace"));
+    QCOMPARE(contentOf(target), QByteArray("precious"));
+    d.screenshot(QStringLiteral("replace-file"));
+    d.clickItem(QStringLiteral("pickerAccept"));
+    QCOMPARE(QImage(target).size(), d.viewer.pictureSize());
 }
 
 void TestViewer::severalPictures()
@@ -627,7 +643,7 @@ void TestViewer::closingAsksForUnsavedWork()
     const QString picture = d.openSample(QStringLiteral("dimension.jpg"));
     d.click(110, 288);
     d.window()->close();
-    QTest::qWait(300);
+    d.waitForDialog(QStringLiteral("unsavedDialog"));
     QVERIFY(d.window()->isVisible());
     d.screenshot(QStringLiteral("unsaved-question"));
     d.clickDialog(QStringLiteral("unsavedDialog"), QStringLiteral("cancelKey"));
@@ -646,7 +662,7 @@ void TestViewer::recordSetsTheDiameter()
     d.click(640, 300);
     const double before = number(d.viewer);
     d.clickItem(QStringLiteral("recordKey"));
-    QTest::qWait(300);
+    d.waitForDialog(QStringLiteral("recordDialog"));
     d.type(QStringLiteral("recordSize"), QStringLiteral("0"));
     QVERIFY(d.viewer.session()->diameterMM == 300.0);
     d.screenshot(QStringLiteral("record"));
@@ -714,7 +730,7 @@ void TestViewer::overlayHidesWhileHeld()
     QTest::keyRelease(d.window(), Qt::Key_H);
     QVERIFY(greenPixels(d.screenshot(QStringLiteral("overlay"))) > 1000);
     d.key(Qt::Key_F1);
-    QTest::qWait(300);
+    d.waitForDialog(QStringLiteral("keyList"));
     d.screenshot(QStringLiteral("keys"));
 }
 
@@ -753,7 +769,9 @@ void TestViewer::fitsTheScreen()
 
 int main(int argc, char *argv[])
 {
-    QStandardPaths::setTestModeEnabled(true);
+    // Settings of its own: what one test run leaves, another would start with.
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     // Where Qt Widgets is linked, for its undo stack, Qt Test takes the application for this one.
     QApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Zalento"));

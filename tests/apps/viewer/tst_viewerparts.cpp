@@ -3,10 +3,13 @@
 #include "ModelDrag.h"
 #include "StageView.h"
 #include "ValueTable.h"
+#include "ViewerStore.h"
 
 #include "session/SessionItem.h"
 #include "support/TestCase.h"
 
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <cmath>
@@ -24,6 +27,7 @@ private slots:
     void viewKeepsThePictureInSight();
     void fieldsReadBackWhatTheyShow();
     void csvKeepsFieldsApart();
+    void storeRemembers();
 };
 
 namespace {
@@ -142,6 +146,29 @@ void TestViewerParts::csvKeepsFieldsApart()
     QCOMPARE(csv,
              QByteArray("picture,kind,name,number,unit,text\r\n"
                         "\"a \"\"b\"\",\nc.jpg\",CrackWidth,crackWidth,0.1,mm,\"0,10\"\"\"\r\n"));
+}
+
+void TestViewerParts::storeRemembers()
+{
+    const QTemporaryDir folder;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+    QCoreApplication::setOrganizationName(QStringLiteral("tst"));
+    const QString lasting = folder.filePath(QStringLiteral("lasting.jpg"));
+    const QString gone = folder.filePath(QStringLiteral("gone.jpg"));
+    for (const QString &path : {lasting, gone, lasting}) {
+        QVERIFY(QFile(path).open(QIODevice::WriteOnly));
+        ViewerStore().addRecentFile(path);
+    }
+    ViewerStore().setWindowSize({1024, 600});
+    ZASettings display = ViewerStore().displaySettings();
+    display.MeasureUnit = MeasureUnit::Imperial;
+    ViewerStore().setDisplaySettings(display);
+
+    QCOMPARE(ViewerStore().recentFiles(), (QStringList{lasting, gone}));
+    QVERIFY(QFile::remove(gone));
+    QCOMPARE(ViewerStore().recentFiles(), QStringList{lasting});
+    QCOMPARE(ViewerStore().windowSize(), QSize(1024, 600));
+    QCOMPARE(ViewerStore().displaySettings().MeasureUnit, MeasureUnit::Imperial);
 }
 
 } // namespace Drevon::Zalento::Test
