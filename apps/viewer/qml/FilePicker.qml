@@ -12,9 +12,10 @@ ViewerDialog {
     property var chosen: []
     property var run: null
     property bool asksToReplace: false
+    property double askedAt: 0
 
-    readonly property string pictures: qsTr("pictures and sessions")
-    readonly property string folderPath: pathOf(list.folder)
+    // The list learns of its folder only when it has been read: what is written goes by this one.
+    property string folder: "/"
 
     width: Math.min(parent.width - 40, 820)
     height: Math.min(parent.height - 40, 620)
@@ -37,9 +38,8 @@ ViewerDialog {
         show(qsTr("Save as"), ["*." + (what === "session" ? "json" : what)],
              paths => Viewer.exportTo(what, paths[0]))
         isSaving = true
-        const slash = path.lastIndexOf("/")
-        list.folder = urlOf(path.substring(0, slash))
-        nameField.text = path.substring(slash + 1)
+        folder = above(path)
+        nameField.text = path.substring(path.lastIndexOf("/") + 1)
     }
 
     function show(text, patterns, action) {
@@ -50,14 +50,14 @@ ViewerDialog {
         takesSeveral = false
         asksToReplace = false
         chosen = []
-        list.folder = urlOf(Viewer.startFolder())
+        folder = Viewer.startFolder()
         open()
     }
     function urlOf(path) {
         return "file://" + path.split("/").map(encodeURIComponent).join("/")
     }
-    function pathOf(url) {
-        return decodeURIComponent(url.toString().replace(/^file:\/\//, ""))
+    function above(path) {
+        return path.substring(0, path.lastIndexOf("/")) || "/"
     }
     function toggle(path) {
         if (isSaving) {
@@ -69,18 +69,25 @@ ViewerDialog {
         else
             chosen = takesSeveral ? chosen.concat([path]) : [path]
     }
-    function finish() {
-        const target = folderPath + "/" + nameField.text
-        if (isSaving && Viewer.exists(target) && !asksToReplace) {
+    // The second half of a double click is no answer to a question that only just appeared.
+    function mayReplace() {
+        if (!asksToReplace) {
+            askedAt = Date.now()
             asksToReplace = true
-            return
         }
+        return Date.now() - askedAt > Qt.styleHints.mouseDoubleClickInterval
+    }
+    function finish() {
+        const target = folder + "/" + nameField.text
+        if (isSaving && Viewer.exists(target) && !mayReplace())
+            return
         close()
         run(isSaving ? [target] : chosen)
     }
 
     FolderListModel {
         id: list
+        folder: picker.urlOf(picker.folder)
         showDirsFirst: true
         showDotAndDotDot: false
         caseSensitive: false
@@ -95,15 +102,15 @@ ViewerDialog {
                 text: "↑"
                 font.pixelSize: 20
                 hint: qsTr("Folder above")
-                enabled: picker.folderPath !== "/"
-                onClicked: list.folder = list.parentFolder
+                enabled: picker.folder !== "/"
+                onClicked: picker.folder = picker.above(picker.folder)
             }
             Text {
                 width: parent.width - Theme.touch - Theme.gap
                 height: Theme.touch
                 verticalAlignment: Text.AlignVCenter
                 elide: Text.ElideLeft
-                text: picker.folderPath
+                text: picker.folder
                 color: Theme.quiet
                 font { family: Theme.family; pixelSize: Theme.small }
             }
@@ -124,7 +131,7 @@ ViewerDialog {
                 width: rows.width - 14
                 height: Theme.touch
                 Accessible.name: fileName
-                onClicked: fileIsDir ? list.folder = picker.urlOf(filePath)
+                onClicked: fileIsDir ? picker.folder = filePath
                                      : picker.toggle(filePath)
                 onDoubleClicked: if (!fileIsDir && !picker.isSaving) {
                     picker.chosen = [filePath]
@@ -171,7 +178,7 @@ ViewerDialog {
                 text: qsTr("Open whole folder")
                 onClicked: {
                     picker.close()
-                    picker.run([picker.folderPath])
+                    picker.run([picker.folder])
                 }
             }
             ToolKey {

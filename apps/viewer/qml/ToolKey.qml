@@ -19,6 +19,8 @@ Button {
     Accessible.name: hint
     // Whatever was typed into a field is committed before the button acts.
     onPressed: Viewer.focusStage()
+    // Qt tells the second of two quick presses apart; here it is a press like any other.
+    onDoubleClicked: clicked()
     ToolTip.text: shortcut ? hint + "  (" + shortcut + ")" : hint
     ToolTip.visible: hovered && !down && ToolTip.text !== text
     ToolTip.delay: 600
