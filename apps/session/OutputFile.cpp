@@ -13,8 +13,10 @@ QString writeFile(const QString &path, const QByteArray &content, Overwrite over
         return QStringLiteral("%1 exists already and was left as it is").arg(path);
     }
     QSaveFile file(path);
+    // What flush() reports of a full disk, commit() would not: it would replace the old file by
+    // what fitted.
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
-        !file.commit()) {
+        !file.flush() || !file.commit()) {
         return QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString());
     }
     return {};
