@@ -4,6 +4,7 @@
 #include "session/SessionFile.h"
 
 #include <QDirIterator>
+#include <QFileDevice>
 #include <QFileInfo>
 
 namespace Drevon::Zalento::Apps {
@@ -57,12 +58,17 @@ QVector<PictureRequest> requestsOfFolder(const QString &folder, bool recursive)
 
 } // namespace
 
-QStringList readNames(QIODevice &list)
+std::optional<QStringList> readNames(QIODevice &list, QString &problem)
 {
+    const QByteArray content = list.readAll();
+    const auto *file = qobject_cast<QFileDevice *>(&list);
+    if (file && file->error() != QFileDevice::NoError) {
+        problem = QStringLiteral("the list of pictures cannot be read: %1").arg(list.errorString());
+        return std::nullopt;
+    }
     QStringList names;
-    while (!list.atEnd()) {
-        QByteArray line = list.readLine();
-        while (line.endsWith('\n') || line.endsWith('\r')) {
+    for (QByteArray line : content.split('\n')) {
+        while (line.endsWith('\r')) {
             line.chop(1);
         }
         if (!line.isEmpty()) {

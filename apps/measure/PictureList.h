@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <optional>
+
 namespace Drevon::Zalento::Apps {
 
 /** One picture to measure. */
@@ -15,8 +17,11 @@ struct PictureRequest
     QString problem; ///< why there is nothing to measure; else empty
 };
 
-/** The names in a list, one a line; empty lines are skipped. */
-QStringList readNames(QIODevice &list);
+/**
+ * The names in a list, one a line; empty lines are skipped.
+ * @param problem on failure: why the list cannot be read
+ */
+std::optional<QStringList> readNames(QIODevice &list, QString &problem);
 
 /**
  * The pictures that the names mean, in their order. A folder stands for the pictures in it and its

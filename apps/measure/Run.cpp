@@ -96,21 +96,31 @@ bool makeOutputFolder(const CommandLine &command, Console &console)
     return false;
 }
 
-QStringList namesOf(const CommandLine &command, QIODevice &input)
+std::optional<QStringList> namesOf(const CommandLine &command, QIODevice &input, Console &console)
 {
     if (command.inputs.isEmpty()) {
-        return {command.sessionFile};
+        return QStringList{command.sessionFile};
     }
     QStringList names;
     for (const QString &name : command.inputs) {
-        names += name == QLatin1String("-") ? readNames(input) : QStringList{name};
+        if (name != QLatin1String("-")) {
+            names += name;
+            continue;
+        }
+        QString problem;
+        const std::optional<QStringList> listed = readNames(input, problem);
+        if (!listed) {
+            console.fail(CannotReadOrWrite, problem);
+            return std::nullopt;
+        }
+        names += *listed;
     }
     return names;
 }
 
-QVector<PictureRequest> requestsOf(const CommandLine &command, QIODevice &input)
+QVector<PictureRequest> requestsOf(const CommandLine &command, const QStringList &names)
 {
-    QVector<PictureRequest> requests = listPictures(namesOf(command, input), command.recursive);
+    QVector<PictureRequest> requests = listPictures(names, command.recursive);
     if (command.inputs.isEmpty()) {
         requests.first().isSession = true; // whatever its name ends in
     }
@@ -183,11 +193,14 @@ ExitCode run(const QStringList &arguments, QIODevice &input, QIODevice &output, 
         return console.exitCode();
     }
     std::optional<Session> session;
-    if (!readCalibration(command, console) || !readSession(command, session, console) ||
-        !makeOutputFolder(command, console)) {
+    if (!readCalibration(command, console) || !readSession(command, session, console)) {
         return console.exitCode();
     }
-    const QVector<PictureRequest> requests = requestsOf(command, input);
+    const std::optional<QStringList> names = namesOf(command, input, console);
+    if (!names || !makeOutputFolder(command, console)) {
+        return console.exitCode();
+    }
+    const QVector<PictureRequest> requests = requestsOf(command, *names);
     if (requests.isEmpty()) {
         console.fail(SomeNotMeasured, QStringLiteral("the list holds no picture"));
     }

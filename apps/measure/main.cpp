@@ -6,7 +6,26 @@
 
 #include <cstdio>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace {
+
+// A closed standard stream would be given to the next file that is opened: values would end up in
+// it. What takes the stream's place fails, as the closed one would.
+void occupyClosedStreams()
+{
+    const struct
+    {
+        int descriptor;
+        int wrongWay;
+    } streams[] = {{STDIN_FILENO, O_WRONLY}, {STDOUT_FILENO, O_RDONLY}, {STDERR_FILENO, O_RDONLY}};
+    for (const auto &stream : streams) {
+        if (fcntl(stream.descriptor, F_GETFD) == -1) {
+            open("/dev/null", stream.wrongWay); // takes the lowest free number: the stream's
+        }
+    }
+}
 
 // Names are UTF-8 whatever the locale says, as they are in sessions.
 QStringList argumentsOf(int argc, char **argv)
@@ -31,6 +50,7 @@ void printQtMessage(QtMsgType, const QMessageLogContext &, const QString &messag
 
 int main(int argc, char **argv)
 {
+    occupyClosedStreams();
     qInstallMessageHandler(printQtMessage);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // The application takes options of its own, such as -platform: it gets none to take.
