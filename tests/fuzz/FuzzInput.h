@@ -26,6 +26,19 @@ public:
 
     bool isEmpty() const { return m_size == 0; }
 
+    /**
+     * True for about one in @p count inputs, decided by all that is left of it: a fuzzer cannot
+     * make such inputs the rule by keeping the byte that decides.
+     */
+    bool isOneIn(std::uint32_t count) const
+    {
+        std::uint32_t hash = 2166136261U; // FNV-1a
+        for (std::size_t i = 0; i < m_size; ++i) {
+            hash = (hash ^ m_data[i]) * 16777619U;
+        }
+        return (hash >> 8) % count == 0;
+    }
+
     template <typename Integer>
     Integer take()
     {
