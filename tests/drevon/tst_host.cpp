@@ -18,84 +18,64 @@ class TestHost : public Drevon::Zalento::Test::TestCase
     Q_OBJECT
 
 private slots:
-    void lineMeetsPlane_data();
-    void lineMeetsPlane();
-    void announcesTheActiveRecord();
-    void recordsKnowTheirFields();
-    void columnsHaveUnits();
+    void lineMeetsPlane_data()
+    {
+        QTest::addColumn<QVector3D>("direction"); // from (1, 2, 3)
+        QTest::addColumn<float>("planeZ");
+        QTest::addColumn<bool>("meets");
+        QTest::addColumn<QVector3D>("at");
+        const QVector3D untouched(9, 9, 9);
+        QTest::newRow("ahead") << QVector3D(0, 0, -1) << -5.0F << true << QVector3D(1, 2, -5);
+        QTest::newRow("behind") << QVector3D(0, 0, 1) << -5.0F << true << QVector3D(1, 2, -5);
+        QTest::newRow("slanting") << QVector3D(4, 0, -8) << -5.0F << true << QVector3D(5, 2, -5);
+        QTest::newRow("from the plane")
+            << QVector3D(4, 1, -8) << 3.0F << true << QVector3D(1, 2, 3);
+        QTest::newRow("parallel") << QVector3D(4, 1, 0) << -5.0F << false << untouched;
+        QTest::newRow("in the plane") << QVector3D(4, 1, 0) << 3.0F << false << untouched;
+    }
+
+    void lineMeetsPlane()
+    {
+        QFETCH(QVector3D, direction);
+        QFETCH(float, planeZ);
+        QVector3D out(9, 9, 9);
+        QTEST(
+            Utils3d::rayPlaneIntersection({1, 2, 3}, direction, out, {50, 60, planeZ}, {0, 0, -2}),
+            "meets");
+        QTEST(out, "at");
+    }
+
+    void announcesTheActiveRecord()
+    {
+        AppState *state = AppState::instance();
+        QVERIFY(state->getActiveStructure().isNull());
+        QVector<Record> announced;
+        const auto connection =
+            connect(state, &AppState::activeStructureChanged, this, [&](const Record &record) {
+                announced.append(record);
+                QCOMPARE(AppState::instance()->getActiveStructure(), record);
+            });
+        const Record record = Record::create();
+        state->setActiveStructure(record);
+        state->setActiveStructure(record); // the same one, with changed fields perhaps
+        state->setActiveStructure({});
+        QCOMPARE(announced, QVector<Record>({record, record, {}}));
+        disconnect(connection);
+    }
+
+    void fieldsAndColumns()
+    {
+        CDomainObject record;
+        QVERIFY(!record.readValue("OBJ_Size1").isValid());
+        record.writeValue("OBJ_Size1", 300);
+        record.writeValue("OBJ_Size1", "12");
+        QCOMPARE(record.readValue("OBJ_Size1"), QVariant("12"));
+        QVERIFY(!record.readValue("obj_size1").isValid());
+        QVERIFY(CLocaleSupport::catalogTemplateColumnUnit("OBJ_Size1").isEmpty());
+        CLocaleSupport::setCatalogTemplateColumnUnit("OBJ_Size1", "inch");
+        QCOMPARE(CLocaleSupport::catalogTemplateColumnUnit("OBJ_Size1"), QString("inch"));
+    }
 };
-
-void TestHost::lineMeetsPlane_data()
-{
-    QTest::addColumn<QVector3D>("direction"); // from (1, 2, 3)
-    QTest::addColumn<QVector3D>("planePoint");
-    QTest::addColumn<bool>("meets");
-    QTest::addColumn<QVector3D>("at"); // the plane's normal is (0, 0, -2)
-    const auto row = [](const char *name, const QVector3D &direction, const QVector3D &planePoint,
-                        bool meets, const QVector3D &at) {
-        QTest::newRow(name) << direction << planePoint << meets << at;
-    };
-    const QVector3D untouched(9, 9, 9);
-    row("ahead", {0, 0, -1}, {50, 60, -5}, true, {1, 2, -5});
-    row("behind", {0, 0, 1}, {50, 60, -5}, true, {1, 2, -5});
-    row("slanting, any length", {4, 0, -8}, {0, 0, -5}, true, {5, 2, -5});
-    row("starting in the plane", {4, 1, -8}, {0, 0, 3}, true, {1, 2, 3});
-    row("parallel", {4, 1, 0}, {0, 0, -5}, false, untouched);
-    row("lying in the plane", {4, 1, 0}, {0, 0, 3}, false, untouched);
-    row("without a direction", {0, 0, 0}, {0, 0, -5}, false, untouched);
-}
-
-void TestHost::lineMeetsPlane()
-{
-    QFETCH(QVector3D, direction);
-    QFETCH(QVector3D, planePoint);
-    QVector3D out(9, 9, 9);
-    QTEST(Utils3d::rayPlaneIntersection({1, 2, 3}, direction, out, planePoint, {0, 0, -2}),
-          "meets");
-    QTEST(out, "at");
-}
-
-void TestHost::announcesTheActiveRecord()
-{
-    AppState *state = AppState::instance();
-    QCOMPARE(AppState::instance(), state);
-    QVERIFY(state->getActiveStructure().isNull());
-    int announced = 0;
-    Record last;
-    const auto connection =
-        connect(state, &AppState::activeStructureChanged, this, [&](const Record &record) {
-            ++announced;
-            last = record;
-            QCOMPARE(state->getActiveStructure(), record);
-        });
-    const Record record = Record::create();
-    state->setActiveStructure(record);
-    QCOMPARE(last, record);
-    state->setActiveStructure(record); // the same one, with changed fields perhaps
-    QCOMPARE(announced, 2);
-    state->setActiveStructure({});
-    QCOMPARE(announced, 3);
-    QVERIFY(last.isNull());
-    disconnect(connection);
-}
-
-void TestHost::recordsKnowTheirFields()
-{
-    CDomainObject record;
-    QVERIFY(!record.readValue("OBJ_Size1").isValid());
-    record.writeValue("OBJ_Size1", 300);
-    record.writeValue("OBJ_Size1", "12");
-    QCOMPARE(record.readValue("OBJ_Size1"), QVariant("12"));
-    QVERIFY(!record.readValue("obj_size1").isValid());
-}
-
-void TestHost::columnsHaveUnits()
-{
-    QVERIFY(CLocaleSupport::catalogTemplateColumnUnit("OBJ_Size1").isEmpty());
-    CLocaleSupport::setCatalogTemplateColumnUnit("OBJ_Size1", "inch");
-    QCOMPARE(CLocaleSupport::catalogTemplateColumnUnit("OBJ_Size1"), QString("inch"));
-    QVERIFY(CLocaleSupport::catalogTemplateColumnUnit("OBJ_Size2").isEmpty());
-}
 
 QTEST_APPLESS_MAIN(TestHost)
 #include "tst_host.moc"

@@ -16,8 +16,6 @@ namespace {
 
 const QColor cylinderColor(10, 20, 30, 200);
 const QColor measureColor(40, 50, 60, 210);
-// Qt places glyphs in 64ths of a pixel.
-constexpr Tolerance textTolerance{1.0 / 64, "px"};
 
 const Vec3 turned(0.2, -0.1, 25);
 

@@ -23,8 +23,6 @@ const QColor color(40, 50, 60, 210);
 constexpr double pipeRadiusMM = 150;
 constexpr double untouched = -77;
 
-// Qt places glyphs in 64ths of a pixel.
-constexpr Tolerance textTolerance{1.0 / 64, "px"};
 constexpr Tolerance areaTolerance{1e-6, "mm²"};
 constexpr Tolerance shareTolerance{1e-12, ""};
 

@@ -3,16 +3,14 @@
 #include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPixmap>
 #include <algorithm>
+#include <iterator>
 
 namespace Drevon::Zalento::Test {
 
 namespace {
 
 constexpr int dotsPerInch = 96;
-constexpr int bitsPerPixel = 32;
-constexpr double mmPerInch = 25.4;
 
 using Kind = PaintCall::Kind;
 
@@ -24,10 +22,9 @@ QString numberText(double value)
 
 const char *kindText(Kind kind)
 {
-    static const char *const names[] = {
-        "LinesInt",     "LinesFloat",   "PolylineInt", "PolylineFloat", "PolygonInt",
-        "PolygonFloat", "PointsInt",    "PointsFloat", "RectsInt",      "RectsFloat",
-        "EllipseInt",   "EllipseFloat", "Path",        "Text",          "Image"};
+    static const char *const names[] = {"LinesInt",   "LinesFloat", "PolylineFloat", "PolygonFloat",
+                                        "RectsFloat", "EllipseInt", "EllipseFloat",  "Path",
+                                        "Text",       "Image"};
     return names[static_cast<int>(kind)];
 }
 
@@ -99,27 +96,11 @@ public:
     {
         add(Kind::LinesFloat, linePoints(lines, count));
     }
-    void drawPoints(const QPoint *points, int count) override
-    {
-        add(Kind::PointsInt, polygon(points, count));
-    }
-    void drawPoints(const QPointF *points, int count) override
-    {
-        add(Kind::PointsFloat, polygon(points, count));
-    }
-    void drawPolygon(const QPoint *points, int count, PolygonDrawMode mode) override
-    {
-        add(mode == PolylineMode ? Kind::PolylineInt : Kind::PolygonInt, polygon(points, count));
-    }
     void drawPolygon(const QPointF *points, int count, PolygonDrawMode mode) override
     {
-        add(mode == PolylineMode ? Kind::PolylineFloat : Kind::PolygonFloat,
-            polygon(points, count));
-    }
-    void drawRects(const QRect *rects, int count) override
-    {
-        for (int i = 0; i < count; ++i)
-            add(Kind::RectsInt, rectPoints(rects[i]));
+        QVector<QPointF> corners;
+        std::copy_n(points, count, std::back_inserter(corners));
+        add(mode == PolylineMode ? Kind::PolylineFloat : Kind::PolygonFloat, corners);
     }
     void drawRects(const QRectF *rects, int count) override
     {
@@ -143,11 +124,6 @@ public:
     {
         add(Kind::Image, rectPoints(rect));
     }
-    void drawImage(const QRectF &rect, const QImage &, const QRectF &,
-                   Qt::ImageConversionFlags) override
-    {
-        add(Kind::Image, rectPoints(rect));
-    }
 
 private:
     template <class Line>
@@ -157,14 +133,6 @@ private:
         for (int i = 0; i < count; ++i)
             points << lines[i].p1() << lines[i].p2();
         return points;
-    }
-
-    template <class Point>
-    static QVector<QPointF> polygon(const Point *points, int count)
-    {
-        QVector<QPointF> result;
-        std::copy(points, points + count, std::back_inserter(result));
-        return result;
     }
 
     PaintCall &add(Kind kind, const QVector<QPointF> &points)
@@ -208,14 +176,6 @@ QStringList PaintRecorder::log() const
     return lines;
 }
 
-QStringList PaintRecorder::shapes() const
-{
-    QStringList lines;
-    for (const PaintCall &call : m_calls)
-        lines.append(call.shape());
-    return lines;
-}
-
 QPaintEngine *PaintRecorder::paintEngine() const
 {
     return m_engine.get();
@@ -228,25 +188,13 @@ int PaintRecorder::metric(PaintDeviceMetric metric) const
         return m_size.width();
     case PdmHeight:
         return m_size.height();
-    case PdmWidthMM:
-        return qRound(m_size.width() * mmPerInch / dotsPerInch);
-    case PdmHeightMM:
-        return qRound(m_size.height() * mmPerInch / dotsPerInch);
-    case PdmDpiX:
-    case PdmDpiY:
-    case PdmPhysicalDpiX:
-    case PdmPhysicalDpiY:
-        return dotsPerInch;
-    case PdmDepth:
-        return bitsPerPixel;
-    case PdmNumColors:
-        return 0; // no palette
     case PdmDevicePixelRatio:
         return 1;
     case PdmDevicePixelRatioScaled:
         return qRound(devicePixelRatioFScale());
+    default: // resolutions; painters ask for nothing else
+        return dotsPerInch;
     }
-    return 0;
 }
 
 } // namespace Drevon::Zalento::Test

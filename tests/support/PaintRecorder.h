@@ -16,17 +16,13 @@ namespace Drevon::Zalento::Test {
 /** One call as it reached the paint engine, with the painter's state at that moment. */
 struct PaintCall
 {
-    /** Integer and floating calls are kinds of their own: an engine rasterises them differently. */
+    /** Integer and floating lines and ellipses are kinds of their own: an engine rasterises them
+        differently. Qt turns other integer calls into floating ones. */
     enum class Kind {
         LinesInt,
         LinesFloat,
-        PolylineInt,
         PolylineFloat,
-        PolygonInt,
         PolygonFloat,
-        PointsInt,
-        PointsFloat,
-        RectsInt,
         RectsFloat,
         EllipseInt,
         EllipseFloat,
@@ -75,9 +71,6 @@ public:
     QVector<PaintCall> calls(PaintCall::Kind kind) const;
     /** toString() of each call. */
     QStringList log() const;
-    /** shape() of each call. */
-    QStringList shapes() const;
-    void clear() { m_calls.clear(); }
 
     QPaintEngine *paintEngine() const override;
 

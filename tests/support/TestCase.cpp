@@ -18,16 +18,15 @@ void TestCase::expectWarning(const QString &part)
     m_announced.append(part);
 }
 
-QStringList TestCase::missingWarnings() const
+QStringList TestCase::warningFaults() const
 {
     const QMutexLocker lock(&m_mutex);
-    return m_announced;
-}
-
-QStringList TestCase::unexpectedWarnings() const
-{
-    const QMutexLocker lock(&m_mutex);
-    return m_unexpected;
+    QStringList faults;
+    for (const QString &message : m_unexpected)
+        faults.append("unannounced: " + message);
+    for (const QString &part : m_announced)
+        faults.append("not logged: " + part);
+    return faults;
 }
 
 void TestCase::forgetWarnings()
@@ -68,10 +67,7 @@ void TestCase::init()
 void TestCase::cleanup()
 {
     qInstallMessageHandler(previousHandler);
-    const QStringList missing = missingWarnings();
-    const QStringList surplus = unexpectedWarnings();
-    QVERIFY2(surplus.isEmpty(), qPrintable("unannounced warning: " + surplus.join("; ")));
-    QVERIFY2(missing.isEmpty(), qPrintable("warning not logged: " + missing.join("; ")));
+    QVERIFY2(warningFaults().isEmpty(), qPrintable(warningFaults().join("; ")));
 }
 
 } // namespace Drevon::Zalento::Test

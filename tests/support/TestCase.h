@@ -17,13 +17,10 @@ public:
     /** The running test function has to log exactly one warning that contains @p part. */
     void expectWarning(const QString &part);
 
-    /** Announced warnings that are still to come. */
-    QStringList missingWarnings() const;
+    /** What is wrong so far: "unannounced: ..." and "not logged: ...". */
+    QStringList warningFaults() const;
 
-    /** Warnings that nobody announced. */
-    QStringList unexpectedWarnings() const;
-
-    /** Forgets both. */
+    /** Forgets announced warnings and logged ones. */
     void forgetWarnings();
 
 protected slots:

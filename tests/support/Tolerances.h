@@ -8,6 +8,9 @@
 #include <QPointF>
 #include <QTest>
 
+#include <iterator>
+#include <vector>
+
 namespace Drevon::Zalento::Test {
 
 /** How far a result may lie from what is expected, and why. */
@@ -25,8 +28,8 @@ constexpr Tolerance sceneTolerance{1e-9, "m"};
 /** Screen positions up to some thousand pixels after a projection; far below what paints
     differently. */
 constexpr Tolerance pixelTolerance{1e-8, "px"};
-/** Angles in degrees computed from scene points. */
-constexpr Tolerance angleTolerance{1e-7, "deg"};
+/** Qt places glyphs in 64ths of a pixel. */
+constexpr Tolerance textTolerance{1.0 / 64, "px"};
 /** Lengths that went through single precision (QVector3D, ray against plane): 2^-23 relative, at
     lengths of some metres. */
 constexpr Tolerance singlePrecisionTolerance{2e-6, "m"};
@@ -40,19 +43,46 @@ struct Comparison
     QByteArray message;
 };
 
+using Numbers = std::vector<double>;
+
+inline Numbers numbersOf(double value)
+{
+    return {value};
+}
+inline Numbers numbersOf(const QPointF &p)
+{
+    return {p.x(), p.y()};
+}
+inline Numbers numbersOf(const Vec2 &v)
+{
+    return {v.x, v.y};
+}
+inline Numbers numbersOf(const Vec3 &v)
+{
+    return {v.x, v.y, v.z};
+}
+inline Numbers numbersOf(const Mat4 &m)
+{
+    return {std::begin(m.m), std::end(m.m)};
+}
+
+/** Number by number; without a tolerance bit by bit. */
+Comparison compare(const Numbers &got, const Numbers &expected, const Tolerance *tolerance);
+
 /** Equal within @p tolerance; NaN matches NaN and an infinity itself. */
-Comparison compareNear(double got, double expected, const Tolerance &tolerance);
-Comparison compareNear(const QPointF &got, const QPointF &expected, const Tolerance &tolerance);
-Comparison compareNear(const Vec2 &got, const Vec2 &expected, const Tolerance &tolerance);
-Comparison compareNear(const Vec3 &got, const Vec3 &expected, const Tolerance &tolerance);
-Comparison compareNear(const Mat4 &got, const Mat4 &expected, const Tolerance &tolerance);
+template <class Got, class Expected>
+Comparison compareNear(const Got &got, const Expected &expected, const Tolerance &tolerance)
+{
+    return compare(numbersOf(got), numbersOf(expected), &tolerance);
+}
 
 /** The same bits, so that -0 differs from 0; any NaN matches any NaN. (QCOMPARE takes doubles as
     equal that differ in the twelfth digit.) */
-Comparison compareExact(double got, double expected);
-Comparison compareExact(const Vec2 &got, const Vec2 &expected);
-Comparison compareExact(const Vec3 &got, const Vec3 &expected);
-Comparison compareExact(const Mat4 &got, const Mat4 &expected);
+template <class Got, class Expected>
+Comparison compareExact(const Got &got, const Expected &expected)
+{
+    return compare(numbersOf(got), numbersOf(expected), nullptr);
+}
 
 } // namespace Drevon::Zalento::Test
 
