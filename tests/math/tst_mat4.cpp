@@ -124,7 +124,7 @@ private slots:
     void inverseThreshold()
     {
         // NaN is not caught.
-        for (const double determinant : {1e-9, -1e-9, 1e-10, -1e-11, notANumber}) {
+        for (const double determinant : {49.0, 1e-9, -1e-9, 1e-10, -1e-11, notANumber}) {
             Mat4 m;
             m[0] = determinant;
             const bool inverts = !(std::abs(determinant) <= 1e-10);
@@ -137,6 +137,7 @@ private slots:
             QCOMPARE(message,
                      QByteArray(inverts ? "" : "Matrix is singular. Inversion impossible."));
             COMPARE_EXACT(m.m[0], inverts ? 1 / determinant : determinant);
+            COMPARE_EXACT(m.m[5], inverts ? determinant * (1 / determinant) : 1);
         }
     }
 

@@ -58,14 +58,15 @@ private slots:
         COMPARE_EXACT(0.3 * a, a * 0.3);
         COMPARE_EXACT(-a, Vec3(-3, 5, -0.1));
         COMPARE_EXACT(a.cross(b), Vec3(-5 * 0.2 - 0.1 * 11, 0.1 * 7 - 3 * 0.2, 33 + 35));
-        COMPARE_EXACT(a.dot(b), 3.0 * 7 + -5.0 * 11 + 0.1 * 0.2);
+        COMPARE_EXACT(Vec3(0.1, 0.2, 0.3).dot({1, 1, 1}), 0.1 + 0.2 + 0.3);
+        COMPARE_EXACT(Vec3(0.3, 0.4, 0.7).lengthSquared(), 0.3 * 0.3 + 0.4 * 0.4 + 0.7 * 0.7);
         COMPARE_EXACT(Vec3(1, -1, 0) / 0, Vec3(infinity, -infinity, notANumber));
         // Dividing multiplies with the reciprocal, but dividing by a vector does not.
         const double reciprocal = 1 / 49.0;
         QVERIFY(49 * reciprocal != 1.0);
         COMPARE_EXACT(Vec3(49, 98, -49) / 49,
                       Vec3(49 * reciprocal, 98 * reciprocal, -49 * reciprocal));
-        COMPARE_EXACT(49 / Vec3(49, 49, 49), Vec3(1, 1, 1));
+        COMPARE_EXACT(49 / Vec3(49, 7, -98), Vec3(1, 7, -0.5));
         const auto extended = [](double v, void (Vec3::*extend)(const Vec3 &)) {
             Vec3 result(1, 5, 3);
             (result.*extend)({2, v, notANumber});
@@ -161,7 +162,11 @@ private slots:
             QVERIFY(a != other && !(a < other) && !(other > a) && a <= other && !(a >= other));
             QVERIFY(!Vec3::approxEqual(a, other, 0.25));
             other[i] = notANumber;
-            QVERIFY(other != other && !Vec3::approxEqual(other, other, infinity));
+            QVERIFY(other != other && !isFinite(other));
+            QVERIFY(!Vec3::approxEqual(other, other, infinity));
+            Vec3 larger(b);
+            larger[i] = a[i];
+            QVERIFY(!(a < larger) && !(larger > a) && larger >= a && a <= larger);
         }
         const QByteArray message("index too large");
         Vec3 v;
@@ -221,7 +226,7 @@ private slots:
     void scalesWithoutClamping()
     {
         COMPARE_EXACT(scaleValue(170, -85, 85, -1, 1), 2.0);
-        COMPARE_EXACT(scaleValue(0.7, 0.1, 0.4, 3, 0.2), (0.2 - 3) * (0.7 - 0.1) / (0.4 - 0.1) + 3);
+        COMPARE_EXACT(scaleValue(0.3, 0.1, 0.4, 3, 0.2), (0.2 - 3) * (0.3 - 0.1) / (0.4 - 0.1) + 3);
         COMPARE_EXACT(scaleValue(1, 2, 2, 0, 1), -infinity);
     }
 
@@ -235,6 +240,8 @@ private slots:
         QCOMPARE(truncateToInt(infinity), INT_MAX);
         QCOMPARE(truncateToInt(-infinity), INT_MIN);
         QCOMPARE(truncateToInt(notANumber), 0);
+        QCOMPARE(roundTo<int>(-2.5), -3);
+        QCOMPARE(roundTo<int>(0.49999999999999994), 0);
     }
 };
 

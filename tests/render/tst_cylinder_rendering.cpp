@@ -1,16 +1,18 @@
 // What the painter is told about the pipe: rings, water, cross-section disc.
 #include "geometry/PipeView.h"
+#include "render/Label.h"
 #include "support/PaintRecorder.h"
 #include "support/TestCase.h"
 #include "support/Tolerances.h"
 #include "zalento/geometry/Cylinder.h"
 
-#include <QFontMetrics>
+#include <array>
 
 using namespace Drevon::Zalento;
 using namespace Drevon::Zalento::Test;
 
 using Kind = PaintCall::Kind;
+using Points = QVector<QPointF>;
 
 namespace {
 
@@ -19,9 +21,9 @@ const QColor measureColor(40, 50, 60, 210);
 
 const Vec3 turned(0.2, -0.1, 25);
 
-const char *const mouthRing = "line 361 #c80a141e 3 square bevel";
-const char *const innerRing = "line 361 #500a141e 2 square bevel";
-const char *const lastRing = "line 361 #c80a141e 1 square bevel";
+const QString mouthRing = "line 361 #c80a141e 3";
+const QString innerRing = "line 361 #500a141e 2";
+const QString lastRing = "line 361 #c80a141e 1";
 
 struct Painted
 {
@@ -35,22 +37,20 @@ struct Painted
 // Kind, number of points, pen or brush; labels with their text.
 QString summaryOf(const PaintCall &call)
 {
+    const QString pen = penText(call.pen).remove(" square bevel");
+    const QString brush =
+        call.brush.style() == Qt::SolidPattern ? call.brush.color().name(QColor::HexArgb) : "none";
     switch (call.kind) {
     case Kind::PolylineFloat:
-        return QString("line %1 %2").arg(call.points.size()).arg(penText(call.pen));
+        return QString("line %1 %2").arg(call.points.size()).arg(pen);
     case Kind::LinesFloat:
-        return QString("segment %1").arg(penText(call.pen));
+        return "segment " + pen;
     case Kind::Path:
-        return QString("path %1 %2 on %3")
-            .arg(call.points.size())
-            .arg(penText(call.pen), call.brush.style() == Qt::SolidPattern
-                                        ? call.brush.color().name(QColor::HexArgb)
-                                        : QString("nothing"));
+        return QString("path %1 %2 on %3").arg(call.points.size()).arg(pen, brush);
     case Kind::Text:
-        return QString("text \"%1\" %2").arg(call.text, penText(call.pen));
+        return "text \"" + call.text + "\" " + pen;
     case Kind::RectsFloat:
-        return QString("box %1 on %2")
-            .arg(penText(call.pen), call.brush.color().name(QColor::HexArgb));
+        return "box " + pen + " on " + brush;
     default:
         return call.toString();
     }
@@ -68,9 +68,8 @@ Painted paint(PipeView &view, const Cylinder &pipe, int ringStep, MeasureMode mo
     result.calls = recorder.calls();
     result.penLeft = painter.pen();
     result.brushKept = painter.brush() == brush;
-    for (const PaintCall &call : result.calls) {
+    for (const PaintCall &call : result.calls)
         result.summary.append(summaryOf(call));
-    }
     return result;
 }
 
@@ -82,15 +81,6 @@ Cylinder pipeWithWater(double level)
     return pipe;
 }
 
-QStringList allRings()
-{
-    QStringList rings{mouthRing};
-    for (int i = 1; i < 10; ++i) {
-        rings.append(innerRing);
-    }
-    return rings << lastRing;
-}
-
 QPointF pixels(const PipeView &view, const Vec3 &point)
 {
     const Vec2 s = view.project(point);
@@ -98,31 +88,20 @@ QPointF pixels(const PipeView &view, const Vec3 &point)
 }
 
 // QVector<QPointF> compares fuzzily.
-bool isSame(const QVector<QPointF> &a, const QVector<QPointF> &b)
+bool isSame(const Points &a, const Points &b)
 {
     return std::equal(
         a.begin(), a.end(), b.begin(), b.end(),
         [](const QPointF &p, const QPointF &q) { return p.x() == q.x() && p.y() == q.y(); });
 }
 
-QVector<QPointF> ringPixels(const PipeView &view, const Cylinder &pipe, int ring,
-                            const QVector<int> &indices)
+// Vertices first, ... last of a ring, up or down.
+Points ringPixels(const PipeView &view, const Cylinder &pipe, int ring, int first, int last)
 {
-    QVector<QPointF> points;
-    for (const int j : indices) {
+    Points points;
+    for (int j = first; first <= last ? j <= last : j >= last; j += first <= last ? 1 : -1)
         points.append(pixels(view, pipe.vertices[std::size_t(ring)][std::size_t(j)]));
-    }
     return points;
-}
-
-QVector<int> steps(int first, int last)
-{
-    QVector<int> result;
-    for (int j = first; j != last; j += first < last ? 1 : -1) {
-        result.append(j);
-    }
-    result.append(last);
-    return result;
 }
 
 } // namespace
@@ -134,257 +113,217 @@ class TestCylinderRendering : public TestCase
     Q_OBJECT
 
 private slots:
-    void callsOfEachMode_data();
-    void callsOfEachMode();
-    void ringsAboveTheWaterLine();
-    void waterOfEachRing();
-    void labelStandsAtTheWaterLine_data();
-    void labelStandsAtTheWaterLine();
-    void discLiesInThePickedPlane();
-    void cutRingKeepsItsArc();
-    void singleRingIsDrawnOnce();
-    void shortFormDrawsRingsAlone();
-    void pipesWithoutExtentArePainted_data();
-    void pipesWithoutExtentArePainted();
+    void callsOfEachMode_data()
+    {
+        QTest::addColumn<MeasureMode>("mode");
+        QTest::addColumn<int>("ringStep");
+        QTest::addColumn<double>("level");
+        QTest::addColumn<QStringList>("expected");
+        const auto row = [](const char *name, MeasureMode mode, int ringStep, double level,
+                            const QStringList &expected) {
+            QTest::newRow(name) << mode << ringStep << level << expected;
+        };
+        constexpr MeasureMode none = MeasureMode::NoMeasure;
+        constexpr MeasureMode water = MeasureMode::WaterLevel;
+        const QStringList allRings = QStringList(mouthRing) +
+                                     QVector<QString>(9, innerRing).toList() +
+                                     QStringList(lastRing);
+        const QStringList ends{mouthRing, lastRing};
+        const QStringList disc{"path 361 none on #3228323c", "path 361 #d228323c 3 on none"};
+        const auto label = [](int percent) {
+            return QStringList{"box none on #b4000000",
+                               QString("text \" %1 % \" #d228323c 1").arg(percent)};
+        };
+        const QStringList edges{"segment #d228323c 1", "segment #d228323c 1"};
+        const auto wet = [](const QString &points, const QString &pen) {
+            return QStringList{"line " + points + pen, "segment" + pen};
+        };
+        const auto wetRings = [&](const QString &points) {
+            QStringList calls = wet(points, " #d228323c 2");
+            for (int i = 1; i < 10; ++i)
+                calls += wet(points, " #5028323c 1");
+            return calls + wet(points, " #d228323c 1");
+        };
+        const auto wetEnds = [&](const QString &points) {
+            return wet(points, " #d228323c 2") + wet(points, " #d228323c 1") + edges;
+        };
+        QStringList dryArcs = allRings;
+        dryArcs.replaceInStrings("361", "241");
+
+        row("rings alone", none, 1, 0, allRings);
+        row("pipe dimension", MeasureMode::PipeDimension, 1, 0, allRings);
+        row("mouth and end", none, 10, 0, ends);
+        row("every third ring", none, 3, 0, {mouthRing, innerRing, innerRing, innerRing});
+        row("step beyond the end", none, 2147483647, 0, {mouthRing});
+        row("step 0", none, 0, 0, {});
+        row("no rings", none, -1, 0, {});
+        row("cross section", MeasureMode::CrossSection, 10, 0, ends + disc);
+        row("free cross section, no rings", MeasureMode::FreeCrossSection, -1, 0, disc);
+        row("no water", water, 1, 0, allRings + label(0));
+        row("less water than a segment", water, 10, 1e-5, ends + label(0));
+        row("a segment of water, no rings", water, -1, 1e-4, wetEnds("4") + label(0));
+        row("quarter full", water, 1, 0.25, dryArcs + wetRings("122") + edges + label(25));
+        row("quarter full, no rings", water, -1, 0.25, wetEnds("122") + label(25));
+        row("full", water, 1, 1, wetRings("362") + label(100));
+    }
+
+    void callsOfEachMode()
+    {
+        QFETCH(MeasureMode, mode);
+        QFETCH(int, ringStep);
+        QFETCH(double, level);
+        QFETCH(QStringList, expected);
+        PipeView view = frontView(0.3, QRectF(20, 10, 400, 300), turned);
+        const Mat4 modelView = view.camera.modelViewMatrix;
+        const Painted painted = paint(view, pipeWithWater(level), ringStep, mode);
+        QCOMPARE(painted.summary.join('\n'), expected.join('\n'));
+        QVERIFY(painted.brushKept);
+        COMPARE_EXACT(view.camera.modelViewMatrix, modelView);
+        QVERIFY(view.camera.modelViewStack.empty());
+        const bool writes =
+            mode == MeasureMode::CrossSection || mode == MeasureMode::FreeCrossSection;
+        QCOMPARE(painted.observable,
+                 writes ? ObservableType::NothingObserved : ObservableType::BendAngle);
+        // What strokes and labels set is taken back; the last ring's or water line's pen stays.
+        QPen left(Qt::black);
+        for (const PaintCall &call : painted.calls) {
+            const bool isLine = call.kind == Kind::PolylineFloat || call.kind == Kind::LinesFloat;
+            left = isLine ? call.pen : left;
+        }
+        QCOMPARE(painted.penLeft, left);
+    }
+
+    void pointsOfRingsAndWater()
+    {
+        PipeView view = frontView(0.3, QRectF(20, 10, 401, 299), turned);
+        const Cylinder pipe = pipeWithWater(0.25);
+        const QVector<PaintCall> calls = paint(view, pipe, 5, MeasureMode::WaterLevel).calls;
+        for (int k = 0; k < 3; ++k) {
+            const auto ring = [&](int a, int b) { return ringPixels(view, pipe, 5 * k, a, b); };
+            QVERIFY(isSame(calls[k].points, ring(60, 300)));
+            const Points arc = ring(60, 0) + ring(360, 300);
+            QVERIFY(isSame(calls[3 + 2 * k].points, arc));
+            QVERIFY(isSame(calls[4 + 2 * k].points, {arc.first(), arc.last()}));
+        }
+        for (int k = 0; k < 2; ++k) {
+            const int edge = k == 0 ? 300 : 60;
+            QVERIFY(isSame(calls[9 + k].points, ringPixels(view, pipe, 0, edge, edge) +
+                                                    ringPixels(view, pipe, 10, edge, edge)));
+        }
+        // Vertex 90 stands at the right of the picture, 180 at its top.
+        const PipeView straight = frontView(0.3);
+        QVERIFY(pixels(straight, pipe.vertices[0][90]).x() > 500);
+        QVERIFY(pixels(straight, pipe.vertices[0][180]).y() < 50);
+    }
+
+    void labelStandsAtTheWaterLine_data()
+    {
+        QTest::addColumn<double>("level");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("lineOffset");
+        QTest::newRow("3 percent") << 0.03 << " 3 % " << -0.25;
+        QTest::newRow("rounds down to 3 percent") << 0.03499 << " 3 % " << -0.25;
+        QTest::newRow("rounds up to 4 percent") << 0.0351 << " 4 % " << 1.25;
+        QTest::newRow("half") << 0.5 << " 50 % " << 1.25;
+    }
+
+    void labelStandsAtTheWaterLine()
+    {
+        QFETCH(double, level);
+        QFETCH(double, lineOffset);
+        PipeView view = frontView(0.3);
+        const Painted painted = paint(view, pipeWithWater(level), -1, MeasureMode::WaterLevel);
+        const PaintCall &label = painted.calls.last();
+        QTEST(label.text, "text");
+        // The mouth fills the square of 576 pixels but for 2 %; water stands on its lowest point,
+        // and is drawn on whole segments of a degree.
+        const double degree = std::acos(-1.0) / 180;
+        const double segments = std::round(std::acos(1 - 2 * level) / degree);
+        const double y = 288 + 0.5 * std::cos(segments * degree) * 576 / 1.02;
+        const PaintCall &box = painted.calls[painted.calls.size() - 2];
+        QCOMPARE(labelFaults(box, label, QPointF(288, y), lineOffset), QByteArray());
+    }
+
+    void discLiesInThePickedPlane()
+    {
+        PipeView view = frontView(0.3, QRectF(5, 5, 300, 300), turned);
+        Cylinder pipe = pipeWithWater(0);
+        pipe.crossSectDistancePercent = 0.3;
+        const QVector<PaintCall> disc = paint(view, pipe, -1, MeasureMode::CrossSection).calls;
+        for (int j = 0; j <= 360; ++j) {
+            // 3 m long: the plane is that of the fourth ring.
+            COMPARE_NEAR(disc[0].points[j], pixels(view, pipe.vertices[3][std::size_t(j)]),
+                         pixelTolerance);
+        }
+        QVERIFY(isSame(disc[0].points, disc[1].points));
+        pipe.frontCircle.resize(3);
+        const Painted none = paint(view, pipe, -1, MeasureMode::FreeCrossSection);
+        QVERIFY(none.calls.isEmpty());
+        QCOMPARE(none.observable, ObservableType::NothingObserved);
+    }
+
+    void cutRingsKeepTheirArcs()
+    {
+        PipeView view = frontView(0.3);
+        Cylinder pipe = pipeWithWater(0);
+        const std::array<QPair<int, int>, 3> arcs{{{7, 350}, {200, 200}, {200, 201}}};
+        for (std::size_t i = 0; i < arcs.size(); ++i) {
+            pipe.waterLevelStart[i + 1] = arcs[i].first;
+            pipe.waterLevelEnd[i + 1] = arcs[i].second;
+        }
+        const Painted painted = paint(view, pipe, 1, MeasureMode::NoMeasure);
+        QCOMPARE(painted.calls.size(), 10); // an arc of a single point is no line
+        QVERIFY(isSame(painted.calls[1].points, ringPixels(view, pipe, 1, 7, 350)));
+        QVERIFY(isSame(painted.calls[2].points, ringPixels(view, pipe, 3, 200, 201)));
+        QVERIFY(isSame(painted.calls[3].points, ringPixels(view, pipe, 4, 0, 360)));
+    }
+
+    void singleRingIsDrawnOnce()
+    {
+        PipeView view = frontView(0.3);
+        Cylinder pipe = pipeWithWater(0.5);
+        pipe.vertices.resize(1);
+        for (const int ringStep : {-1, 1, 2}) {
+            QStringList expected{"line 182 #d228323c 2",  "segment #d228323c 2",
+                                 "segment #d228323c 1",   "segment #d228323c 1",
+                                 "box none on #b4000000", "text \" 50 % \" #d228323c 1"};
+            if (ringStep > 0)
+                expected.prepend("line 181 #c80a141e 3");
+            QCOMPARE(paint(view, pipe, ringStep, MeasureMode::WaterLevel).summary, expected);
+        }
+    }
+
+    void shortFormDrawsRingsAlone()
+    {
+        PipeView view = frontView(0.3);
+        PaintRecorder recorder;
+        QPainter painter(&recorder);
+        const Cylinder pipe = pipeWithWater(0);
+        view.camera.renderCylinder(painter, cylinderColor, measureColor, pipe, 1);
+        const Painted rings = paint(view, pipe, 1, MeasureMode::NoMeasure);
+        QCOMPARE(recorder.calls().size(), rings.calls.size());
+        for (int i = 0; i < rings.calls.size(); ++i) {
+            QCOMPARE(summaryOf(recorder.calls()[i]), rings.summary[i]);
+            QVERIFY(isSame(recorder.calls()[i].points, rings.calls[i].points));
+        }
+    }
+
+    void pipesWithoutExtentArePainted()
+    {
+        // The length of the next to last overflows.
+        for (const double diameterM : {0.0, -0.1, std::nan(""), HUGE_VAL, 1e308, 5e-324}) {
+            for (int k = 0; k < 12; ++k) {
+                const auto mode = MeasureMode(k / 2);
+                Cylinder pipe(diameterM);
+                pipe.waterLevelPercent = k % 2 == 0 ? 0.25 : 0.75;
+                pipe.createVerticesInWorldCoord(MeasureMode::WaterLevel);
+                PipeView view = frontView(0.3);
+                QCOMPARE(paint(view, pipe, 1, mode).summary.filter("text").size(),
+                         mode == MeasureMode::WaterLevel ? 1 : 0);
+            }
+        }
+    }
 };
-
-void TestCylinderRendering::callsOfEachMode_data()
-{
-    QTest::addColumn<MeasureMode>("mode");
-    QTest::addColumn<int>("ringStep");
-    QTest::addColumn<double>("level");
-    QTest::addColumn<QStringList>("expected");
-    const QString segment1 = "segment #d228323c 1 square bevel";
-    const QStringList disc{"path 361 none on #3228323c",
-                           "path 361 #d228323c 3 square bevel on nothing"};
-    const auto label = [](int percent) {
-        return QStringList{"box none on #b4000000",
-                           QString("text \" %1 % \" #d228323c 1 square bevel").arg(percent)};
-    };
-    const auto dryAndWet = [&](int dryPoints, int wetPoints) {
-        QStringList calls = allRings().replaceInStrings("361", QString::number(dryPoints));
-        for (int i = 0; i <= 10; ++i) {
-            const QString pen = i == 0    ? "#d228323c 2 square bevel"
-                                : i == 10 ? "#d228323c 1 square bevel"
-                                          : "#5028323c 1 square bevel";
-            calls << QString("line %1 %2").arg(wetPoints).arg(pen) << "segment " + pen;
-        }
-        return calls;
-    };
-    const QStringList endRings{mouthRing, lastRing};
-    const QStringList wetEnds{"line 122 #d228323c 2 square bevel",
-                              "segment #d228323c 2 square bevel",
-                              "line 122 #d228323c 1 square bevel",
-                              segment1,
-                              segment1,
-                              segment1};
-    const QStringList full = QStringList(dryAndWet(1, 362)).mid(11);
-
-    QTest::newRow("rings alone") << MeasureMode::NoMeasure << 1 << 0.0 << allRings();
-    QTest::newRow("pipe dimension") << MeasureMode::PipeDimension << 1 << 0.0 << allRings();
-    QTest::newRow("mouth and end") << MeasureMode::NoMeasure << 10 << 0.0 << endRings;
-    QTest::newRow("every third ring") << MeasureMode::NoMeasure << 3 << 0.0
-                                      << QStringList{mouthRing, innerRing, innerRing, innerRing};
-    QTest::newRow("step beyond the end")
-        << MeasureMode::NoMeasure << 2147483647 << 0.0 << QStringList{mouthRing};
-    QTest::newRow("no rings") << MeasureMode::NoMeasure << -1 << 0.0 << QStringList();
-    QTest::newRow("cross section") << MeasureMode::CrossSection << 10 << 0.0 << endRings + disc;
-    QTest::newRow("free cross section, no rings")
-        << MeasureMode::FreeCrossSection << -1 << 0.0 << disc;
-    QTest::newRow("no water") << MeasureMode::WaterLevel << 1 << 0.0 << allRings() + label(0);
-    QTest::newRow("less water than a segment")
-        << MeasureMode::WaterLevel << 10 << 1e-5 << endRings + label(0);
-    QTest::newRow("quarter full") << MeasureMode::WaterLevel << 1 << 0.25
-                                  << dryAndWet(241, 122) + QStringList{segment1, segment1} +
-                                         label(25);
-    QTest::newRow("quarter full, no rings")
-        << MeasureMode::WaterLevel << -1 << 0.25 << wetEnds + label(25);
-    QTest::newRow("full") << MeasureMode::WaterLevel << 1 << 1.0 << full + label(100);
-}
-
-void TestCylinderRendering::callsOfEachMode()
-{
-    QFETCH(MeasureMode, mode);
-    QFETCH(int, ringStep);
-    QFETCH(double, level);
-    QFETCH(QStringList, expected);
-    PipeView view = frontView(0.3, QRectF(20, 10, 400, 300), turned);
-    const Mat4 modelView = view.camera.modelViewMatrix;
-    const Painted painted = paint(view, pipeWithWater(level), ringStep, mode);
-    QCOMPARE(painted.summary, expected);
-    QVERIFY(painted.brushKept);
-    QVERIFY(std::equal(modelView.m, modelView.m + 16, view.camera.modelViewMatrix.m));
-    QVERIFY(view.camera.modelViewStack.empty());
-    const bool writes = mode == MeasureMode::CrossSection || mode == MeasureMode::FreeCrossSection;
-    QCOMPARE(painted.observable,
-             writes ? ObservableType::NothingObserved : ObservableType::BendAngle);
-    // What strokes and labels set is taken back; the last ring's or water line's pen stays.
-    QPen left(Qt::black);
-    for (const PaintCall &call : painted.calls) {
-        left = call.kind == Kind::PolylineFloat || call.kind == Kind::LinesFloat ? call.pen : left;
-    }
-    QCOMPARE(painted.penLeft, left);
-}
-
-void TestCylinderRendering::ringsAboveTheWaterLine()
-{
-    PipeView view = frontView(0.3, QRectF(20, 10, 401, 299), turned);
-    const Cylinder pipe = pipeWithWater(0.25);
-    const Painted painted = paint(view, pipe, 1, MeasureMode::NoMeasure);
-    for (int ring = 0; ring <= 10; ++ring) {
-        QVERIFY(isSame(painted.calls[ring].points, ringPixels(view, pipe, ring, steps(60, 300))));
-    }
-    // Vertex 90 stands at the right of the picture, 180 at its top.
-    const PipeView straight = frontView(0.3);
-    QVERIFY(pixels(straight, pipe.vertices[0][90]).x() > 500);
-    QVERIFY(pixels(straight, pipe.vertices[0][180]).y() < 50);
-}
-
-void TestCylinderRendering::waterOfEachRing()
-{
-    PipeView view = frontView(0.3, QRectF(20, 10, 401, 299), turned);
-    const Cylinder pipe = pipeWithWater(0.25);
-    const QVector<PaintCall> calls = paint(view, pipe, 5, MeasureMode::WaterLevel).calls.mid(3);
-    for (int k = 0; k < 3; ++k) {
-        const QVector<QPointF> arc = ringPixels(view, pipe, 5 * k, steps(60, 0) + steps(360, 300));
-        QVERIFY(isSame(calls[2 * k].points, arc));
-        QVERIFY(isSame(calls[2 * k + 1].points, {arc.first(), arc.last()}));
-    }
-    for (int k = 0; k < 2; ++k) {
-        const QVector<int> edge{k == 0 ? 300 : 60};
-        QVERIFY(isSame(calls[6 + k].points,
-                       ringPixels(view, pipe, 0, edge) + ringPixels(view, pipe, 10, edge)));
-    }
-}
-
-void TestCylinderRendering::labelStandsAtTheWaterLine_data()
-{
-    QTest::addColumn<double>("level");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("lineOffset");
-    QTest::newRow("dry") << 0.0 << " 0 % " << -0.25;
-    QTest::newRow("3 percent") << 0.03 << " 3 % " << -0.25;
-    QTest::newRow("rounds down to 3 percent") << 0.03499 << " 3 % " << -0.25;
-    QTest::newRow("rounds up to 4 percent") << 0.0351 << " 4 % " << 1.25;
-    QTest::newRow("half") << 0.5 << " 50 % " << 1.25;
-    QTest::newRow("full") << 1.0 << " 100 % " << 1.25;
-}
-
-void TestCylinderRendering::labelStandsAtTheWaterLine()
-{
-    QFETCH(double, level);
-    QFETCH(QString, text);
-    QFETCH(double, lineOffset);
-    PipeView view = frontView(0.3);
-    const Painted painted = paint(view, pipeWithWater(level), -1, MeasureMode::WaterLevel);
-    const PaintCall &label = painted.calls.last();
-    QCOMPARE(label.text, text);
-    const PaintRecorder device;
-    const QRect box = QFontMetrics(label.font, &device).boundingRect(text);
-    // The mouth fills the square of 576 pixels but for 2 %; water stands on its lowest point, and
-    // is drawn on whole segments of a degree.
-    const double segments = std::round(std::acos(1 - 2 * level) * 180 / std::acos(-1.0));
-    const double depth = (1 - std::cos(segments * std::acos(-1.0) / 180)) / 2;
-    const double y = 288 + (0.5 - depth) * 576 / 1.02;
-    const QPointF origin(288 - box.width() * 0.5, y + lineOffset * box.height());
-    COMPARE_NEAR(label.points[0], origin, textTolerance);
-    const PaintCall &background = painted.calls[painted.calls.size() - 2];
-    COMPARE_NEAR(background.points[0], origin + box.topLeft(), pixelTolerance);
-    QCOMPARE(background.points[1], QPointF(box.width(), box.height()));
-}
-
-void TestCylinderRendering::discLiesInThePickedPlane()
-{
-    PipeView view = frontView(0.3, QRectF(5, 5, 300, 300), turned);
-    Cylinder pipe = pipeWithWater(0);
-    pipe.crossSectDistancePercent = 0.3;
-    const QVector<PaintCall> disc = paint(view, pipe, -1, MeasureMode::CrossSection).calls;
-    for (int j = 0; j <= 360; ++j) {
-        // 3 m long: the plane is that of the fourth ring.
-        COMPARE_NEAR(disc[0].points[j], pixels(view, pipe.vertices[3][std::size_t(j)]),
-                     pixelTolerance);
-    }
-    QVERIFY(isSame(disc[0].points, disc[1].points));
-    pipe.frontCircle.resize(3);
-    const Painted none = paint(view, pipe, -1, MeasureMode::FreeCrossSection);
-    QVERIFY(none.calls.isEmpty());
-    QCOMPARE(none.observable, ObservableType::NothingObserved);
-}
-
-void TestCylinderRendering::cutRingKeepsItsArc()
-{
-    PipeView view = frontView(0.3);
-    Cylinder pipe = pipeWithWater(0);
-    pipe.waterLevelStart[1] = 7;
-    pipe.waterLevelEnd[1] = 350;
-    pipe.waterLevelStart[2] = 200;
-    pipe.waterLevelEnd[2] = 200;
-    const Painted painted = paint(view, pipe, 1, MeasureMode::NoMeasure);
-    QCOMPARE(painted.calls.size(), 10);
-    QVERIFY(isSame(painted.calls[1].points, ringPixels(view, pipe, 1, steps(7, 350))));
-    QVERIFY(isSame(painted.calls[2].points, ringPixels(view, pipe, 3, steps(0, 360))));
-}
-
-void TestCylinderRendering::singleRingIsDrawnOnce()
-{
-    PipeView view = frontView(0.3);
-    Cylinder pipe = pipeWithWater(0.5);
-    pipe.vertices.resize(1);
-    for (const int ringStep : {-1, 1, 2}) {
-        QStringList expected{"line 182 #d228323c 2 square bevel",
-                             "segment #d228323c 2 square bevel",
-                             "segment #d228323c 1 square bevel",
-                             "segment #d228323c 1 square bevel",
-                             "box none on #b4000000",
-                             "text \" 50 % \" #d228323c 1 square bevel"};
-        if (ringStep > 0) {
-            expected.prepend("line 181 #c80a141e 3 square bevel");
-        }
-        QCOMPARE(paint(view, pipe, ringStep, MeasureMode::WaterLevel).summary, expected);
-    }
-}
-
-void TestCylinderRendering::shortFormDrawsRingsAlone()
-{
-    PipeView view = frontView(0.3);
-    PaintRecorder recorder;
-    QPainter painter(&recorder);
-    const Cylinder pipe = pipeWithWater(0);
-    view.camera.renderCylinder(painter, cylinderColor, measureColor, pipe, 1);
-    QCOMPARE(recorder.log(), [&] {
-        QStringList log;
-        for (const PaintCall &call : paint(view, pipe, 1, MeasureMode::NoMeasure).calls) {
-            log.append(call.toString().remove(" brush #ff00ff00"));
-        }
-        return log;
-    }());
-}
-
-void TestCylinderRendering::pipesWithoutExtentArePainted_data()
-{
-    QTest::addColumn<double>("diameterM");
-    QTest::newRow("zero") << 0.0;
-    QTest::newRow("negative") << -0.1;
-    QTest::newRow("not a number") << std::nan("");
-    QTest::newRow("infinite") << HUGE_VAL;
-    QTest::newRow("length overflows") << 1e308;
-    QTest::newRow("smallest number") << 5e-324;
-}
-
-void TestCylinderRendering::pipesWithoutExtentArePainted()
-{
-    QFETCH(double, diameterM);
-    for (const double level : {0.25, 0.75}) {
-        for (int mode = 0; mode <= 5; ++mode) {
-            Cylinder pipe(diameterM);
-            pipe.waterLevelPercent = level;
-            pipe.createVerticesInWorldCoord(MeasureMode::WaterLevel);
-            PipeView view = frontView(0.3);
-            const Painted painted = paint(view, pipe, 1, MeasureMode(mode));
-            QCOMPARE(painted.summary.filter("text").size(), mode == 3 ? 1 : 0);
-        }
-    }
-}
 
 QTEST_MAIN(TestCylinderRendering)
 #include "tst_cylinder_rendering.moc"
