@@ -265,6 +265,7 @@ private:
     void leavePicture();
     void loadPictureOf(Document &document);
     void loadSidecar(Document &document);
+    void warnOfOtherPicture(Document &document, Apps::Session &session);
     QString saveQuestion(const Document &document) const;
     bool write(Document &document);
     bool report(const QString &problem, const QString &done);

@@ -136,6 +136,8 @@ void ViewerController::showPicture(int index)
         document.session = fresh;
         document.session->picture = m_picture->identity;
         loadSidecar(document);
+    } else if (m_picture) {
+        warnOfOtherPicture(document, *document.session);
     }
     if (m_item && m_picture) {
         Apps::layOutItem(*m_item, m_picture->image.size());
@@ -196,16 +198,23 @@ void ViewerController::loadSidecar(Document &document)
         notice(Level::Error, tr("The saved session cannot be read: %1").arg(problem));
         return;
     }
-    const QString difference = Apps::pictureDifference(saved->picture, m_picture->identity);
+    warnOfOtherPicture(document, *saved);
+    document.sessionStamp = stampOf(document.sessionPath);
+    document.session = saved;
+}
+
+// What was measured on another picture is taken over to the one on view.
+void ViewerController::warnOfOtherPicture(Document &document, Session &session)
+{
+    const QString difference = Apps::pictureDifference(session.picture, m_picture->identity);
     if (!difference.isEmpty()) {
-        document.overwriteWarning = tr("%1 belongs to another picture: %2. Saving replaces it.")
+        document.overwriteWarning = tr("The measurement in %1 was made on another picture: %2. "
+                                       "Saving takes it over to this one.")
                                         .arg(shortName(document.sessionPath), difference);
         notice(Level::Warning,
                tr("Careful, %1. Nothing is overwritten until you confirm it.").arg(difference));
     }
-    document.sessionStamp = stampOf(document.sessionPath);
-    saved->picture = m_picture->identity;
-    document.session = saved;
+    session.picture = m_picture->identity;
 }
 
 Session ViewerController::newSession() const
@@ -235,6 +244,10 @@ QString ViewerController::saveQuestion(const Document &document) const
 {
     if (!document.overwriteWarning.isEmpty()) {
         return document.overwriteWarning;
+    }
+    if (!QFileInfo::exists(document.picturePath)) {
+        return tr("%1 is no longer there. The measurement is saved all the same.")
+            .arg(shortName(document.picturePath));
     }
     if (stampOf(document.picturePath) != document.pictureStamp) {
         return tr("%1 has changed since it was opened. What you save belongs to what you see.")

@@ -1,20 +1,20 @@
 #pragma once
 
+#include "StageView.h"
 #include "ViewerController.h"
 #include "ViewerWindow.h"
 
-#include <QPointF>
+#include <QDir>
+#include <QFile>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QSize>
-#include <QString>
+#include <QSettings>
 #include <QTemporaryDir>
-#include <QVector>
+#include <QTest>
 
+#include <algorithm>
+#include <cmath>
 #include <functional>
-#include <memory>
-
-class QTouchDevice;
 
 namespace Drevon::Zalento::Test {
 
@@ -22,47 +22,207 @@ namespace Drevon::Zalento::Test {
 class ViewerDriver
 {
 public:
-    explicit ViewerDriver(const QSize &windowSize = QSize(1280, 800));
+    explicit ViewerDriver(const QSize &windowSize = QSize(1280, 800))
+    {
+        QSettings().clear();
+        viewer.setWindowSize(windowSize);
+        if (!scene.show() || !QTest::qWaitForWindowExposed(window())) {
+            qFatal("the viewer's window does not appear");
+        }
+        window()->requestActivate();
+        if (!QTest::qWaitForWindowActive(window())) {
+            qFatal("the viewer's window does not become active");
+        }
+    }
 
     ViewerController viewer;
-    std::unique_ptr<ViewerWindow> scene;
+    ViewerWindow scene{viewer};
     QTemporaryDir folder;
 
-    QQuickWindow *window() const { return scene->window(); }
-    /** The item of this object name; the test fails when there is none. */
-    QQuickItem *find(const QString &name) const;
-    bool hasItem(const QString &name) const;
-    /** Buttons, fields and sliders that can be seen. */
-    QVector<QQuickItem *> visibleControls() const;
-    /** Copies a sample into the folder and opens it. */
-    QString openSample(const QString &name);
-    /** A copy of a sample in the folder, not opened. */
-    QString copySample(const QString &name, const QString &copyName = {});
+    QQuickWindow *window() const { return scene.window(); }
+    StageView *view() const { return find("stage")->property("view").value<StageView *>(); }
 
-    /** Window position of a picture pixel, and of an item's middle. */
-    QPoint at(double pixelX, double pixelY) const;
-    QPoint middleOf(const QString &name) const;
+    /** Everything below @p root; what repeaters make has no QObject parent in the scene. */
+    static QVector<QQuickItem *> below(QQuickItem *root)
+    {
+        QVector<QQuickItem *> items{root};
+        for (int i = 0; i < items.size(); ++i) {
+            items += items.at(i)->childItems().toVector();
+        }
+        return items;
+    }
+    bool hasItem(const QString &name) const { return named(window()->contentItem(), name); }
+    QQuickItem *find(const QString &name) const { return find(name, window()->contentItem()); }
+    QString text(const QString &itemName) const
+    {
+        return find(itemName)->property("text").toString();
+    }
+    QVector<QQuickItem *> visibleControls() const
+    {
+        QVector<QQuickItem *> controls = below(window()->contentItem());
+        const auto isOther = [](const QQuickItem *item) {
+            return !item->isVisible() ||
+                   !(item->inherits("QQuickAbstractButton") || item->inherits("QQuickTextField") ||
+                     item->inherits("QQuickSlider"));
+        };
+        controls.erase(std::remove_if(controls.begin(), controls.end(), isOther), controls.end());
+        return controls;
+    }
 
-    void click(double pixelX, double pixelY);
-    void clickItem(const QString &name);
-    /** Until the dialog or menu stands where it stays. */
-    void waitForDialog(const QString &name) const;
-    /** Clicks an item of the dialog. */
-    void clickDialog(const QString &dialogName, const QString &itemName);
-    void drag(const QPoint &from, const QPoint &to, Qt::MouseButton button = Qt::LeftButton);
-    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void type(const QString &fieldName, const QString &text, int endKey = Qt::Key_Return);
-    void wheel(const QPoint &at, int notches);
-    void tap(const QPoint &at);
-    void hold(const QPoint &at, const QPoint &thenTo, const std::function<void()> &meanwhile);
+    /** A copy of a sample in the folder. */
+    QString copySample(const QString &name, const QString &copyName = {}) const
+    {
+        const QString copy = folder.filePath(copyName.isEmpty() ? name : copyName);
+        if (!QFile::exists(copy) &&
+            !QFile::copy(QStringLiteral(ZALENTO_SAMPLES "/") + name, copy)) {
+            qFatal("the sample %s cannot be copied", qPrintable(name));
+        }
+        return copy;
+    }
+    QString openSample(const QString &name)
+    {
+        viewer.openPaths({copySample(name)});
+        return copySample(name);
+    }
+
+    /** Window position of a picture pixel. */
+    QPoint at(double pixelX, double pixelY) const
+    {
+        return find("stage")->mapToScene(view()->toView(QPointF(pixelX, pixelY))).toPoint();
+    }
+    static QPoint middleOf(const QQuickItem *item)
+    {
+        return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+    }
+    void press(const QPoint &point)
+    {
+        QTest::mouseClick(window(), Qt::LeftButton, Qt::NoModifier, point);
+    }
+    void click(double pixelX, double pixelY) { press(at(pixelX, pixelY)); }
+    void clickItem(const QString &name) { press(middleOf(find(name))); }
+    void doubleClickItem(const QString &name)
+    {
+        QTest::mouseDClick(window(), Qt::LeftButton, Qt::NoModifier, middleOf(find(name)));
+    }
+    /** Waits until the dialog or menu stands where it stays. */
+    QObject *waitForDialog(const QString &name) const
+    {
+        auto *dialog = window()->findChild<QObject *>(name);
+        if (!dialog || !QTest::qWaitFor([=] { return dialog->property("opened").toBool(); })) {
+            qFatal("%s does not open", qPrintable(name));
+        }
+        QTest::qWait(frameMs);
+        return dialog;
+    }
+    void clickDialog(const QString &dialogName, const QString &itemName)
+    {
+        const QObject *dialog = waitForDialog(dialogName);
+        press(middleOf(find(itemName, dialog->property("contentItem").value<QQuickItem *>())));
+        QTest::qWait(frameMs);
+    }
+    void drag(const QPoint &from, const QPoint &to, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mousePress(window(), button, Qt::NoModifier, from);
+        for (int i = 1; i <= dragSteps; ++i) {
+            QMouseEvent move(QEvent::MouseMove, from + (to - from) * i / dragSteps, Qt::NoButton,
+                             button, Qt::NoModifier);
+            QCoreApplication::sendEvent(window(), &move);
+        }
+        QTest::mouseRelease(window(), button, Qt::NoModifier, to);
+    }
+    void wheel(const QPoint &at, int notches)
+    {
+        QWheelEvent event(at, window()->mapToGlobal(at), QPoint(), QPoint(0, notches * 120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(window(), &event);
+    }
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(window(), static_cast<Qt::Key>(key), modifiers);
+    }
+    void type(const QString &fieldName, const QString &text, int endKey = Qt::Key_Return)
+    {
+        find(fieldName)->forceActiveFocus();
+        key(Qt::Key_A, Qt::ControlModifier);
+        key(Qt::Key_Delete);
+        for (const QChar c : text) {
+            QTest::keyClick(window(), c.toLatin1());
+        }
+        key(endKey);
+    }
+
+    void hold(const QPoint &at, const QPoint &thenTo, const std::function<void()> &meanwhile)
+    {
+        QTest::touchEvent(window(), m_screen).press(0, at, window());
+        QTest::qWait(holdMs);
+        for (int i = 1; i <= dragSteps; ++i) {
+            QTest::touchEvent(window(), m_screen)
+                .move(0, at + (thenTo - at) * i / dragSteps, window());
+        }
+        meanwhile();
+        QTest::touchEvent(window(), m_screen).release(0, thenTo, window());
+    }
+    void tap(const QPoint &at)
+    {
+        QTest::touchEvent(window(), m_screen).press(0, at, window());
+        QTest::touchEvent(window(), m_screen).release(0, at, window());
+    }
     void pinch(const QPoint &centre, double startDistance, double endDistance, double turnDeg,
-               const QPoint &moved = {});
+               const QPoint &moved = {})
+    {
+        const auto fingers = [&](double share) {
+            const double distance = startDistance + (endDistance - startDistance) * share;
+            const double angle = -turnDeg * share * M_PI / 180.0; // screen y points down
+            const QPointF half(std::cos(angle) * distance / 2, std::sin(angle) * distance / 2);
+            const QPointF middle = centre + QPointF(moved) * share;
+            return std::make_pair((middle - half).toPoint(), (middle + half).toPoint());
+        };
+        auto touch = QTest::touchEvent(window(), m_screen, false);
+        touch.press(0, fingers(0.0).first, window()).commit();
+        touch.stationary(0).press(1, fingers(0.0).second, window()).commit();
+        for (int i = 1; i <= dragSteps; ++i) {
+            const auto now = fingers(double(i) / dragSteps);
+            touch.move(0, now.first, window()).move(1, now.second, window()).commit();
+        }
+        touch.release(0, fingers(1.0).first, window())
+            .release(1, fingers(1.0).second, window())
+            .commit();
+    }
 
     /** Lets the scene catch up, and writes "<name>.png". */
-    QImage screenshot(const QString &name);
+    QImage screenshot(const QString &name)
+    {
+        QTest::qWait(frameMs / 2);
+        const QImage image = window()->grabWindow();
+        if (!QDir().mkpath(ZALENTO_SCREENSHOTS) ||
+            !image.save(QStringLiteral(ZALENTO_SCREENSHOTS "/%1.png").arg(name))) {
+            qFatal("the screenshot %s cannot be written", qPrintable(name));
+        }
+        return image;
+    }
 
 private:
-    QTouchDevice *m_screen = nullptr;
+    static QQuickItem *named(QQuickItem *root, const QString &name)
+    {
+        const auto items = below(root);
+        const auto found = std::find_if(items.begin(), items.end(), [&name](const QQuickItem *i) {
+            return i->objectName() == name;
+        });
+        return found == items.end() ? nullptr : *found;
+    }
+    static QQuickItem *find(const QString &name, QQuickItem *root)
+    {
+        QQuickItem *item = root ? named(root, name) : nullptr;
+        if (!item) {
+            qFatal("the scene has no item %s", qPrintable(name));
+        }
+        return item;
+    }
+
+    static constexpr int dragSteps = 6;
+    static constexpr int holdMs = 700;
+    static constexpr int frameMs = 100; // rows and columns are laid out with the frame that follows
+    QTouchDevice *m_screen = QTest::createTouchDevice();
 };
 
 } // namespace Drevon::Zalento::Test
