@@ -102,5 +102,3 @@ void branchesOf(benchmark::internal::Benchmark *benchmark)
 
 BENCHMARK(rebuild)->Name("lateral/rebuild")->Apply(branchesOf)->Unit(benchmark::kMicrosecond);
 BENCHMARK(curveAlone)->Name("lateral/control")->Apply(branchesOf)->Unit(benchmark::kMicrosecond);
-
-BENCHMARK_MAIN();

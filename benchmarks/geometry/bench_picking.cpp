@@ -160,5 +160,3 @@ BENCHMARK(wall)->Name("pick/wall");
 BENCHMARK(wallMinimal)->Name("pick/wall/control");
 BENCHMARK(plane)->Name("pick/plane");
 BENCHMARK(planeMinimal)->Name("pick/plane/control");
-
-BENCHMARK_MAIN();
