@@ -22,7 +22,9 @@ bool isPictureName(const QFileInfo &info)
 QStringList picturesIn(const QString &folder)
 {
     QStringList pictures;
-    QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
+    // A link that leads nowhere, or a name that is not UTF-8, is no file to Qt; it is listed to be
+    // told of.
+    QDirIterator files(folder, QDir::Files | QDir::System, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString path = files.next();
         if (isPictureName(files.fileInfo())) {
