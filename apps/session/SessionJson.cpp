@@ -262,7 +262,7 @@ QString schemaText(int minor)
 void readSchema(FieldReader &reader, Session &session, QString &problem)
 {
     static const QRegularExpression pattern(
-        QStringLiteral("\\A%1 ([0-9]{1,4})\\.([0-9]{1,4})\\z").arg(QLatin1String(schemaName)));
+        QStringLiteral("\\A%1 ([1-9][0-9]{0,3})\\.([0-9]{1,4})\\z").arg(QLatin1String(schemaName)));
     const QJsonValue value = reader.take("schema");
     const auto match = pattern.match(value.toString());
     if (!match.hasMatch()) {
