@@ -1,53 +1,88 @@
 // The built program itself: what main() sets up before the rest runs.
 #include "PictureFiles.h"
 
-#include "session/MeasuredValues.h"
 #include "session/SessionFile.h"
-#include "session/SessionItem.h"
 #include "support/TestCase.h"
-#include "support/Tolerances.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
-using namespace Drevon::Zalento;
+#include <csignal>
+#include <sys/resource.h>
+#include <unistd.h>
+
 using namespace Drevon::Zalento::Apps;
 using namespace Drevon::Zalento::Test;
 
 namespace {
 
+constexpr rlim_t noLimit = RLIM_INFINITY;
+
+// What befalls the started program.
+struct Fault
+{
+    rlim_t largestFile = noLimit; // in bytes; a disk that is full is noticed in the same way
+    bool killsAtLimit = false;
+    bool isNobody = false; // a user who may not write everywhere
+};
+
+class Program : public QProcess
+{
+public:
+    explicit Program(const Fault &fault)
+        : m_fault(fault)
+    {}
+
+protected:
+    void setupChildProcess() override
+    {
+        const rlimit noCore{0, 0};
+        const rlimit files{m_fault.largestFile, m_fault.largestFile};
+        setrlimit(RLIMIT_CORE, &noCore);
+        setrlimit(RLIMIT_FSIZE, &files);
+        signal(SIGXFSZ, m_fault.killsAtLimit ? SIG_DFL : SIG_IGN);
+        constexpr uid_t nobody = 65534;
+        if (m_fault.isNobody && geteuid() == 0 && setuid(nobody) != 0) {
+            _exit(1);
+        }
+    }
+
+private:
+    Fault m_fault;
+};
+
 struct Outcome
 {
-    int code = -1;
+    int code = -1; // of a program that ended by itself
     QByteArray output;
     QByteArray messages;
 };
 
+// The redirection is the shell's: ">&-" closes the output.
 Outcome start(const QStringList &arguments, const QStringList &environment = {},
-              const QString &outputFile = {})
+              const QString &redirection = {}, const Fault &fault = {})
 {
-    QProcess process;
+    Program process(fault);
     QStringList variables = QProcess::systemEnvironment();
     variables.removeAll(QStringLiteral("QT_QPA_PLATFORM=offscreen"));
     process.setEnvironment(variables + environment);
-    if (!outputFile.isEmpty()) {
-        process.setStandardOutputFile(outputFile);
-    }
-    process.start(QStringLiteral(ZALENTO_MEASURE), arguments);
+    const QStringList shell{"-c", "exec \"$0\" \"$@\" " + redirection,
+                            QStringLiteral(ZALENTO_MEASURE)};
+    process.start(QStringLiteral("/bin/sh"), shell + arguments);
     process.closeWriteChannel();
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) {
+    if (!process.waitForFinished()) {
         return {};
     }
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
 const QStringList water{"measure", "--kind", "WaterLevel", "--percentage", "12.5"};
 
 } // namespace
+
+Q_DECLARE_METATYPE(Fault)
 
 class TestMeasureProgram : public TestCase
 {
@@ -56,8 +91,11 @@ class TestMeasureProgram : public TestCase
 private slots:
     void surroundingsChangeNothing_data();
     void surroundingsChangeNothing();
-    void agreesWithTheItemToTheBit();
-    void noticesAFullOutput();
+    void failedSavesKeepTheOldFiles_data();
+    void failedSavesKeepTheOldFiles();
+    void killedSaveKeepsTheOldSession();
+    void noticesStreamsThatFail_data();
+    void noticesStreamsThatFail();
     void exitsAsToldByUsage();
 };
 
@@ -66,6 +104,7 @@ void TestMeasureProgram::surroundingsChangeNothing_data()
     QTest::addColumn<QStringList>("environment");
     QTest::newRow("decimal comma") << QStringList{"LC_ALL=de_DE.UTF-8", "LANG=de_DE.UTF-8"};
     QTest::newRow("plain locale") << QStringList{"LC_ALL=C", "LANG=C"};
+    QTest::newRow("locale that is not there") << QStringList{"LC_ALL=xx_YY", "LANG=xx_YY"};
     QTest::newRow("window system that is not there")
         << QStringList{"QT_QPA_PLATFORM=xcb", "DISPLAY=", "XDG_RUNTIME_DIR="};
 }
@@ -76,62 +115,105 @@ void TestMeasureProgram::surroundingsChangeNothing()
     const QTemporaryDir dir;
     const QString picture = dir.filePath(QStringLiteral("Rohr ä.png"));
     QVERIFY(greyPicture(QSize(64, 48)).save(picture));
-    const Outcome outcome =
-        start(water + QStringList{"--overlay", "svg", "--save-session", picture}, environment);
+    const QStringList arguments =
+        water + QStringList{"--overlay", "svg", "--save-session", "--force", picture};
+    QCOMPARE(start(arguments).code, 0);
+    const QByteArray files = folderState(dir.path());
+    QVERIFY(files.contains("\"percentage\": 12.5,") && files.contains("<svg"));
+    const Outcome outcome = start(arguments, environment);
     QCOMPARE(outcome.code, 0);
     QCOMPARE(outcome.output, picture.toUtf8() + ": waterLevel 13 % (12.5 %)\n");
     QCOMPARE(outcome.messages.count('\n'), 2);
     QCOMPARE(outcome.messages.count("zalento-measure: wrote "), 2);
-    const QByteArray svg = readBytes(dir.filePath(QStringLiteral("Rohr ä.overlay.svg")));
-    QVERIFY(svg.contains("viewBox=\"0 0 64 48\""));
-    QVERIFY(readBytes(sessionPathOf(picture)).contains("\"percentage\": 12.5,"));
+    QCOMPARE(folderState(dir.path()), files);
 }
 
-void TestMeasureProgram::agreesWithTheItemToTheBit()
+void TestMeasureProgram::failedSavesKeepTheOldFiles_data()
+{
+    QTest::addColumn<Fault>("fault");
+    QTest::newRow("disk full") << Fault{0, false, false};
+    QTest::newRow("disk full after some bytes") << Fault{100, false, false};
+    QTest::newRow("folder that is read only") << Fault{noLimit, false, true};
+}
+
+void TestMeasureProgram::failedSavesKeepTheOldFiles()
+{
+    QFETCH(Fault, fault);
+    const QTemporaryDir dir;
+    const QString picture = dir.filePath(QStringLiteral("a.png"));
+    QVERIFY(greyPicture(QSize(64, 48)).save(picture));
+    const QStringList files{"--save-session", "--overlay", "both", picture};
+    QCOMPARE(start(water + files).code, 0);
+    const QByteArray before = folderState(dir.path());
+    const QFile::Permissions readable(0x5555); // everybody enters and reads
+    QVERIFY(QFile::setPermissions(dir.path(),
+                                  fault.isNobody ? readable : readable | QFile::WriteOwner));
+    const Outcome outcome =
+        start(water + QStringList{"--roll", "9", "--force"} + files, {}, {}, fault);
+    QVERIFY(QFile::setPermissions(dir.path(), readable | QFile::WriteOwner));
+    QCOMPARE(outcome.code, 3);
+    QCOMPARE(outcome.output, picture.toUtf8() + ": waterLevel 13 % (12.5 %)\n");
+    QCOMPARE(outcome.messages.count("cannot be written: "), 3);
+    QCOMPARE(folderState(dir.path()), before);
+}
+
+// The program is killed by the first byte that is too many, which is none for the whole file.
+void TestMeasureProgram::killedSaveKeepsTheOldSession()
 {
     const QTemporaryDir dir;
     const QString picture = dir.filePath(QStringLiteral("a.png"));
-    QVERIFY(greyPicture(QSize(801, 600)).save(picture));
-    Session session;
-    session.picture.path = picture;
-    session.kind = QStringLiteral("CrossSection");
-    session.diameterMM = 217.3;
-    session.rollDEG = 11.1;
-    session.rearCircleX = 4.4;
-    session.percentage = 13.7;
-    for (const QPointF &pixel : {QPointF(300.25, 200.5), QPointF(480, 210), QPointF(470, 390.75),
-                                 QPointF(330, 380), QPointF(301, 201)}) {
-        session.points.append({pixel, {}, {}});
+    QVERIFY(greyPicture(QSize(64, 48)).save(picture));
+    const auto save = [&picture](const char *rollDEG, const Fault &fault) {
+        return start(water + QStringList{"--roll", rollDEG, "--save-session", "--force", picture},
+                     {"FONTCONFIG_FILE=/dev/null"}, {}, fault) // fonts are kept in files, too
+            .code;
+    };
+    QCOMPARE(save("5", {}), 0);
+    const QByteArray before = readBytes(sessionPathOf(picture));
+    const auto size = static_cast<rlim_t>(before.size());
+    for (const rlim_t limit : {rlim_t(0), rlim_t(1), size / 2, size - 1}) {
+        QCOMPARE(save("9", {limit, true, false}), -1);
+        QCOMPARE(readBytes(sessionPathOf(picture)), before);
     }
-    const QString clicked = dir.filePath(QStringLiteral("clicked.json"));
-    QCOMPARE(saveSession(session, clicked, Overwrite::Refuse), QString());
-    ZaItem item;
-    layOutItem(item, QSize(801, 600));
-    QVERIFY(applySession(session, item).isEmpty());
-    const Measurement expected = measure(item);
-    QCOMPARE(expected.values.size(), 2);
-    const QString placed = dir.filePath(QStringLiteral("placed.json"));
-    QCOMPARE(saveSession(session, placed, Overwrite::Refuse), QString());
-
-    for (const QString &path : {clicked, placed}) {
-        const Outcome outcome = start({"measure", "--session", path, "--format", "jsonl"});
-        QCOMPARE(outcome.code, 0);
-        const QJsonObject result = QJsonDocument::fromJson(outcome.output).object();
-        const QJsonArray values = result[QLatin1String("values")].toArray();
-        QCOMPARE(values.size(), 2);
-        for (int i = 0; i < 2; ++i) {
-            const QJsonObject value = values[i].toObject();
-            COMPARE_EXACT(value[QLatin1String("number")].toDouble(), expected.values[i].number);
-            QCOMPARE(value[QLatin1String("text")].toString(), expected.values[i].text);
-        }
-    }
+    QCOMPARE(save("9", {size, true, false}), 0);
+    QVERIFY(readBytes(sessionPathOf(picture)).contains("\"rollDEG\": 9,"));
 }
 
-void TestMeasureProgram::noticesAFullOutput()
+void TestMeasureProgram::noticesStreamsThatFail_data()
 {
-    const Outcome outcome = start({"kinds"}, {}, QStringLiteral("/dev/full"));
-    QCOMPARE(outcome.code, 3);
-    QVERIFY2(outcome.messages.contains("the values cannot be written"), outcome.messages);
+    QTest::addColumn<QString>("redirection");
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("message");
+    const auto row = [](const char *name, const char *redirection, const char *input, int code,
+                        const char *message) {
+        QTest::newRow(name) << redirection << input << code << QByteArray(message);
+    };
+    row("full output", ">/dev/full", "a.png", 3, "the values cannot be written: No space");
+    row("closed output", ">&-", "a.png", 3, "the values cannot be written: Bad file");
+    row("closed messages", "2>&-", "none.png", 1, "");
+    row("everything closed", "<&- >&- 2>&-", "a.png", 3, "");
+    row("closed list", "<&-", "-", 3, "the list of pictures cannot be read: Bad file");
+    row("folder as the list", "</", "-", 3, "the list of pictures cannot be read: Is a directory");
+}
+
+// Nothing of what is printed gets into the files that are written.
+void TestMeasureProgram::noticesStreamsThatFail()
+{
+    QFETCH(QString, redirection);
+    QFETCH(QString, input);
+    QFETCH(int, code);
+    QFETCH(QByteArray, message);
+    const QTemporaryDir dir;
+    QVERIFY(greyPicture(QSize(64, 48)).save(dir.filePath(QStringLiteral("a.png"))));
+    const QString picture = input == QLatin1String("-") ? input : dir.filePath(input);
+    const Outcome outcome = start(water + QStringList{"--save-session", picture}, {}, redirection);
+    QCOMPARE(outcome.code, code);
+    QVERIFY2(outcome.messages.contains(message), outcome.messages);
+    if (input == QLatin1String("a.png")) {
+        QString problem;
+        QVERIFY2(loadSession(sessionPathOf(picture), problem), qPrintable(problem));
+    }
 }
 
 void TestMeasureProgram::exitsAsToldByUsage()
