@@ -1,0 +1,29 @@
+// The viewer until its first frame with the picture: starts as zalento-viewer does, and ends there.
+#include "ViewerController.h"
+#include "ViewerWindow.h"
+
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+#include <cstdlib>
+
+int main(int argc, char **argv)
+{
+    using namespace Drevon::Zalento;
+
+    const QGuiApplication app(argc, argv);
+    QGuiApplication::setOrganizationName(QStringLiteral("Zalento"));
+    QGuiApplication::setApplicationName(QStringLiteral("zalento-first-frame"));
+    ViewerController controller;
+    ViewerWindow window(controller);
+    if (!window.show()) {
+        return EXIT_FAILURE;
+    }
+    controller.openPaths(QGuiApplication::arguments().mid(1));
+    if (!controller.hasPicture()) {
+        return EXIT_FAILURE;
+    }
+    QObject::connect(window.window(), &QQuickWindow::frameSwapped, &app, &QCoreApplication::quit,
+                     Qt::QueuedConnection);
+    return QGuiApplication::exec();
+}
