@@ -93,6 +93,25 @@ void applyAlignment(const Session &session, ZaItem &item)
     item.setRearCircleActive(session.rearCircleActive);
 }
 
+// A click on an item that was painted since its alignment changed.
+ClickResult clickSettled(Session &session, ZaItem &item, const QPointF &pixel)
+{
+    Pipe &pipe = *pipeOf(item);
+    const std::size_t before = pipe.hitPoints.size();
+    item.mouseClick(pixel.x(), pixel.y());
+    const std::size_t after = pipe.hitPoints.size();
+    if (after == before) {
+        return ClickResult::Missed;
+    }
+    if (after < before) {
+        session.points.clear();
+    }
+    Vec3 &position = pipe.hitPoints.back().position;
+    position = withoutNegativeZero(position);
+    session.points.append({pixel, position, {}});
+    return after < before ? ClickResult::Restarted : ClickResult::Added;
+}
+
 QVector<QPointF> applyPoints(Session &session, ZaItem &item)
 {
     QVector<QPointF> missed;
@@ -102,13 +121,14 @@ QVector<QPointF> applyPoints(Session &session, ZaItem &item)
     }
     const QVector<SessionPoint> points = session.points;
     session.points.clear();
+    settle(item); // once: points do not turn the view
     for (const SessionPoint &point : points) {
         if (point.position) {
             pipe->hitPoints.emplace_back(*point.position);
             session.points += point;
             continue;
         }
-        if (clickPoint(session, item, point.pixel) == ClickResult::Missed) {
+        if (clickSettled(session, item, point.pixel) == ClickResult::Missed) {
             missed += point.pixel;
         } else {
             session.points.last().unknownFields = point.unknownFields;
@@ -171,24 +191,11 @@ QVector<QPointF> applySession(Session &session, ZaItem &item)
 
 ClickResult clickPoint(Session &session, ZaItem &item, const QPointF &pixel)
 {
-    Pipe *pipe = pipeOf(item);
-    if (!pipe || !takesPoints(session)) {
+    if (!pipeOf(item) || !takesPoints(session)) {
         return ClickResult::Missed;
     }
     settle(item);
-    const std::size_t before = pipe->hitPoints.size();
-    item.mouseClick(pixel.x(), pixel.y());
-    const std::size_t after = pipe->hitPoints.size();
-    if (after == before) {
-        return ClickResult::Missed;
-    }
-    if (after < before) {
-        session.points.clear();
-    }
-    Vec3 &position = pipe->hitPoints.back().position;
-    position = withoutNegativeZero(position);
-    session.points.append({pixel, position, {}});
-    return after < before ? ClickResult::Restarted : ClickResult::Added;
+    return clickSettled(session, item, pixel);
 }
 
 bool movePoint(Session &session, ZaItem &item, int index, const QPointF &pixel)
