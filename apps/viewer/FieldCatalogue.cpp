@@ -108,7 +108,7 @@ Field clockField()
 {
     Field field;
     field.name = QStringLiteral("clock");
-    field = with(field, QT_TRANSLATE_NOOP("Field", "Direction"), tr("o'clock"), 0.5, 2);
+    field = with(field, QT_TRANSLATE_NOOP("Field", "Direction, o'clock"), {}, 0.5, 2);
     field.largest = hoursPerTurn;
     field.get = [](const Session &s) {
         const double hours = std::fmod(s.clockDEG / degreesPerHour, hoursPerTurn);
@@ -140,7 +140,7 @@ Field scaleField()
 {
     Field field;
     field.name = QStringLiteral("mmPerPixel");
-    field = with(field, QT_TRANSLATE_NOOP("Field", "Scale"), tr("mm/px"), 0.01, 6);
+    field = with(field, QT_TRANSLATE_NOOP("Field", "Scale, mm per pixel"), {}, 0.01, 6);
     field.smallest = Apps::smallestMMPerPixel;
     field.largest = Apps::largestMMPerPixel;
     field.mayBeEmpty = true;

@@ -250,7 +250,7 @@ QString ViewerController::saveQuestion(const Document &document) const
             .arg(shortName(document.picturePath));
     }
     if (stampOf(document.picturePath) != document.pictureStamp) {
-        return tr("%1 has changed since it was opened. What you save belongs to what you see.")
+        return tr("%1 has changed since it was opened; the measurement was made before.")
             .arg(shortName(document.picturePath));
     }
     const QDateTime stamp = stampOf(document.sessionPath);

@@ -103,8 +103,8 @@ ApplicationWindow {
     ConfirmDialog {
         id: saveDialog
         objectName: "saveDialog"
-        title: qsTr("Replace the saved session?")
-        acceptText: qsTr("Replace")
+        title: qsTr("Save all the same?")
+        acceptText: qsTr("Save")
         onAccepted: if (Viewer.saveAnyway() && window.closesAfterSaving)
             unsavedDialog.saveAndLeave()
         onRejected: window.closesAfterSaving = false

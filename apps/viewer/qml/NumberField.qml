@@ -77,6 +77,8 @@ FocusScope {
                     anchors { fill: parent; rightMargin: unit.width ? unit.width + 8 : 0 }
                     focus: true
                     selectByMouse: true
+                    leftPadding: 3
+                    rightPadding: 5
                     background: null
                     color: root.problem ? Theme.error : Theme.text
                     horizontalAlignment: TextInput.AlignRight

@@ -92,6 +92,8 @@ FocusScope {
         objectName: "overlay"
         anchors.fill: parent
         visible: Viewer.hasPicture && !stage.isOverlayHidden
+        // Its lines grow with the picture: zoomed in, what lies below them shines through.
+        opacity: Math.max(0.3, Math.min(1, 2 / stageView.scale))
         item: item
         contentsScale: stageView.scale
         origin: stageView.origin

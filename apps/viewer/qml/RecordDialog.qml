@@ -27,10 +27,10 @@ ViewerDialog {
     contentItem: Column {
         spacing: 16
         Row {
-            spacing: Theme.gap
+            width: parent.width
             Text {
                 height: Theme.touch
-                width: 130
+                width: parent.width - size.width
                 verticalAlignment: Text.AlignVCenter
                 text: qsTr("Nominal size")
                 color: Theme.text

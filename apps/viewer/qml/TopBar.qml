@@ -85,7 +85,7 @@ Rectangle {
         }
         ToolKey {
             objectName: "recordKey"
-            text: qsTr("Pipe")
+            text: qsTr("Pipe size")
             hint: qsTr("Pipe record: type or load the nominal size")
             enabled: Viewer.hasPicture
             onClicked: bar.recordRequested()
@@ -119,9 +119,9 @@ Rectangle {
             Text {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                text: qsTr("%1 of %2 · %3 × %4").arg(Viewer.pictureIndex + 1)
-                      .arg(Viewer.pictureCount).arg(Viewer.pictureSize.width)
-                      .arg(Viewer.pictureSize.height)
+                text: qsTr("%1 of %2").arg(Viewer.pictureIndex + 1).arg(Viewer.pictureCount)
+                      + (Viewer.hasPicture ? qsTr(" · %1 × %2").arg(Viewer.pictureSize.width)
+                                             .arg(Viewer.pictureSize.height) : "")
                 color: Theme.quiet
                 font { family: Theme.family; pixelSize: 12 }
             }

@@ -173,6 +173,12 @@ void TestViewer::measures()
     QVERIFY2(std::abs(number(d.viewer) - expected) <= slack * expected,
              qPrintable(d.viewer.value()));
     QCOMPARE(d.text("valueText"), d.viewer.value());
+    for (const QQuickItem *item : d.visibleControls()) {
+        const auto length = [item](const char *name) { return item->property(name).toDouble(); };
+        const double room = item->width() - length("leftPadding") - length("rightPadding");
+        QVERIFY2(!item->inherits("QQuickTextField") || length("contentWidth") <= room,
+                 qPrintable(item->objectName()));
+    }
     d.screenshot(sample);
 
     d.drag(d.at(300, 320), d.at(307, 331));
@@ -323,6 +329,7 @@ void TestViewer::zoomAndPan()
     d.wheel(cursor, 6);
     QVERIFY(d.view()->scale() > 3 * fitted);
     QVERIFY((d.at(200, 150) - cursor).manhattanLength() <= 2);
+    QVERIFY(d.find("overlay")->opacity() < 0.6);
     d.screenshot("zoomed");
     const QPoint before = d.at(200, 150);
     d.drag(cursor, cursor + QPoint(50, -30), Qt::MiddleButton);
@@ -335,6 +342,7 @@ void TestViewer::zoomAndPan()
     QCOMPARE(d.view()->scale(), 1.0);
     d.key(Qt::Key_0, Qt::ControlModifier);
     QCOMPARE(d.view()->scale(), fitted);
+    QCOMPARE(d.find("overlay")->opacity(), 1.0);
     d.clickItem("panKey");
     d.wheel(cursor, 3);
     d.drag(d.at(200, 150), d.at(210, 150));
