@@ -1,4 +1,5 @@
 #include "PictureFiles.h"
+#include "RunProgram.h"
 
 #include "measure/CommandLine.h"
 #include "session/SessionJson.h"
@@ -12,11 +13,6 @@ using namespace Drevon::Zalento::Apps;
 using namespace Drevon::Zalento::Test;
 
 namespace {
-
-QStringList words(const char *line)
-{
-    return QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
 
 Session appliedTo(const Session &session, const char *line)
 {
@@ -40,7 +36,6 @@ private slots:
     void understandsWhatToDo();
     void optionsReachTheSession();
     void whatIsLeftOutStays();
-    void laserSpotsAreTwoWordsOrOne_data();
     void laserSpotsAreTwoWordsOrOne();
     void helpAndManualNameEveryOption();
     void examplesAreUnderstood();
@@ -118,29 +113,19 @@ void TestCommandLine::understandsWhatToDo()
 
 void TestCommandLine::optionsReachTheSession()
 {
-    Session expected;
-    expected.kind = QStringLiteral("BendAngle");
-    expected.diameterMM = 217.5;
-    expected.fovYDEG = 40.25;
-    expected.cameraHeightPercent = 30;
-    expected.offset = -12.5;
-    expected.rollDEG = -5;
-    expected.percentage = 45;
-    expected.angleDEG = 60;
-    expected.rearCircleX = -3.5;
-    expected.rearCircleY = 4;
-    expected.rearCircleActive = true;
-    expected.clockDEG = -90;
-    expected.viewDownstream = false;
-    expected.jointShown = true;
-    expected.viewStyle = ViewStyle::MeasureOnly;
-    expected.unit = MeasureUnit::Imperial;
-    const Session changed = appliedTo(
+    const Session bend = appliedTo(
         Session(), "measure --kind BendAngle --diameter 217.5 --fov 40.25 --camera-height 30 "
                    "--offset -12.5 --roll -5 --percentage 45 --angle 60 --rear-circle -3.5,4 "
                    "--rear-circle-active --clock -90 --direction upstream --joint "
                    "--view-style measure --unit imperial a");
-    QCOMPARE(sessionToJson(changed), sessionToJson(expected));
+    QString problem;
+    const auto expected = sessionFromJson(R"({"schema": "zalento-session 1.0",
+        "kind": "BendAngle", "diameterMM": 217.5, "fovYDEG": 40.25, "cameraHeightPercent": 30,
+        "offset": -12.5, "rollDEG": -5, "percentage": 45, "angleDEG": 60, "rearCircleX": -3.5,
+        "rearCircleY": 4, "rearCircleActive": true, "clockDEG": -90, "direction": "upstream",
+        "jointShown": true, "viewStyle": "measure", "unit": "imperial"})",
+                                          problem);
+    QCOMPARE(sessionToJson(bend), sessionToJson(expected.value()));
 
     const Session crack = appliedTo(
         Session(), "measure --kind CrackWidth --mm-per-pixel 0.25 --click 1.5,2 --click=-3,4 a");
@@ -167,23 +152,18 @@ void TestCommandLine::whatIsLeftOutStays()
     QVERIFY(appliedTo(session, "measure --kind PipeDimension a").points.isEmpty());
 }
 
-void TestCommandLine::laserSpotsAreTwoWordsOrOne_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    const QString one = QStringLiteral("1.5,2 30,4");
-    QTest::newRow("two words") << words("measure --laser 1.5,2 30,4 a.png");
-    QTest::newRow("one word") << QStringList{"measure", "--laser", one, "a.png"};
-    QTest::newRow("with =") << QStringList{"measure", "a.png", "--laser=" + one};
-    QTest::newRow("last") << words("measure a.png --laser 1.5,2 30,4");
-}
-
 void TestCommandLine::laserSpotsAreTwoWordsOrOne()
 {
-    QFETCH(QStringList, arguments);
-    const auto outcome = parseCommandLine(arguments);
-    QVERIFY2(outcome.command, qPrintable(outcome.text));
-    QCOMPARE(outcome.command->inputs, QStringList{"a.png"});
-    QCOMPARE(outcome.command->session.laserSpots, (QVector<QPointF>{{1.5, 2}, {30, 4}}));
+    const QString one = QStringLiteral("1.5,2 30,4");
+    for (const QStringList &arguments :
+         {words("measure --laser 1.5,2 30,4 a.png"), words("measure a.png --laser 1.5,2 30,4"),
+          QStringList{"measure", "--laser", one, "a.png"},
+          QStringList{"measure", "a.png", "--laser=" + one}}) {
+        const auto outcome = parseCommandLine(arguments);
+        QVERIFY2(outcome.command, qPrintable(outcome.text));
+        QCOMPARE(outcome.command->inputs, QStringList{"a.png"});
+        QCOMPARE(outcome.command->session.laserSpots, (QVector<QPointF>{{1.5, 2}, {30, 4}}));
+    }
 }
 
 void TestCommandLine::helpAndManualNameEveryOption()

@@ -1,16 +1,12 @@
 #include "PictureFiles.h"
+#include "RunProgram.h"
 
-#include "measure/Run.h"
 #include "session/MeasuredValues.h"
 #include "session/SessionFile.h"
 #include "session/SessionItem.h"
 #include "support/TestCase.h"
 #include "support/Tolerances.h"
 
-#include <QBuffer>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -19,36 +15,6 @@ using namespace Drevon::Zalento::Apps;
 using namespace Drevon::Zalento::Test;
 
 namespace {
-
-struct Outcome
-{
-    int code;
-    QByteArray output;
-    QByteArray messages;
-};
-
-Outcome runProgram(const QStringList &arguments, const QByteArray &list = {})
-{
-    QBuffer input;
-    input.setData(list);
-    input.open(QIODevice::ReadOnly);
-    QBuffer output;
-    output.open(QIODevice::WriteOnly);
-    QBuffer messages;
-    messages.open(QIODevice::WriteOnly);
-    const int code = run(arguments, input, output, messages);
-    return {code, output.data(), messages.data()};
-}
-
-QStringList words(const char *line)
-{
-    return QString::fromLatin1(line).split(QLatin1Char(' '));
-}
-
-QJsonArray valuesOf(const Outcome &outcome)
-{
-    return QJsonDocument::fromJson(outcome.output).object()["values"].toArray();
-}
 
 const QStringList water{"measure", "--kind", "WaterLevel", "--percentage", "12.5"};
 
@@ -115,9 +81,6 @@ void TestMeasure::printsEveryFormat_data()
 {
     QTest::addColumn<QString>("format");
     QTest::addColumn<QByteArray>("expected"); // HASH stands for the picture's
-    QTest::newRow("text") << "text"
-                          << QByteArray("a.png: waterLevel 13 % (12.5 %)\n"
-                                        "none.png: failed: none.png: there is no such file\n");
     QTest::newRow("csv") << "csv"
                          << QByteArray("picture,kind,status,name,number,unit,text,message\n"
                                        "a.png,WaterLevel,measured,waterLevel,12.5,%,13 %,\n"
@@ -289,12 +252,12 @@ void TestMeasure::savedSessionMeasuresTheSame()
     ZaItem item;
     layOutItem(item, QSize(64, 48));
     applySession(*session, item);
-    COMPARE_EXACT(valuesOf(first)[0].toObject()["number"].toDouble(),
+    COMPARE_EXACT(valuesOf(first.output)[0].toObject()["number"].toDouble(),
                   measure(item).values[0].number);
     // Points have their place in the scene: the alignment does not change what was measured.
     for (const char *line : {"measure --format jsonl a.png.zalento.json",
                              "measure --format jsonl --session a.png.zalento.json --roll 90"}) {
-        QCOMPARE(valuesOf(runProgram(words(line))), valuesOf(first));
+        QCOMPARE(valuesOf(runProgram(words(line)).output), valuesOf(first.output));
     }
 }
 

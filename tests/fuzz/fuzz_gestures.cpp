@@ -218,7 +218,8 @@ void checkMeasures(ZaItem &item)
 {
     const Pipe &pipe = pipeOf(item);
     bool isMeasurable = isRegular(pipe) && !pipe.hitPoints.empty() && item.viewObject() == 0 &&
-                        isBetween(pipe.laserScale, -1e6, 1e6);
+                        isBetween(pipe.laserScale, -1e6, 1e6) &&
+                        std::isfinite(pipe.cylinder.waterLevelPercent);
     for (const HitPoint &point : pipe.hitPoints) {
         isMeasurable = isMeasurable && isRegular(point.position);
     }
