@@ -11,6 +11,8 @@
 
 #include <QDir>
 #include <QFileDevice>
+#include <QFont>
+#include <QFontMetrics>
 
 #include <algorithm>
 
@@ -127,6 +129,13 @@ QVector<PictureRequest> requestsOf(const CommandLine &command, const QStringList
     return requests;
 }
 
+void warnWithoutFonts(const CommandLine &command, Console &console)
+{
+    if (command.writesPng && !QFontMetrics(QFont()).inFont(QLatin1Char('0'))) {
+        console.say(QStringLiteral("warning: there is no font: the overlays have no labels"));
+    }
+}
+
 void tell(const PictureResult &result, bool isRender, Console &console)
 {
     const auto about = [&result](const QString &message) {
@@ -204,6 +213,7 @@ ExitCode run(const QStringList &arguments, QIODevice &input, QIODevice &output, 
     if (requests.isEmpty()) {
         console.fail(SomeNotMeasured, QStringLiteral("the list holds no picture"));
     }
+    warnWithoutFonts(command, console);
     measureAll(command, session, requests, console);
     return console.exitCode();
 }

@@ -91,6 +91,7 @@ class TestMeasureProgram : public TestCase
 private slots:
     void surroundingsChangeNothing_data();
     void surroundingsChangeNothing();
+    void warnsOfMissingFonts();
     void failedSavesKeepTheOldFiles_data();
     void failedSavesKeepTheOldFiles();
     void killedSaveKeepsTheOldSession();
@@ -126,6 +127,20 @@ void TestMeasureProgram::surroundingsChangeNothing()
     QCOMPARE(outcome.messages.count('\n'), 2);
     QCOMPARE(outcome.messages.count("zalento-measure: wrote "), 2);
     QCOMPARE(folderState(dir.path()), files);
+}
+
+void TestMeasureProgram::warnsOfMissingFonts()
+{
+    const QTemporaryDir dir;
+    const QString fonts = dir.filePath(QStringLiteral("fonts.conf"));
+    QVERIFY(writeBytes(fonts, "<fontconfig></fontconfig>"));
+    const QString picture = dir.filePath(QStringLiteral("a.png"));
+    QVERIFY(greyPicture(QSize(64, 48)).save(picture));
+    const Outcome outcome =
+        start(water + QStringList{"--overlay", "png", picture}, {"FONTCONFIG_FILE=" + fonts});
+    QCOMPARE(outcome.code, 0);
+    QVERIFY2(outcome.messages.startsWith("zalento-measure: warning: there is no font"),
+             outcome.messages);
 }
 
 void TestMeasureProgram::failedSavesKeepTheOldFiles_data()
