@@ -16,75 +16,15 @@ namespace {
 constexpr int mostArguments = 16;
 constexpr int longestRaw = 12;
 
-const char *const words[] = {"measure",
-                             "render",
-                             "kinds",
-                             "--kind",
-                             "--diameter",
-                             "--fov",
-                             "--camera-height",
-                             "--offset",
-                             "--roll",
-                             "--percentage",
-                             "--angle",
-                             "--rear-circle",
-                             "--rear-circle-active",
-                             "--clock",
-                             "--direction",
-                             "--joint",
-                             "--view-style",
-                             "--unit",
-                             "--click",
-                             "--mm-per-pixel",
-                             "--laser",
-                             "--calibration",
-                             "--session",
-                             "--no-session",
-                             "--save-session",
-                             "--recursive",
-                             "--format",
-                             "--overlay",
-                             "--output",
-                             "--force",
-                             "--help",
-                             "-h",
-                             "--version",
-                             "-v",
-                             "--",
-                             "-",
-                             "CrackWidth",
-                             "PipeDimension",
-                             "WaterLevel",
-                             "BranchAngle",
-                             "BendAngle",
-                             "CrossSection",
-                             "metric",
-                             "imperial",
-                             "downstream",
-                             "upstream",
-                             "measure",
-                             "ends",
-                             "full",
-                             "text",
-                             "json",
-                             "jsonl",
-                             "csv",
-                             "png",
-                             "svg",
-                             "both",
-                             "a.jpg",
-                             "1,2",
-                             "1e3,-2.5",
-                             "1,2 3,4",
-                             "nan,1",
-                             "0",
-                             "30",
-                             "-45",
-                             "90.5",
-                             "1e400",
-                             "12,5",
-                             ""};
-constexpr int wordCount = sizeof words / sizeof *words;
+// What the program knows, and what it could be given. The corpus numbers them: new ones go last.
+const char *const words =
+    "measure|render|kinds|--kind|--diameter|--fov|--camera-height|--offset|--roll|"
+    "--percentage|--angle|--rear-circle|--rear-circle-active|--clock|--direction|--joint|"
+    "--view-style|--unit|--click|--mm-per-pixel|--laser|--calibration|--session|"
+    "--no-session|--save-session|--recursive|--format|--overlay|--output|--force|--help|"
+    "-h|--version|-v|--|-|CrackWidth|PipeDimension|WaterLevel|BranchAngle|BendAngle|"
+    "CrossSection|metric|imperial|downstream|upstream|measure|ends|full|text|json|jsonl|"
+    "csv|png|svg|both|a.jpg|1,2|1e3,-2.5|1,2 3,4|nan,1|0|30|-45|90.5|1e400|12,5|";
 
 bool hasWarned = false;
 
@@ -99,15 +39,15 @@ QString takeRaw(FuzzInput &input)
 
 QString takeArgument(FuzzInput &input)
 {
-    const int which = input.choice(wordCount + 4);
-    if (which < wordCount) {
-        return QString::fromLatin1(words[which]);
+    static const QStringList known = QString::fromLatin1(words).split(QLatin1Char('|'));
+    const int which = input.choice(known.size() + 4);
+    if (which < known.size()) {
+        return known[which];
     }
-    if (which == wordCount) {
-        return QString::fromLatin1(words[input.choice(wordCount)]) + QLatin1Char('=') +
-               takeRaw(input);
+    if (which == known.size()) {
+        return known[input.choice(known.size())] + QLatin1Char('=') + takeRaw(input);
     }
-    return which == wordCount + 1 ? QString::number(input.takeDouble()) : takeRaw(input);
+    return which == known.size() + 1 ? QString::number(input.takeDouble()) : takeRaw(input);
 }
 
 QStringList takeArguments(FuzzInput &input)

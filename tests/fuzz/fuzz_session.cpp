@@ -18,42 +18,26 @@ constexpr int mostFields = 12;
 constexpr int mostDepth = 4;
 const QSize smallPicture(48, 48);
 
-const char *const names[] = {"picture",       "path",        "size",
-                             "sha256",        "kind",        "unit",
-                             "diameterMM",    "offset",      "rollDEG",
-                             "fovYDEG",       "direction",   "viewStyle",
-                             "rearCircleX",   "rearCircleY", "rearCircleActive",
-                             "percentage",    "angleDEG",    "clockDEG",
-                             "jointShown",    "calibration", "mmPerPixel",
-                             "points",        "pixel",       "position",
-                             "schema",        "note",        "cameraHeightPercent",
-                             "schema\xc3\xa4"};
-const char *const texts[] = {"CrackWidth",
-                             "PipeDimension",
-                             "WaterLevel",
-                             "BranchAngle",
-                             "BendAngle",
-                             "CrossSection",
-                             "metric",
-                             "imperial",
-                             "downstream",
-                             "upstream",
-                             "measure",
-                             "ends",
-                             "full",
-                             "LASER;;;50",
-                             "150;1;1\n",
-                             "../pipe.jpg",
-                             "",
-                             "zalento-session 1.0",
-                             "zalento-session 1.9",
-                             "zalento-session 2.0",
-                             "0123456789abcdef0123456789abcdef0123456789abcdef0123456789abcdef"};
+// The corpus numbers these: new ones go last.
+const char *const names =
+    "picture|path|size|sha256|kind|unit|diameterMM|offset|rollDEG|fovYDEG|direction|"
+    "viewStyle|rearCircleX|rearCircleY|rearCircleActive|percentage|angleDEG|clockDEG|"
+    "jointShown|calibration|mmPerPixel|points|pixel|position|schema|note|"
+    "cameraHeightPercent|schema\xc3\xa4";
+const char *const texts =
+    "CrackWidth|PipeDimension|WaterLevel|BranchAngle|BendAngle|CrossSection|metric|"
+    "imperial|downstream|upstream|measure|ends|full|LASER;;;50|150;1;1\n|../pipe.jpg||"
+    "zalento-session 1.0|zalento-session 1.9|zalento-session 2.0|"
+    "0123456789abcdef0123456789abcdef0123456789abcdef0123456789abcdef";
 
-template <std::size_t count>
-QString oneOf(const char *const (&table)[count], FuzzInput &input)
+QStringList listOf(const char *words)
 {
-    return QString::fromUtf8(table[input.choice(count)]);
+    return QString::fromUtf8(words).split(QLatin1Char('|'));
+}
+
+QString oneOf(const QStringList &list, FuzzInput &input)
+{
+    return list[input.choice(list.size())];
 }
 
 QJsonValue takeValue(FuzzInput &input, int depth);
@@ -69,9 +53,10 @@ QJsonArray takeList(FuzzInput &input, int depth)
 
 QJsonObject takeObject(FuzzInput &input, int depth)
 {
+    static const QStringList known = listOf(names);
     QJsonObject object;
     for (int count = input.choice(mostFields); count > 0 && !input.isEmpty(); --count) {
-        const QString name = oneOf(names, input);
+        const QString name = oneOf(known, input);
         object.insert(name, takeValue(input, depth + 1));
     }
     return object;
@@ -79,6 +64,7 @@ QJsonObject takeObject(FuzzInput &input, int depth)
 
 QJsonValue takeValue(FuzzInput &input, int depth)
 {
+    static const QStringList known = listOf(texts);
     switch (depth < mostDepth ? input.choice(9) : input.choice(5)) {
     case 0:
         return QJsonValue(QJsonValue::Null);
@@ -87,7 +73,7 @@ QJsonValue takeValue(FuzzInput &input, int depth)
     case 2:
         return input.takeInt();
     case 3:
-        return oneOf(texts, input);
+        return oneOf(known, input);
     case 4:
         return input.takeDouble();
     case 5:
@@ -124,14 +110,16 @@ bool isOfNewerMajor(const QJsonObject &object)
     return schema.size() < 25 && newer.match(schema).hasMatch();
 }
 
-// Every field of the file is one that the program writes, or is kept.
+// Every field of the file is one that the program writes, or is kept as it is.
 void checkNothingIsLost(const QJsonObject &read, const QJsonObject &written)
 {
+    static const QJsonObject known = QJsonDocument::fromJson(sessionToJson(Session())).object();
     for (auto field = read.begin(); field != read.end(); ++field) {
-        FUZZ_VERIFY(written.contains(field.key()));
+        const bool isOwn =
+            known.contains(field.key()) || field.key() == QLatin1String("mmPerPixel");
+        FUZZ_VERIFY(isOwn ? written.contains(field.key())
+                          : written.value(field.key()) == field.value());
     }
-    const QLatin1String note("note");
-    FUZZ_VERIFY(read.value(note) == written.value(note));
 }
 
 void checkWrittenAgain(const Session &session, const QByteArray &read)
