@@ -3,7 +3,7 @@
 
 #include <QByteArrayList>
 #include <QCommandLineParser>
-#include <QFontDatabase>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QOpenGLContext>
 #include <QQuickWindow>
@@ -74,8 +74,10 @@ int main(int argc, char *argv[])
                                  QStringLiteral("[files...]"));
     parser.process(app);
 
-    if (QFontDatabase().families().isEmpty()) {
-        std::fputs("zalento-viewer: no font is installed; texts cannot be shown\n", stderr);
+    if (!QFontMetrics(QFont()).inFont(QLatin1Char('0'))) {
+        std::fputs("zalento-viewer: there is no font, so texts are not shown; "
+                   "install one, for example fonts-dejavu-core\n",
+                   stderr);
     }
     chooseRenderer();
     ViewerController controller;
