@@ -78,215 +78,183 @@ class TestIntersection : public TestCase
     Q_OBJECT
 
 private slots:
-    void curveMatchesClosedForm_data();
-    void curveMatchesClosedForm();
-    void curveOfShortBranchStaysAtItsEnd();
-    void holeEndsOnBranchWall_data();
-    void holeEndsOnBranchWall();
-    void secondCallTouchesNothing();
-    void singleRingIsNotCut();
-    void searchesEnd_data();
-    void searchesEnd();
-    void branchThatIsNotFiniteCutsNothing_data();
-    void branchThatIsNotFiniteCutsNothing();
+    void curveMatchesClosedForm_data()
+    {
+        QTest::addColumn<double>("angleDeg");
+        for (int angle = 30; angle <= 150; angle += 5)
+            QTest::addRow("%d degrees", angle) << double(angle);
+    }
+
+    void curveMatchesClosedForm()
+    {
+        QFETCH(double, angleDeg);
+        int shares = 0;
+        for (int percent = 1; percent <= 99; ++percent) {
+            const Joint joint(percent / 100.0, angleDeg);
+            QCOMPARE(joint.main.intersectionLine.size(), std::size_t(180));
+            std::vector<Vec3> expected;
+            double longest = 0;
+            for (int i = 0; i < 180; ++i) {
+                double depthM = 0;
+                expected.push_back(joint.curvePoint(i * pi / 90, depthM));
+                longest = std::max(longest, depthM);
+            }
+            if (joint.lastRingM() <= longest)
+                continue;
+            ++shares;
+            for (std::size_t i = 0; i < 180; ++i)
+                COMPARE_NEAR(joint.main.intersectionLine[i], expected[i], curveTolerance);
+        }
+        QVERIFY2(shares >= 75, QByteArray::number(shares).constData());
+    }
+
+    void curveOfShortBranchStaysAtItsEnd()
+    {
+        // Ten diameters of the thin branch do not reach the wall: the whole line is inside, and
+        // the search closes in on the last ring.
+        const Joint joint(0.02, 90);
+        QVERIFY(joint.lastRingM() < joint.main.radiusM / 2);
+        for (std::size_t i = 0; i < 180; ++i) {
+            COMPARE_NEAR(joint.main.intersectionLine[i], joint.branch.vertices.back()[2 * i],
+                         curveTolerance);
+        }
+    }
+
+    void holeEndsOnBranchWall_data()
+    {
+        QTest::addColumn<double>("share");
+        QTest::addColumn<double>("angleDeg");
+        QTest::addColumn<int>("cutRings");
+        // The footprint begins at the mouth and is share / sin(angle) main diameters long: the
+        // second ring is met when that is more than 1, the third one never.
+        QTest::newRow("shallow, grazed") << 0.51 << 30.0 << 1;
+        QTest::newRow("shallow, thick") << 0.999 << 30.0 << 1;
+        QTest::newRow("nearly square") << 0.99 << 75.0 << 1;
+        QTest::newRow("square, nearly as thick") << 0.999 << 90.0 << 0;
+        QTest::newRow("towards the mouth") << 0.9 << 120.0 << 1;
+    }
+
+    void holeEndsOnBranchWall()
+    {
+        QFETCH(double, share);
+        QFETCH(double, angleDeg);
+        QFETCH(int, cutRings);
+        const Joint joint(share, angleDeg);
+        Cylinder uncut(mainDiameterM);
+        uncut.createVerticesInWorldCoord(joint.branch);
+        const double spacing = mainDiameterM * std::sin(pi / 360);
+        int cut = 0;
+        for (std::size_t r = 0; r <= 10; ++r) {
+            std::vector<Vec3> expected = uncut.vertices[r];
+            const int start = joint.main.waterLevelStart[r];
+            const int end = joint.main.waterLevelEnd[r];
+            QCOMPARE(end, 360 - start);
+            if (start > 0) {
+                ++cut;
+                QVERIFY(r > 0);
+                for (const int limit : {start, end}) {
+                    const Vec3 &vertex = joint.main.vertices[r][std::size_t(limit)];
+                    const double beyond =
+                        distanceFromAxis(joint.branch, vertex) - joint.branch.radiusM;
+                    QVERIFY2(beyond >= -1e-12 && beyond <= 0.01 * spacing,
+                             QByteArray::number(beyond / spacing).constData());
+                    COMPARE_NEAR(std::hypot(vertex.x, vertex.y), joint.main.radiusM,
+                                 sceneTolerance);
+                    COMPARE_NEAR(vertex.z, expected[std::size_t(limit)].z, sceneTolerance);
+                    expected[std::size_t(limit)] = vertex;
+                }
+                for (int j = 0; j <= 360; ++j) {
+                    // The branch begins on the axis: it meets the side of positive x alone.
+                    const Vec3 &vertex = expected[std::size_t(j)];
+                    const bool inside = vertex.x > 0 && distanceFromAxis(joint.branch, vertex) <
+                                                            joint.branch.radiusM;
+                    // Around vertex 0 lies the hole, nowhere else.
+                    QCOMPARE(inside, j < start || j > end);
+                }
+            }
+            QVERIFY(joint.main.vertices[r] == expected);
+        }
+        QCOMPARE(cut, cutRings);
+    }
+
+    void secondCallTouchesNothing()
+    {
+        Joint joint(0.8, 45);
+        const Cylinder before = joint.main;
+        QVERIFY(before.waterLevelStart[1] > 0);
+        joint.build();
+        QVERIFY(isSame(joint.main, before));
+        // Even another branch waits until the grid is out of date.
+        joint.branch.angleDeg = 30;
+        joint.build();
+        QVERIFY(isSame(joint.main, before));
+        joint.main.verticesUpToDate = false;
+        joint.build();
+        QVERIFY(!isSame(joint.main, before));
+        QVERIFY(isSame(joint.main, Joint(0.8, 30).main));
+        // A single ring is not cut.
+        joint.main.verticesUpToDate = false;
+        joint.main.ringCount = 0;
+        joint.build();
+        QCOMPARE(joint.main.vertices.size(), std::size_t(1));
+        QCOMPARE(joint.main.waterLevelStart[0], 0);
+        QCOMPARE(joint.main.waterLevelEnd[0], 360);
+        QVERIFY(joint.main.intersectionLine == Joint(0.8, 30).main.intersectionLine);
+    }
+
+    void searchesEnd()
+    {
+        Cylinder wall(0.5);
+        wall.createVerticesInWorldCoord(MeasureMode::NoMeasure);
+        const Vec3 inside(0, 0, -1);
+        // The same point, one farther than its digits reach, and worse.
+        for (const double at :
+             {0.0, 1e20, std::numeric_limits<double>::max(), infinity, -infinity, notANumber}) {
+            for (const Vec3 &far : {Vec3(at, 0, -1), Vec3(at, at, at)}) {
+                Vec3 outside = far;
+                wall.findExactIntersection(inside, outside, wall);
+                outside = far;
+                wall.findExactIntersection(outside, outside, wall);
+                outside = far;
+                wall.findExactIntersection(inside, outside, Vec3(0.1, 0.2, -1), wall);
+                outside = Vec3(0.3, 0, -1);
+                wall.findExactIntersection(inside, outside, far, wall);
+                outside = Vec3(0.3, 0, -1);
+                wall.findExactIntersection(far, outside, inside, wall);
+            }
+        }
+    }
+
+    void branchThatIsNotFiniteCutsNothing_data()
+    {
+        QTest::addColumn<double>("mainDiameter");
+        QTest::addColumn<double>("branchDiameter");
+        QTest::addColumn<double>("angleDeg");
+        QTest::newRow("angle 0") << 0.3 << 0.15 << 0.0;
+        QTest::newRow("angle not a number") << 0.3 << 0.15 << notANumber;
+        QTest::newRow("angle infinite") << 0.3 << 0.15 << infinity;
+        QTest::newRow("branch not a number") << 0.3 << notANumber << 90.0;
+        QTest::newRow("branch infinite") << 0.3 << infinity << 90.0;
+        QTest::newRow("main pipe not a number") << notANumber << 0.15 << 90.0;
+    }
+
+    void branchThatIsNotFiniteCutsNothing()
+    {
+        QFETCH(double, mainDiameter);
+        QFETCH(double, branchDiameter);
+        QFETCH(double, angleDeg);
+        Joint joint(0.8, 45);
+        joint.main.setDiameterM(mainDiameter);
+        joint.branch.setDiameterM(branchDiameter);
+        joint.branch.angleDeg = angleDeg;
+        joint.build();
+        QVERIFY(joint.main.verticesUpToDate);
+        QCOMPARE(joint.main.waterLevelStart, std::vector<int>(joint.main.vertices.size(), 0));
+        QCOMPARE(joint.main.waterLevelEnd, std::vector<int>(joint.main.vertices.size(), 360));
+        if (!std::isnan(mainDiameter))
+            QVERIFY(joint.main.intersectionLine.empty());
+    }
 };
-
-void TestIntersection::curveMatchesClosedForm_data()
-{
-    QTest::addColumn<double>("angleDeg");
-    for (int angle = 30; angle <= 150; angle += 5) {
-        QTest::addRow("%d degrees", angle) << double(angle);
-    }
-}
-
-void TestIntersection::curveMatchesClosedForm()
-{
-    QFETCH(double, angleDeg);
-    int shares = 0;
-    for (int percent = 1; percent <= 99; ++percent) {
-        const Joint joint(percent / 100.0, angleDeg);
-        QCOMPARE(joint.main.intersectionLine.size(), std::size_t(180));
-        double longest = 0;
-        double depthM = 0;
-        for (int i = 0; i < 180; ++i) {
-            joint.curvePoint(i * pi / 90, depthM);
-            longest = std::max(longest, depthM);
-        }
-        if (joint.lastRingM() <= longest) {
-            continue;
-        }
-        ++shares;
-        for (int i = 0; i < 180; ++i) {
-            COMPARE_NEAR(joint.main.intersectionLine[std::size_t(i)],
-                         joint.curvePoint(i * pi / 90, depthM), curveTolerance);
-        }
-    }
-    QVERIFY2(shares >= 75, QByteArray::number(shares).constData());
-}
-
-void TestIntersection::curveOfShortBranchStaysAtItsEnd()
-{
-    // Ten diameters of the thin branch do not reach the wall: the whole line is inside, and the
-    // search closes in on the last ring.
-    const Joint joint(0.02, 90);
-    QVERIFY(joint.lastRingM() < joint.main.radiusM / 2);
-    for (std::size_t i = 0; i < 180; ++i) {
-        COMPARE_NEAR(joint.main.intersectionLine[i], joint.branch.vertices.back()[2 * i],
-                     curveTolerance);
-    }
-}
-
-void TestIntersection::holeEndsOnBranchWall_data()
-{
-    QTest::addColumn<double>("share");
-    QTest::addColumn<double>("angleDeg");
-    QTest::addColumn<int>("cutRings");
-    // The footprint begins at the mouth and is share / sin(angle) main diameters long: the second
-    // ring is met when that is more than 1, the third one never.
-    QTest::newRow("shallow, grazed") << 0.51 << 30.0 << 1;
-    QTest::newRow("shallow, thick") << 0.999 << 30.0 << 1;
-    QTest::newRow("45 degrees") << 0.8 << 45.0 << 1;
-    QTest::newRow("nearly square") << 0.99 << 75.0 << 1;
-    QTest::newRow("square") << 0.5 << 90.0 << 0;
-    QTest::newRow("square, nearly as thick") << 0.999 << 90.0 << 0;
-    QTest::newRow("towards the mouth") << 0.9 << 120.0 << 1;
-}
-
-void TestIntersection::holeEndsOnBranchWall()
-{
-    QFETCH(double, share);
-    QFETCH(double, angleDeg);
-    QFETCH(int, cutRings);
-    const Joint joint(share, angleDeg);
-    Cylinder uncut(mainDiameterM);
-    uncut.createVerticesInWorldCoord(joint.branch);
-    const double spacing = mainDiameterM * std::sin(pi / 360);
-    int cut = 0;
-    for (std::size_t r = 0; r <= 10; ++r) {
-        const std::vector<Vec3> &ring = joint.main.vertices[r];
-        std::vector<Vec3> expected = uncut.vertices[r];
-        const int start = joint.main.waterLevelStart[r];
-        const int end = joint.main.waterLevelEnd[r];
-        QCOMPARE(end, 360 - start);
-        if (start > 0) {
-            ++cut;
-            QVERIFY(r > 0);
-            for (const int limit : {start, end}) {
-                const Vec3 &vertex = ring[std::size_t(limit)];
-                const double beyond = distanceFromAxis(joint.branch, vertex) - joint.branch.radiusM;
-                QVERIFY2(beyond >= -1e-12 && beyond <= 0.01 * spacing,
-                         QByteArray::number(beyond / spacing).constData());
-                COMPARE_NEAR(std::hypot(vertex.x, vertex.y), joint.main.radiusM, sceneTolerance);
-                COMPARE_NEAR(vertex.z, expected[std::size_t(limit)].z, sceneTolerance);
-                expected[std::size_t(limit)] = vertex;
-            }
-            for (int j = 0; j <= 360; ++j) {
-                // The branch begins on the axis: it meets the side of positive x alone.
-                const Vec3 &vertex = expected[std::size_t(j)];
-                const bool inside =
-                    vertex.x > 0 && distanceFromAxis(joint.branch, vertex) < joint.branch.radiusM;
-                // Around vertex 0 lies the hole, nowhere else.
-                QCOMPARE(inside, j < start || j > end);
-            }
-        }
-        QVERIFY(ring == expected);
-    }
-    QCOMPARE(cut, cutRings);
-}
-
-void TestIntersection::secondCallTouchesNothing()
-{
-    Joint joint(0.8, 45);
-    const Cylinder before = joint.main;
-    QVERIFY(before.waterLevelStart[1] > 0);
-    joint.build();
-    QVERIFY(isSame(joint.main, before));
-    // Even another branch waits until the grid is out of date.
-    joint.branch.angleDeg = 30;
-    joint.build();
-    QVERIFY(isSame(joint.main, before));
-    joint.main.verticesUpToDate = false;
-    joint.build();
-    QVERIFY(!isSame(joint.main, before));
-    QVERIFY(isSame(joint.main, Joint(0.8, 30).main));
-}
-
-void TestIntersection::singleRingIsNotCut()
-{
-    Joint joint(0.8, 45);
-    const std::vector<Vec3> curve = joint.main.intersectionLine;
-    joint.main.verticesUpToDate = false;
-    joint.main.ringCount = 0;
-    joint.build();
-    QCOMPARE(joint.main.vertices.size(), std::size_t(1));
-    QCOMPARE(joint.main.waterLevelStart[0], 0);
-    QCOMPARE(joint.main.waterLevelEnd[0], 360);
-    QVERIFY(joint.main.intersectionLine == curve);
-}
-
-void TestIntersection::searchesEnd_data()
-{
-    QTest::addColumn<double>("start");
-    QTest::newRow("same point") << 0.0;
-    QTest::newRow("farther than its digits reach") << 1e20;
-    QTest::newRow("largest number") << std::numeric_limits<double>::max();
-    QTest::newRow("infinite") << infinity;
-    QTest::newRow("negative infinite") << -infinity;
-    QTest::newRow("not a number") << notANumber;
-}
-
-void TestIntersection::searchesEnd()
-{
-    QFETCH(double, start);
-    Cylinder wall(0.5);
-    wall.createVerticesInWorldCoord(MeasureMode::NoMeasure);
-    const Vec3 inside(0, 0, -1);
-    for (const Vec3 &far : {Vec3(start, 0, -1), Vec3(start, start, start)}) {
-        Vec3 outside = far;
-        wall.findExactIntersection(inside, outside, wall);
-        outside = far;
-        wall.findExactIntersection(outside, outside, wall);
-        outside = far;
-        wall.findExactIntersection(inside, outside, Vec3(0.1, 0.2, -1), wall);
-        outside = Vec3(0.3, 0, -1);
-        wall.findExactIntersection(inside, outside, far, wall);
-        outside = Vec3(0.3, 0, -1);
-        wall.findExactIntersection(far, outside, inside, wall);
-    }
-}
-
-void TestIntersection::branchThatIsNotFiniteCutsNothing_data()
-{
-    QTest::addColumn<double>("mainDiameter");
-    QTest::addColumn<double>("branchDiameter");
-    QTest::addColumn<double>("angleDeg");
-    QTest::newRow("angle 0") << 0.3 << 0.15 << 0.0;
-    QTest::newRow("angle not a number") << 0.3 << 0.15 << notANumber;
-    QTest::newRow("angle infinite") << 0.3 << 0.15 << infinity;
-    QTest::newRow("branch not a number") << 0.3 << notANumber << 90.0;
-    QTest::newRow("branch infinite") << 0.3 << infinity << 90.0;
-    QTest::newRow("main pipe not a number") << notANumber << 0.15 << 90.0;
-}
-
-void TestIntersection::branchThatIsNotFiniteCutsNothing()
-{
-    QFETCH(double, mainDiameter);
-    QFETCH(double, branchDiameter);
-    QFETCH(double, angleDeg);
-    Joint joint(0.8, 45);
-    joint.main.setDiameterM(mainDiameter);
-    joint.branch.setDiameterM(branchDiameter);
-    joint.branch.angleDeg = angleDeg;
-    joint.build();
-    QVERIFY(joint.main.verticesUpToDate);
-    for (std::size_t r = 0; r < joint.main.vertices.size(); ++r) {
-        QCOMPARE(joint.main.waterLevelStart[r], 0);
-        QCOMPARE(joint.main.waterLevelEnd[r], 360);
-    }
-    if (!std::isnan(mainDiameter)) {
-        QVERIFY(joint.main.intersectionLine.empty());
-    }
-}
 
 QTEST_GUILESS_MAIN(TestIntersection)
 #include "tst_intersection.moc"

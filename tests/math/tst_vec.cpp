@@ -127,9 +127,9 @@ private slots:
         QTest::addColumn<Vec2>("vector");
         QTest::addColumn<bool>("isZero");
         QTest::addColumn<Vec2>("expected");
-        const double reciprocal = 1 / std::sqrt(5.0 * 7 * 7);
+        const double reciprocal = 1 / std::sqrt(45.0);
         QTest::newRow("by the reciprocal")
-            << Vec2(7, 14) << false << Vec2(7 * reciprocal, 14 * reciprocal);
+            << Vec2(3, 6) << false << Vec2(3 * reciprocal, 6 * reciprocal);
         QTest::newRow("just long enough") << Vec2(1.1e-12, 0) << false << Vec2(1, 0);
         QTest::newRow("just too short") << Vec2(0, 0.9e-12) << true << Vec2(0, 0.9e-12);
         QTest::newRow("NaN") << Vec2(notANumber, 1) << false << Vec2(notANumber, notANumber);

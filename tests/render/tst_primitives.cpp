@@ -81,7 +81,7 @@ private slots:
             QTest::newRow(name) << paint << expected;
         };
         const QColor c(Qt::red);
-        const Points corner{{10, 20, 0}, {30.5, 20, 0}, {30.5, -1.5, 0}};
+        const Points corner{{10, 20, 0}, {30.5, 20, 0}, {30.5, -1.75, 0}};
         const Points crossing{
             {50, 50, 0}, {60.5, 50, 0}, {140.5, 50, 0}, {140.5, 60, 0}, {60.5, 60, 0}};
         // clang-format off
@@ -94,7 +94,7 @@ private slots:
                 gl.renderLines(p, c, 2.5, corner, true);
             }, {"EllipseFloat (7, 17) (6, 6) red 2.5",
                 "LinesFloat (10, 20) (30.5, 20) red 2.5", "EllipseFloat (9, 19) (2, 2) red 2.5",
-                "LinesFloat (30.5, 20) (30.5, -1.5) red 2.5",
+                "LinesFloat (30.5, 20) (30.5, -1.75) red 2.5",
                 "EllipseFloat (29.5, 19) (2, 2) red 2.5", "red 2.5"});
         row("lines without marks", [=](QPainter &p, const MiniGL &gl) {
                 gl.renderLines(p, c, 2.5, {corner[0], corner[1]}, false);
@@ -105,9 +105,9 @@ private slots:
             }, {"red 2.5"});
         row("curve, closed, with marks", [=](QPainter &p, const MiniGL &gl) {
                 gl.renderCurve(p, c, 2.5, corner, true);
-            }, {"PolylineFloat (10, 20) (30.5, 20) (30.5, -1.5) (10, 20) red 2.5",
+            }, {"PolylineFloat (10, 20) (30.5, 20) (30.5, -1.75) (10, 20) red 2.5",
                 "EllipseFloat (8, 18) (4, 4) red 1", "EllipseFloat (28.5, 18) (4, 4) red 1",
-                "EllipseFloat (28.5, -3.5) (4, 4) red 1", "EllipseFloat (8, 18) (4, 4) red 1",
+                "EllipseFloat (28.5, -3.75) (4, 4) red 1", "EllipseFloat (8, 18) (4, 4) red 1",
                 "red 1"});
         row("curve of one point", [=](QPainter &p, const MiniGL &gl) {
                 gl.renderCurve(p, c, 2.5, {corner[0]}, false);
