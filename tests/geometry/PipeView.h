@@ -39,11 +39,6 @@ struct PipeView
         return result;
     }
 
-    /** Pixels per unit of the tangent, the same in both directions. */
-    double focalLengthPx() const { return camera.viewport.height() / (2 * tanHalfFov()); }
-
-    double tanHalfFov() const { return std::tan(camera.fovYDEG * std::acos(-1.0) / 360); }
-
     /** From the eye to the far side of what the pixel's centre shows; depth along the view is 1. */
     Vec3 visibleDirection(QPoint pixel) const
     {
@@ -52,8 +47,10 @@ struct PipeView
         Vec3 right = forward.cross(camera.up);
         right.normalize();
         const Vec3 up = right.cross(forward);
-        const double x = (pixel.x() + 0.5 - camera.viewport.width() / 2) / focalLengthPx();
-        const double y = (pixel.y() + 0.5 - camera.viewport.height() / 2) / focalLengthPx();
+        const double pixelSize =
+            2 * std::tan(camera.fovYDEG * std::acos(-1.0) / 360) / camera.viewport.height();
+        const double x = (pixel.x() + 0.5 - camera.viewport.width() / 2) * pixelSize;
+        const double y = (pixel.y() + 0.5 - camera.viewport.height() / 2) * pixelSize;
         return -(forward + x * right - y * up);
     }
 

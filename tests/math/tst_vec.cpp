@@ -50,49 +50,55 @@ private slots:
     {
         const Vec3 a(3, -5, 0.1);
         const Vec3 b(7, 11, 0.2);
-        COMPARE_EXACT(a + b, Vec3(10, 6, 0.1 + 0.2));
-        COMPARE_EXACT(a + 0.2, Vec3(3.2, -5 + 0.2, 0.1 + 0.2));
-        COMPARE_EXACT(a - b, Vec3(-4, -16, 0.1 - 0.2));
-        COMPARE_EXACT(a - 0.2, Vec3(2.8, -5.2, 0.1 - 0.2));
-        COMPARE_EXACT(a * 0.3, Vec3(3 * 0.3, -5 * 0.3, 0.1 * 0.3));
-        COMPARE_EXACT(0.3 * a, a * 0.3);
-        COMPARE_EXACT(-a, Vec3(-3, 5, -0.1));
-        COMPARE_EXACT(a.cross(b), Vec3(-5 * 0.2 - 0.1 * 11, 0.1 * 7 - 3 * 0.2, 33 + 35));
+        const Vec3 sum(10, 6, 0.1 + 0.2);
+        const Vec3 cross(-5 * 0.2 - 0.1 * 11, 0.1 * 7 - 3 * 0.2, 33 + 35);
+        const Vec3 quotient(3 / 7.0, -5 / 11.0, 0.1 / 0.2);
+        const double part = 1 / 49.0; // dividing by a number multiplies with its reciprocal
+        QVERIFY(49 * part != 1.0);
+        const auto leastOf = [](const Vec3 &v) {
+            return inPlace({1, 5, 3}, [&v](Vec3 &r) { r.setMin(v); });
+        };
+        const auto greatestOf = [](const Vec3 &v) {
+            return inPlace({1, 5, 3}, [&v](Vec3 &r) { r.setMax(v); });
+        };
+        const struct
+        {
+            const char *name;
+            Vec3 got;
+            Vec3 expected;
+        } cases[] = {
+            {"a + b", a + b, sum},
+            {"add", inPlace(a, [&](Vec3 &r) { Vec3::add(r, b, r); }), sum},
+            {"a + s", a + 0.2, {3.2, -5 + 0.2, 0.1 + 0.2}},
+            {"add s", inPlace(a, [](Vec3 &r) { Vec3::add(r, 0.2, r); }), a + 0.2},
+            {"a - b", a - b, {-4, -16, 0.1 - 0.2}},
+            {"subtract", inPlace(b, [&](Vec3 &r) { Vec3::subtract(a, r, r); }), a - b},
+            {"a - s", a - 0.2, {2.8, -5.2, 0.1 - 0.2}},
+            {"subtract s", inPlace(a, [](Vec3 &r) { Vec3::subtract(r, 0.2, r); }), a - 0.2},
+            {"s - a", inPlace(a, [](Vec3 &r) { Vec3::subtract(0.2, r, r); }), -(a - 0.2)},
+            {"a * s", a * 0.3, {3 * 0.3, -5 * 0.3, 0.1 * 0.3}},
+            {"s * a", 0.3 * a, a * 0.3},
+            {"multiply", inPlace(a, [](Vec3 &r) { Vec3::multiply(r, 0.3, r); }), a * 0.3},
+            {"a / b", inPlace(b, [&](Vec3 &r) { Vec3::divide(a, r, r); }), quotient},
+            {"a / s", Vec3(49, 98, -49) / 49, {49 * part, 98 * part, -49 * part}},
+            {"divide", inPlace(a, [](Vec3 &r) { Vec3::divide(r, 7, r); }), a / 7},
+            {"s / a", 49 / Vec3(49, 7, -98), {1, 7, -0.5}},
+            {"divide s", inPlace(a, [](Vec3 &r) { Vec3::divide(7, r, r); }), 7 / a},
+            {"a / 0", Vec3(1, -1, 0) / 0, {infinity, -infinity, notANumber}},
+            {"-a", -a, {-3, 5, -0.1}},
+            {"a x b", a.cross(b), cross},
+            {"cross", inPlace(a, [&](Vec3 &r) { Vec3::cross(r, b, r); }), cross},
+            {"cross, second", inPlace(b, [&](Vec3 &r) { Vec3::cross(a, r, r); }), cross},
+            {"min", leastOf({2, -1, notANumber}), {1, -1, 3}},
+            {"min of NaN and z", leastOf({notANumber, 6, 2}), {1, 5, 2}},
+            {"max", greatestOf({2, -1, notANumber}), {2, 5, 3}},
+        };
+        for (const auto &c : cases) {
+            const Comparison result = compareExact(c.got, c.expected);
+            QVERIFY2(result.equal, c.name + (": " + result.message));
+        }
         COMPARE_EXACT(Vec3(0.1, 0.2, 0.3).dot({1, 1, 1}), 0.1 + 0.2 + 0.3);
         COMPARE_EXACT(Vec3(0.3, 0.4, 0.7).lengthSquared(), 0.3 * 0.3 + 0.4 * 0.4 + 0.7 * 0.7);
-        COMPARE_EXACT(Vec3(1, -1, 0) / 0, Vec3(infinity, -infinity, notANumber));
-        // Dividing multiplies with the reciprocal, but dividing by a vector does not.
-        const double reciprocal = 1 / 49.0;
-        QVERIFY(49 * reciprocal != 1.0);
-        COMPARE_EXACT(Vec3(49, 98, -49) / 49,
-                      Vec3(49 * reciprocal, 98 * reciprocal, -49 * reciprocal));
-        COMPARE_EXACT(49 / Vec3(49, 7, -98), Vec3(1, 7, -0.5));
-        const auto extended = [](double v, void (Vec3::*extend)(const Vec3 &)) {
-            Vec3 result(1, 5, 3);
-            (result.*extend)({2, v, notANumber});
-            return result;
-        };
-        COMPARE_EXACT(extended(-1, &Vec3::setMin), Vec3(1, -1, 3));
-        COMPARE_EXACT(extended(-1, &Vec3::setMax), Vec3(2, 5, 3));
-    }
-
-    void writesIntoAnOperand()
-    {
-        const Vec3 a(3, -5, 0.1);
-        const Vec3 b(7, 11, 0.2);
-        COMPARE_EXACT(inPlace(a, [&](Vec3 &r) { Vec3::add(r, b, r); }), a + b);
-        COMPARE_EXACT(inPlace(a, [](Vec3 &r) { Vec3::add(r, 0.2, r); }), a + 0.2);
-        COMPARE_EXACT(inPlace(b, [&](Vec3 &r) { Vec3::subtract(a, r, r); }), a - b);
-        COMPARE_EXACT(inPlace(a, [](Vec3 &r) { Vec3::subtract(r, 0.2, r); }), a - 0.2);
-        COMPARE_EXACT(inPlace(a, [](Vec3 &r) { Vec3::subtract(0.2, r, r); }),
-                      Vec3(0.2 - 3, 5.2, 0.2 - 0.1));
-        COMPARE_EXACT(inPlace(a, [](Vec3 &r) { Vec3::multiply(r, 0.3, r); }), a * 0.3);
-        COMPARE_EXACT(inPlace(b, [&](Vec3 &r) { Vec3::divide(a, r, r); }),
-                      Vec3(3 / 7.0, -5 / 11.0, 0.1 / 0.2));
-        COMPARE_EXACT(inPlace(a, [](Vec3 &r) { Vec3::divide(r, 7, r); }), a / 7);
-        COMPARE_EXACT(inPlace(a, [](Vec3 &r) { Vec3::divide(7, r, r); }), 7 / a);
-        COMPARE_EXACT(inPlace(a, [&](Vec3 &r) { Vec3::cross(r, b, r); }), a.cross(b));
-        COMPARE_EXACT(inPlace(b, [&](Vec3 &r) { Vec3::cross(a, r, r); }), a.cross(b));
     }
 
     void normalize_data()

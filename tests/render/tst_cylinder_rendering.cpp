@@ -37,7 +37,7 @@ struct Painted
 // Kind, number of points, pen or brush; labels with their text.
 QString summaryOf(const PaintCall &call)
 {
-    const QString pen = penText(call.pen).remove(" square bevel");
+    const QString pen = penText(call.pen);
     const QString brush =
         call.brush.style() == Qt::SolidPattern ? call.brush.color().name(QColor::HexArgb) : "none";
     switch (call.kind) {

@@ -7,6 +7,8 @@
 #include "support/Tolerances.h"
 #include "zalento/settings/UnitConv.h"
 
+#include <QRegularExpression>
+
 #include <memory>
 #include <random>
 
@@ -33,17 +35,27 @@ struct Measured
     ObservableType observable = ObservableType::BendAngle;
     double measure1 = untouched;
     double measure2 = untouched;
-
-    QStringList texts() const
-    {
-        QStringList result;
-        for (const PaintCall &call : calls) {
-            if (call.kind == Kind::Text)
-                result.append(call.text);
-        }
-        return result;
-    }
 };
+
+// "line 5 2.5" with the number of points and the pen's width, "mark 6 2" with the diameter, both
+// in colour where it is not the measuring line's; "box", and the text.
+QString summaryOf(const PaintCall &call)
+{
+    const QString pen =
+        QString(" %1%2").arg(call.pen.widthF()).arg(call.pen.color() == color ? "" : " black");
+    switch (call.kind) {
+    case Kind::PolylineFloat:
+        return QString("line %1").arg(call.points.size()) + pen;
+    case Kind::EllipseInt:
+        return QString("mark %1").arg(call.points[1].x()) + pen;
+    case Kind::RectsFloat:
+        return "box";
+    case Kind::Text:
+        return call.text;
+    default:
+        return call.toString();
+    }
+}
 
 std::vector<HitPoint> hitPoints(const std::vector<Vec3> &positions)
 {
@@ -112,73 +124,7 @@ class TestMeasureLine : public TestCase
     Q_OBJECT
 
 private slots:
-    void callsInOrder_data()
-    {
-        QTest::addColumn<MeasureMode>("mode");
-        QTest::addColumn<std::vector<HitPoint>>("points");
-        QTest::addColumn<double>("laserScale");
-        QTest::addColumn<QStringList>("expected");
-        const auto row = [](const char *name, MeasureMode mode, const std::vector<HitPoint> &points,
-                            double laserScale, const QStringList &expected) {
-            QTest::newRow(name) << mode << points << laserScale << expected;
-        };
-        std::vector<HitPoint> line = hitPoints({{0, -0.15, -1}, {0.1, 0, -2}, {0, 0.15, -3}});
-        line[0].isHighlighted = true;
-        line[2].isAnchor = false;
-        const QString thin = " #d228323c 1 square bevel";
-        const QString pen = " #d228323c 2.5 flat round";
-        const QString marker = "mark 6 #d228323c 2 square bevel";
-        const QStringList label{"box none", "text" + thin};
-        const QStringList first{"mark 20" + thin, marker};
-        const QStringList open =
-            first + QStringList{"line 3" + pen, "mark 6 #ff000000 2 square bevel"};
-
-        row("closed, cross section", MeasureMode::CrossSection, closedSquare(), 0,
-            QStringList{"line 5" + pen} + label + label);
-        row("closed, free cross section", MeasureMode::FreeCrossSection, closedSquare(), 0,
-            QStringList{"line 5" + pen, marker, marker, marker, marker, marker} + label + label);
-        row("closed, on the wall", MeasureMode::PipeDimension, closedSquare(), 0,
-            QStringList{marker, "line 5" + pen, marker} + label);
-        row("open", MeasureMode::NoMeasure, line, 0, open + label);
-        row("single point", MeasureMode::CrossSection, {line[0]}, 0, first);
-        row("crack without a scale", MeasureMode::CrackWidth, line, 0, open);
-        row("crack", MeasureMode::CrackWidth, line, 0.5, open + label);
-    }
-
-    void callsInOrder()
-    {
-        QFETCH(MeasureMode, mode);
-        QFETCH(std::vector<HitPoint>, points);
-        QFETCH(double, laserScale);
-        QFETCH(QStringList, expected);
-        const PipeView view = frontView(0.3);
-        const Measured measured = measure(view, points, mode, MeasureUnit::Metric, laserScale);
-        QStringList summary;
-        for (const PaintCall &call : measured.calls) {
-            const QString pen = ' ' + penText(call.pen);
-            switch (call.kind) {
-            case Kind::PolylineFloat:
-                summary << QString("line %1").arg(call.points.size()) + pen;
-                for (int k = 0; k < call.points.size(); ++k)
-                    COMPARE_EXACT(call.points[k], points[std::size_t(k)].screenPos);
-                break;
-            case Kind::EllipseInt:
-                summary << QString("mark %1").arg(call.points[1].x()) + pen;
-                break;
-            case Kind::RectsFloat:
-                summary << "box" + pen;
-                QCOMPARE(call.brush, view.camera.textBackgroundBrush);
-                break;
-            default:
-                QCOMPARE(call.kind, Kind::Text);
-                summary << "text" + pen;
-            }
-        }
-        QCOMPARE(summary, expected);
-        QCOMPARE(penText(measured.penLeft), QString("#d228323c 2.5 flat round"));
-    }
-
-    void valuesAndTexts_data()
+    void callsAndValues_data()
     {
         QTest::addColumn<MeasureMode>("mode");
         QTest::addColumn<std::vector<HitPoint>>("points");
@@ -186,14 +132,14 @@ private slots:
         QTest::addColumn<ObservableType>("observable");
         QTest::addColumn<double>("measure1");
         QTest::addColumn<double>("measure2");
-        QTest::addColumn<QStringList>("texts"); // with a full stop, which stays one in percentages
+        QTest::addColumn<QString>("calls"); // texts with a full stop, which percentages keep
         using Mode = MeasureMode;
         using Type = ObservableType;
         const auto row = [](const char *name, Mode mode, const std::vector<HitPoint> &points,
                             MeasureUnit unit, Type observable, double measure1, double measure2,
-                            const QStringList &texts) {
+                            const QString &calls) {
             QTest::newRow(name) << mode << points << unit << observable << measure1 << measure2
-                                << texts;
+                                << calls;
         };
         constexpr MeasureUnit metric = MeasureUnit::Metric;
         constexpr MeasureUnit imperial = MeasureUnit::Imperial;
@@ -203,42 +149,52 @@ private slots:
         almostClosed[4].position.x += 1e-12;
         // There and back: the first and the last point are the same, but only two count.
         const std::vector<HitPoint> flat = hitPoints({{0, 0, -1}, {0.1, 0, -1}, {0, 0, -1}});
+        std::vector<HitPoint> line = hitPoints({{0, 0, -1}, {0.1, 0, -1}, {0.1, 0.1, -1}});
+        line[0].isHighlighted = true;
+        line[2].isAnchor = false;
         const double share = 1e4 / pipeArea;
+        const QString five = "mark 6 2, line 5 2.5, mark 6 2, box, ";
+        const QString two = "mark 6 2, line 2 2.5, mark 6 2, box, ";
 
         row("area", Mode::CrossSection, square, metric, Type::Area, 1e4, share,
-            {"100.0 cm²", "14 %"});
+            "line 5 2.5, box, 100.0 cm², box, 14 %");
         row("area in inches", Mode::CrossSection, square, imperial, Type::Area, 1e4, share,
-            {"15.5 inch²", "14 %"});
+            "line 5 2.5, box, 15.5 inch², box, 14 %");
         row("free area", Mode::FreeCrossSection, square, metric, Type::FreeAreaPercent, 1 - share,
-            untouched, {"616.3 cm²", "86 %"});
+            untouched,
+            "line 5 2.5, mark 6 2, mark 6 2, mark 6 2, mark 6 2, mark 6 2, box, 616.3 cm², box, 86 "
+            "%");
         row("polygon of two corners", Mode::CrossSection, flat, metric, Type::Area, 0, 0,
-            {"0.0 cm²", "0 %"});
+            "line 3 2.5, box, 0.0 cm², box, 0 %");
         row("the same point twice", Mode::FreeCrossSection, {flat[0], flat[2]}, metric,
-            Type::Length, 0, untouched, {"0 mm"});
+            Type::Length, 0, untouched, two + "0 mm");
         row("not quite closed", Mode::CrossSection, almostClosed, metric, Type::Length, 400,
-            untouched, {"40.0 cm"});
+            untouched, five + "40.0 cm");
         row("closed, on the wall", Mode::NoMeasure, square, metric, Type::Length, 400, untouched,
-            {"40.0 cm"});
+            five + "40.0 cm");
         row("two points with their share of the diameter", Mode::CrossSection, across, metric,
-            Type::Length, 150.2, untouched, {"15.0 cm (49.7 %)"});
+            Type::Length, 150.2, untouched, two + "15.0 cm (49.7 %)");
         row("two points in inches", Mode::CrossSection, across, imperial, Type::Length, 150.2,
-            untouched, {"5.91'' (49.7 %)"});
+            untouched, two + "5.91'' (49.7 %)");
         row("two points of a free section", Mode::FreeCrossSection, across, metric, Type::Length,
-            150.2, untouched, {"15.0 cm"});
+            150.2, untouched, two + "15.0 cm");
+        row("highlighted start, end that is no anchor", Mode::PipeDimension, line, metric,
+            Type::Length, 200, untouched,
+            "mark 20 1, mark 6 2, line 3 2.5, mark 6 2 black, box, 20.0 cm");
         row("single point", Mode::FreeCrossSection, {flat[0]}, metric, Type::NothingObserved,
-            untouched, untouched, {});
+            untouched, untouched, "mark 6 2");
         row("crack without a scale", Mode::CrackWidth, across, metric, Type::NothingObserved,
-            untouched, untouched, {});
+            untouched, untouched, "mark 6 2, line 2 2.5, mark 6 2");
     }
 
-    void valuesAndTexts()
+    void callsAndValues()
     {
         QFETCH(MeasureMode, mode);
         QFETCH(std::vector<HitPoint>, points);
         QFETCH(MeasureUnit, unit);
         QFETCH(double, measure1);
         QFETCH(double, measure2);
-        QFETCH(QStringList, texts);
+        QFETCH(QString, calls);
         for (const QChar mark : {'.', ','}) {
             const DecimalMark hosts(mark);
             const auto german = mark == ',' ? std::make_unique<CommaLocale>() : nullptr;
@@ -246,13 +202,21 @@ private slots:
             QTEST(measured.observable, "observable");
             COMPARE_NEAR(measured.measure1, measure1, areaTolerance);
             COMPARE_NEAR(measured.measure2, measure2, shareTolerance);
-            QStringList expected;
-            for (QString text : texts) {
-                // The first mark belongs to the value; a percentage begins with a bracket.
-                const int value = text.indexOf('.');
-                expected << (value < 0 ? text : text.replace(value, 1, mark));
+            QCOMPARE(penText(measured.penLeft), QString("#d228323c 2.5 cap 0 join 128"));
+            QStringList summary;
+            for (const PaintCall &call : measured.calls) {
+                summary << summaryOf(call);
+                if (call.kind == Kind::PolylineFloat) {
+                    QCOMPARE(call.pen, measured.penLeft);
+                    for (int k = 0; k < call.points.size(); ++k)
+                        COMPARE_EXACT(call.points[k], points[std::size_t(k)].screenPos);
+                }
             }
-            QCOMPARE(measured.texts(), expected);
+            // The value's mark is the host's; that of the share in brackets is not.
+            QString expected = calls;
+            const QRegularExpression value("box, \\d+\\.");
+            const int at = value.match(calls).capturedEnd() - 1;
+            QCOMPARE(summary.join(", "), at < 0 ? expected : expected.replace(at, 1, mark));
         }
     }
 
@@ -330,7 +294,7 @@ private slots:
         QCOMPARE(measured.observable, ObservableType::Length);
         COMPARE_NEAR(measured.measure1, 60.0, millimetreTolerance);
         COMPARE_EXACT(measured.measure2, untouched);
-        QCOMPARE(measured.texts(), QStringList("60 mm"));
+        QCOMPARE(measured.calls.last().text, QString("60 mm"));
         COMPARE_NEAR(crack[0].screenPos, Vec2(90, 270), pixelTolerance);
         COMPARE_NEAR(crack[2].screenPos, Vec2(162, 310), pixelTolerance);
     }

@@ -36,7 +36,6 @@ QString penName(const QPen &pen)
     if (pen == penBefore)
         return "before";
     return penText(pen)
-        .remove(" square bevel")
         .replace("#ffff0000", "red")
         .replace("#5aff0000", "faint")
         .replace("#ff0000ff", "blue")

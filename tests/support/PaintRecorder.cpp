@@ -1,6 +1,7 @@
 #include "support/PaintRecorder.h"
 
 #include <QLocale>
+#include <QMetaEnum>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
@@ -20,24 +21,6 @@ QString numberText(double value)
     return QString::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
-const char *kindText(Kind kind)
-{
-    static const char *const names[] = {"LinesInt",   "LinesFloat", "PolylineFloat", "PolygonFloat",
-                                        "RectsFloat", "EllipseInt", "EllipseFloat",  "Path",
-                                        "Text",       "Image"};
-    return names[static_cast<int>(kind)];
-}
-
-QString capText(Qt::PenCapStyle cap)
-{
-    return cap == Qt::FlatCap ? "flat" : cap == Qt::SquareCap ? "square" : "round";
-}
-
-QString joinText(Qt::PenJoinStyle join)
-{
-    return join == Qt::BevelJoin ? "bevel" : join == Qt::RoundJoin ? "round" : "miter";
-}
-
 QVector<QPointF> rectPoints(const QRectF &rect)
 {
     return {rect.topLeft(), QPointF(rect.width(), rect.height())};
@@ -49,15 +32,15 @@ QString penText(const QPen &pen)
 {
     if (pen.style() == Qt::NoPen)
         return "none";
-    const QString text = QString("%1 %2 %3 %4")
-                             .arg(pen.color().name(QColor::HexArgb), numberText(pen.widthF()),
-                                  capText(pen.capStyle()), joinText(pen.joinStyle()));
+    QString text = pen.color().name(QColor::HexArgb) + ' ' + numberText(pen.widthF());
+    if (pen.capStyle() != Qt::SquareCap || pen.joinStyle() != Qt::BevelJoin)
+        text += QString(" cap %1 join %2").arg(pen.capStyle()).arg(pen.joinStyle());
     return pen.style() == Qt::SolidLine ? text : text + QString(" style %1").arg(pen.style());
 }
 
 QString PaintCall::shape() const
 {
-    QString result = kindText(kind);
+    QString result = QMetaEnum::fromType<Kind>().valueToKey(static_cast<int>(kind));
     for (const QPointF &point : points)
         result += QString(" (%1, %2)").arg(numberText(point.x()), numberText(point.y()));
     return kind == Kind::Text ? result + " \"" + text + '"' : result;

@@ -16,6 +16,9 @@ namespace Drevon::Zalento::Test {
 /** One call as it reached the paint engine, with the painter's state at that moment. */
 struct PaintCall
 {
+    Q_GADGET
+
+public:
     /** Integer and floating lines and ellipses are kinds of their own: an engine rasterises them
         differently. Qt turns other integer calls into floating ones. */
     enum class Kind {
@@ -30,6 +33,7 @@ struct PaintCall
         Text,
         Image
     };
+    Q_ENUM(Kind)
 
     Kind kind = Kind::Path;
     /** Device-independent coordinates as handed over, before the transform. Lines: two points each;
@@ -53,8 +57,8 @@ struct PaintCall
     QString toString() const;
 };
 
-/** "#ff102030 2 square bevel", alpha first; the style where it is not solid; "none" without a
-    pen. */
+/** "#ff102030 2", alpha first; caps, joins and style where they are not QPen's own; "none" without
+    a pen. */
 QString penText(const QPen &pen);
 
 /** A paint device that draws nothing and keeps every call that reaches its engine, in order. The

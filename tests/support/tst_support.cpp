@@ -39,18 +39,18 @@ private slots:
         painter.translate(1, 1);
         painter.setClipRect(0, 0, 9, 9);
         painter.strokePath(path, QPen(Qt::green));
-        const QString dotted = " pen #5a010203 2.5 flat round style 3";
-        const QString red = " pen #ffff0000 1 square bevel";
+        const QString dotted = " pen #5a010203 2.5 cap 0 join 128 style 3";
+        const QString red = " pen #ffff0000 1";
         const QStringList expected{
-            "LinesInt (1, 2) (3, 4) pen #ff000000 1 square bevel",
-            "LinesFloat (-1e+300, 2) (3, 0.1) pen #ff000000 1 square bevel",
+            "LinesInt (1, 2) (3, 4) pen #ff000000 1",
+            "LinesFloat (-1e+300, 2) (3, 0.1) pen #ff000000 1",
             "PolylineFloat (1, 2) (3, 4.5)" + dotted,
             "PolygonFloat (1, 2) (3, 4) (5, 6)" + dotted,
             "EllipseInt (1, 2) (3, 4)" + red,
             "EllipseFloat (1, 2) (3, 4.5)" + red,
             "Text (1, 2.5) \"3,4 mm\"" + red,
             "RectsFloat (1, 2) (3, 4.5) pen none brush #ff0000ff",
-            "Path (0, 0) (5, 0) pen #ff00ff00 1 square bevel antialiased clipped transformed"};
+            "Path (0, 0) (5, 0) pen #ff00ff00 1 antialiased clipped transformed"};
         QCOMPARE(recorder.log().join('\n'), expected.join('\n'));
         QCOMPARE(recorder.calls(PaintCall::Kind::EllipseInt).size(), 1);
         const QFontMetrics metrics = painter.fontMetrics();

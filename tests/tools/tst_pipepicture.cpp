@@ -190,49 +190,6 @@ private slots:
         }
     }
 
-    void branchRimLiesOnBothWalls()
-    {
-        for (const auto &[angleDeg, clockDeg] :
-             {std::pair(90, 90), std::pair(45, 0), std::pair(120, 270)}) {
-            SceneSettings scene = presetScene(SceneKind::Branch);
-            scene.branch.angleDeg = angleDeg;
-            scene.branch.clockDeg = clockDeg;
-            const double radius = scene.radiusM();
-            const double sine = std::sin(radians(angleDeg));
-            for (const QJsonValue &value : truthAt(scene, "branch/rim/scene").toArray()) {
-                const Vec p = point(value);
-                COMPARE_NEAR(std::hypot(p.x, p.y), radius, writtenTolerance);
-                // From the branch's axis, whose wall line meets the mouth.
-                const double out = dot(p, clockDirection(clockDeg));
-                const double axisZ =
-                    -(0.5 * radius + (out - radius) * std::cos(radians(angleDeg))) / sine;
-                const double across = std::sqrt(squared(radius) - squared(out));
-                COMPARE_NEAR(std::hypot(across, (p.z - axisZ) * sine), 0.5 * radius,
-                             writtenTolerance);
-                QVERIFY(out > 0.0);
-            }
-        }
-    }
-
-    void areaOfTheDeposit()
-    {
-        // Counted over a fine grid that the tracer sees.
-        const SceneSettings scene = presetScene(SceneKind::Section);
-        const Shape shape(scene);
-        constexpr int steps = 600;
-        const double cell = scene.diameterM() / steps;
-        int inside = 0;
-        for (int i = 0; i < steps * steps; ++i) {
-            const Vec from{(i % steps + 0.5) * cell - scene.radiusM(),
-                           (i / steps + 0.5) * cell - scene.radiusM(), 0.0};
-            const bool inPipe = std::hypot(from.x, from.y) < scene.radiusM();
-            inside += inPipe && shape.traceDry({from, {0, 0, -1}}).part == Part::DepositFront;
-        }
-        const double area = truthAt(scene, "section/depositAreaMm2").toDouble();
-        COMPARE_NEAR(area / (inside * squared(cell) * 1e6), 1.0, (Tolerance{0.005, ""}));
-        QVERIFY(truthAt(scene, "section/areaMm2").toDouble() < area); // the clicked outline's
-    }
-
     void pictureShowsWhatTheTruthSays()
     {
         SceneSettings scene = cleanScene(SceneKind::Crack);
@@ -261,30 +218,6 @@ private slots:
             COMPARE_NEAR(edgeError(picture, edge + QPointF(-side * 4.0, -4.0), edge,
                                    edge + QPointF(side * 2.0, 2.0)),
                          0.0, edgeTolerance);
-        }
-    }
-
-    void jointRingIsWhereTruthSays()
-    {
-        SceneSettings scene = cleanScene(SceneKind::Dimension);
-        scene.waterShare = 0.0;
-        scene.camera.heightShare = 0.6;
-        scene.pipeLengthMm = 400.0; // a second ring still wide enough to be measured
-        const QImage picture = renderPicture(scene);
-        const Camera camera(scene.camera, scene.diameterM());
-        for (const char *ring : {"joints/0/scene", "joints/1/scene"}) {
-            for (const QJsonValue &value : truthAt(scene, ring).toArray()) {
-                // Along the pipe from just before the ring to just behind it.
-                const Vec reach{0, 0, 0.018 * scene.diameterM()};
-                const QPointF from = camera.project(point(value) + reach);
-                const QPointF to = camera.project(point(value) - reach);
-                if (!QRectF(2, 2, 764, 572).contains(from))
-                    continue;
-                const QPointF longer = (to - from) / QLineF(from, to).length() * 1.5;
-                COMPARE_NEAR(
-                    edgeError(picture, from - longer, camera.project(point(value)), to + longer),
-                    0.0, edgeTolerance);
-            }
         }
     }
 
