@@ -292,37 +292,6 @@ private slots:
             QCOMPARE(paint(view, pipe, ringStep, MeasureMode::WaterLevel).summary, expected);
         }
     }
-
-    void shortFormDrawsRingsAlone()
-    {
-        PipeView view = frontView(0.3);
-        PaintRecorder recorder;
-        QPainter painter(&recorder);
-        const Cylinder pipe = pipeWithWater(0);
-        view.camera.renderCylinder(painter, cylinderColor, measureColor, pipe, 1);
-        const Painted rings = paint(view, pipe, 1, MeasureMode::NoMeasure);
-        QCOMPARE(recorder.calls().size(), rings.calls.size());
-        for (int i = 0; i < rings.calls.size(); ++i) {
-            QCOMPARE(summaryOf(recorder.calls()[i]), rings.summary[i]);
-            QVERIFY(isSame(recorder.calls()[i].points, rings.calls[i].points));
-        }
-    }
-
-    void pipesWithoutExtentArePainted()
-    {
-        // The length of the next to last overflows.
-        for (const double diameterM : {0.0, -0.1, std::nan(""), HUGE_VAL, 1e308, 5e-324}) {
-            for (int k = 0; k < 12; ++k) {
-                const auto mode = MeasureMode(k / 2);
-                Cylinder pipe(diameterM);
-                pipe.waterLevelPercent = k % 2 == 0 ? 0.25 : 0.75;
-                pipe.createVerticesInWorldCoord(MeasureMode::WaterLevel);
-                PipeView view = frontView(0.3);
-                QCOMPARE(paint(view, pipe, 1, mode).summary.filter("text").size(),
-                         mode == MeasureMode::WaterLevel ? 1 : 0);
-            }
-        }
-    }
 };
 
 QTEST_MAIN(TestCylinderRendering)
