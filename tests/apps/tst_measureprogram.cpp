@@ -9,6 +9,8 @@
 #include <QTest>
 
 #include <csignal>
+#include <linux/capability.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -24,7 +26,7 @@ struct Fault
 {
     rlim_t largestFile = noLimit; // in bytes; a disk that is full is noticed in the same way
     bool killsAtLimit = false;
-    bool isNobody = false; // a user who may not write everywhere
+    bool isReadOnly = false; // the folder
 };
 
 class Program : public QProcess
@@ -42,8 +44,9 @@ protected:
         setrlimit(RLIMIT_CORE, &noCore);
         setrlimit(RLIMIT_FSIZE, &files);
         signal(SIGXFSZ, m_fault.killsAtLimit ? SIG_DFL : SIG_IGN);
-        constexpr uid_t nobody = 65534;
-        if (m_fault.isNobody && geteuid() == 0 && setuid(nobody) != 0) {
+        // Root writes into every folder unless this is taken from it.
+        if (m_fault.isReadOnly && geteuid() == 0 &&
+            prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE, 0, 0, 0) != 0) {
             _exit(1);
         }
     }
@@ -162,7 +165,7 @@ void TestMeasureProgram::failedSavesKeepTheOldFiles()
     const QByteArray before = folderState(dir.path());
     const QFile::Permissions readable(0x5555); // everybody enters and reads
     QVERIFY(QFile::setPermissions(dir.path(),
-                                  fault.isNobody ? readable : readable | QFile::WriteOwner));
+                                  fault.isReadOnly ? readable : readable | QFile::WriteOwner));
     const Outcome outcome =
         start(water + QStringList{"--roll", "9", "--force"} + files, {}, {}, fault);
     QVERIFY(QFile::setPermissions(dir.path(), readable | QFile::WriteOwner));
