@@ -129,6 +129,8 @@ private slots:
         // second ring is met when that is more than 1, the third one never.
         QTest::newRow("shallow, grazed") << 0.51 << 30.0 << 1;
         QTest::newRow("shallow, thick") << 0.999 << 30.0 << 1;
+        QTest::newRow("45 degrees") << 0.8 << 45.0 << 1;
+        QTest::newRow("square") << 0.5 << 90.0 << 0;
         QTest::newRow("nearly square") << 0.99 << 75.0 << 1;
         QTest::newRow("square, nearly as thick") << 0.999 << 90.0 << 0;
         QTest::newRow("towards the mouth") << 0.9 << 120.0 << 1;
