@@ -1,6 +1,6 @@
 // A curve through 361 scene points, beside the bare painter call with points already projected.
+#include "support/PairedTimes.h"
 #include "support/Scene.h"
-#include "support/clearVectorRegisters.h"
 #include "support/require.h"
 
 #include <QImage>
@@ -8,7 +8,6 @@
 #include <QPen>
 
 #include <benchmark/benchmark.h>
-#include <ctime>
 
 using namespace Drevon::Zalento;
 using namespace Drevon::Zalento::Benchmarks;
@@ -96,41 +95,18 @@ void curveBare(benchmark::State &state)
 }
 BENCHMARK(curveBare);
 
-// Processor time of this thread in nanoseconds; other programs on the machine don't add to it.
-double threadTimeNs()
-{
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) * 1e9 + static_cast<double>(now.tv_nsec);
-}
-
-// Processor time of one call, with cleared vector registers if asked for.
-template <class Paint>
-double paintTimeNs(bool cleared, const Paint &paint)
-{
-    if (cleared) {
-        clearVectorRegisters();
-    }
-    const double start = threadTimeNs();
-    paint();
-    return threadTimeNs() - start;
-}
-
-// Both in turn, so that a busy machine slows both; "ratio" is the time of ours over the bare one.
+// Both in turn; "ratio" is the time of ours over the bare one.
 void curveOverhead(benchmark::State &state)
 {
     requireSamePicture();
-    const bool cleared = state.range(0) != 0;
     const BareCurve bare;
     Canvas canvas;
-    double ours = 0;
-    double control = 0;
+    PairedTimes times;
     for (auto _ : state) {
-        ours += paintTimeNs(cleared, [&] { paintCurve(canvas); });
-        control += paintTimeNs(cleared, [&] { bare.paint(canvas); });
+        times.run([&] { paintCurve(canvas); }, [&] { bare.paint(canvas); });
     }
-    state.counters["ratio"] = ours / control;
+    state.counters["ratio"] = times.ratio();
 }
-BENCHMARK(curveOverhead)->ArgName("cleared")->Arg(0)->Arg(1);
+BENCHMARK(curveOverhead)->MinTime(1);
 
 } // namespace

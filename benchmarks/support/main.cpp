@@ -4,8 +4,10 @@
 
 int main(int argc, char **argv)
 {
-    // Pictures are painted in memory; nothing needs a display.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Pictures are painted in memory; nothing but the viewer's start needs a display.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     const QGuiApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {

@@ -1,9 +1,7 @@
 #include "zalento/render/HitPoint.h"
 
-#include "zalento/render/PainterPens.h"
+#include "zalento/render/MarkerPens.h"
 #include "zalento/render/truncatedRect.h"
-
-#include <QPen>
 
 namespace Drevon::Zalento {
 
@@ -11,7 +9,6 @@ namespace {
 
 constexpr int markerRadiusPx = 3;
 constexpr int highlightRadiusPx = 10;
-constexpr double markerPenPx = 2.0;
 
 QRect squareAround(const Vec2 &center, int radiusPx)
 {
@@ -22,21 +19,21 @@ QRect squareAround(const Vec2 &center, int radiusPx)
 
 void HitPoint::draw(QPainter &p, const QColor &color) const
 {
-    if (!isVisible) {
+    const PenScope scope(p);
+    drawMarker(p, *this, MarkerPens(color));
+}
+
+void drawMarker(QPainter &p, const HitPoint &point, const MarkerPens &pens)
+{
+    if (!point.isVisible) {
         return;
     }
-    const PenScope scope(p);
-    QPen pen(color);
-    p.setPen(pen);
-    if (isHighlighted) {
-        p.drawEllipse(squareAround(screenPos, highlightRadiusPx));
+    if (point.isHighlighted) {
+        p.setPen(pens.highlight);
+        p.drawEllipse(squareAround(point.screenPos, highlightRadiusPx));
     }
-    if (!isAnchor) {
-        pen.setColor(Qt::black);
-    }
-    pen.setWidthF(markerPenPx);
-    p.setPen(pen);
-    p.drawEllipse(squareAround(screenPos, markerRadiusPx));
+    p.setPen(point.isAnchor ? pens.anchor : pens.other);
+    p.drawEllipse(squareAround(point.screenPos, markerRadiusPx));
 }
 
 } // namespace Drevon::Zalento

@@ -1,6 +1,8 @@
 // The camera proper; drawing stands in the other MiniGL*.cpp files.
 #include "zalento/render/MiniGL.h"
 
+#include "zalento/render/clearVectorRegisters.h"
+
 namespace Drevon::Zalento {
 
 namespace {
@@ -57,6 +59,7 @@ void MiniGL::popModelViewMatrix()
 
 void MiniGL::combinedMatrix(Mat4 &out) const
 {
+    clearVectorRegisters();
     out = viewportMatrix;
     out.multiply(projectionMatrix);
     out.multiply(modelViewMatrix);

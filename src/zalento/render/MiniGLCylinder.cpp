@@ -4,6 +4,7 @@
 #include "zalento/render/MiniGL.h"
 #include "zalento/render/ModelViewScope.h"
 #include "zalento/render/PainterPens.h"
+#include "zalento/render/clearVectorRegisters.h"
 
 #include <QPainterPath>
 
@@ -144,6 +145,7 @@ void MiniGL::renderRings(QPainter &painter, const QColor &color, const Cylinder 
             continue;
         }
         points.clear();
+        clearVectorRegisters();
         projectAscending(toPixels, cylinder, ring, start, end, points);
         painter.setPen(pens.of(ring, last));
         drawPolyLine(painter, points);
@@ -167,6 +169,7 @@ void MiniGL::renderWater(QPainter &painter, const QColor &color, const Cylinder 
     points.reserve(static_cast<std::size_t>(cylinder.segmentCount) + 2);
     for (int ring = 0; ring <= last; ring += step) {
         points.clear();
+        clearVectorRegisters();
         projectDescending(toPixels, cylinder, ring, dryStart(cylinder, ring), 0, points);
         projectDescending(toPixels, cylinder, ring, cylinder.segmentCount, dryEnd(cylinder, ring),
                           points);
@@ -217,6 +220,7 @@ void MiniGL::renderCrossSectionDisc(QPainter &painter, const QColor &color,
         disc.lineTo(s.x, s.y);
     }
     painter.fillPath(disc, QBrush(withAlpha(color, discFillAlpha), Qt::SolidPattern));
+    clearVectorRegisters();
     painter.strokePath(disc, solidPen(color, discOutlinePenPx));
 }
 

@@ -1,7 +1,7 @@
 // The measuring line: where its points fall, what it measures, how that reads.
 #include "zalento/math/angles.h"
+#include "zalento/render/MarkerPens.h"
 #include "zalento/render/MiniGL.h"
-#include "zalento/render/PainterPens.h"
 #include "zalento/settings/UnitConv.h"
 
 #include <algorithm>
@@ -66,6 +66,15 @@ bool isClosedPolygon(const std::vector<HitPoint> &points, MeasureMode mode)
            points.front().position == points.back().position && points.size() >= smallestPolygon;
 }
 
+void drawMarkers(QPainter &painter, const QColor &color, const std::vector<HitPoint> &points)
+{
+    const PenScope scope(painter);
+    const MarkerPens pens(color);
+    for (const HitPoint &point : points) {
+        drawMarker(painter, point, pens);
+    }
+}
+
 QString fixedNumber(double value, int decimals)
 {
     QString text;
@@ -107,9 +116,7 @@ void MiniGL::renderMeasureLine(QPainter &painter, const QColor &color, double li
             measure1 = value;
             measure2 = share;
         } else {
-            for (const HitPoint &point : points) {
-                point.draw(painter, color);
-            }
+            drawMarkers(painter, color, points);
             value = pipeArea - area;
             share = value / pipeArea;
             observable = ObservableType::FreeAreaPercent;

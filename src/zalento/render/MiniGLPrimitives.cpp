@@ -2,6 +2,7 @@
 #include "zalento/math/truncateToInt.h"
 #include "zalento/render/MiniGL.h"
 #include "zalento/render/PainterPens.h"
+#include "zalento/render/clearVectorRegisters.h"
 #include "zalento/render/truncatedRect.h"
 
 #include <QFontMetrics>
@@ -33,6 +34,23 @@ constexpr int stackPointCount = 512;
 // A convex outline has at least three corners and the first one again.
 constexpr std::size_t smallestOutline = 4;
 
+// The points that a painter is handed as one line.
+using Polyline = QVarLengthArray<QPointF, stackPointCount>;
+
+QPointF toPointF(const Vec2 &v)
+{
+    return {v.x, v.y};
+}
+
+void drawThrough(QPainter &p, const Polyline &line)
+{
+    if (line.size() < 2) {
+        return;
+    }
+    clearVectorRegisters();
+    p.drawPolyline(line.constData(), line.size());
+}
+
 QRectF circleBox(const Vec2 &center, double radiusPx)
 {
     return {center.x - radiusPx, center.y - radiusPx, 2 * radiusPx, 2 * radiusPx};
@@ -52,6 +70,7 @@ QLine integerLine(const Vec2 &a, const Vec2 &b)
 void drawOutlineSegment(QPainter &p, const Vec2 &a, const Vec2 &b, const Vec2 &mark,
                         bool markPoints)
 {
+    clearVectorRegisters();
     p.drawLine(integerLine(a, b));
     if (markPoints) {
         p.drawEllipse(integerCircleBox(mark, pointMarkRadiusPx));
@@ -116,18 +135,20 @@ void MiniGL::renderCurve(QPainter &p, const QColor &color, double lineWidth,
     }
     Mat4 toPixels;
     combinedMatrix(toPixels);
-    std::vector<Vec2> outline(points.size() + 1);
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        toPixels.multiply(points[i], outline[i]);
-    }
+    Polyline outline(static_cast<int>(points.size()) + 1);
+    std::transform(points.begin(), points.end(), outline.begin(), [&](const Vec3 &point) {
+        Vec2 s;
+        toPixels.multiply(point, s);
+        return toPointF(s);
+    });
     outline.back() = outline.front();
 
     p.setPen(solidPen(color, lineWidth));
-    drawPolyLine(p, outline);
+    drawThrough(p, outline);
     if (markPoints) {
         p.setPen(QColor(Qt::red));
-        for (const Vec2 &s : outline) {
-            p.drawEllipse(circleBox(s, curveMarkRadiusPx));
+        for (const QPointF &s : outline) {
+            p.drawEllipse(circleBox(Vec2(s.x(), s.y()), curveMarkRadiusPx));
         }
     }
 }
@@ -210,23 +231,17 @@ void MiniGL::drawLine(QPainter &p, const Vec2 &a, const Vec2 &b) const
 
 void MiniGL::drawPolyLine(QPainter &p, const std::vector<Vec2> &points) const
 {
-    if (points.size() < 2) {
-        return;
-    }
-    QVarLengthArray<QPointF, stackPointCount> polyline(static_cast<int>(points.size()));
-    std::transform(points.begin(), points.end(), polyline.begin(),
-                   [](const Vec2 &point) { return QPointF(point.x, point.y); });
-    p.drawPolyline(polyline.constData(), polyline.size());
+    Polyline line(static_cast<int>(points.size()));
+    std::transform(points.begin(), points.end(), line.begin(), toPointF);
+    drawThrough(p, line);
 }
 
 void MiniGL::drawPolyLine(QPainter &p, const std::vector<HitPoint> &points) const
 {
-    std::vector<Vec2> screenPoints;
-    screenPoints.reserve(points.size());
-    for (const HitPoint &point : points) {
-        screenPoints.push_back(point.screenPos);
-    }
-    drawPolyLine(p, screenPoints);
+    Polyline line(static_cast<int>(points.size()));
+    std::transform(points.begin(), points.end(), line.begin(),
+                   [](const HitPoint &point) { return toPointF(point.screenPos); });
+    drawThrough(p, line);
 }
 
 void MiniGL::drawString(QPainter &p, const QString &text, const QPointF &pos, double lineOffset,

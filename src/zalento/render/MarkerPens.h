@@ -1,0 +1,27 @@
+#pragma once
+
+#include "zalento/render/HitPoint.h"
+#include "zalento/render/PainterPens.h"
+
+namespace Drevon::Zalento {
+
+/** The pens of measurement points in one color, for the drawing of many. */
+struct MarkerPens
+{
+    static constexpr double widthPx = 2.0;
+
+    explicit MarkerPens(const QColor &color)
+        : highlight(color)
+        , anchor(solidPen(color, widthPx))
+        , other(solidPen(Qt::black, widthPx))
+    {}
+
+    QPen highlight;
+    QPen anchor;
+    QPen other;
+};
+
+/** HitPoint::draw() with pens at hand; one of them stays on the painter. */
+void drawMarker(QPainter &p, const HitPoint &point, const MarkerPens &pens);
+
+} // namespace Drevon::Zalento
