@@ -9,7 +9,7 @@ Usage: scripts/benchmark.sh [--again] [--help]
 
 Installs what is missing (build.txt and benchmark.txt of scripts/packages: ImageMagick and valgrind
 among others), builds the release programs, runs the benchmarks, and prints a table in Markdown.
-Results are kept as JSON in build/release/benchmarks. A benchmark whose program has not changed
+Results are kept as JSON in build/release/benchmark-results. A benchmark whose program has not changed
 since is not run again. Times are worth comparing only from a machine that does nothing else.
 
   --again   run all of them once more
@@ -40,7 +40,7 @@ build release
 
 programs=build/release/bin
 library=build/release/lib/libzalento.so
-results=build/release/benchmarks
+results=build/release/benchmark-results
 mkdir -p "$results"
 [ "$again" = no ] || rm -f "$results"/*
 load=$(cut -d ' ' -f 1 /proc/loadavg)
