@@ -68,7 +68,6 @@ def single_rows(results):
         ("lateral of 80 % and 45° rebuilt", "lateral/rebuild/percent:80/degrees:45", "lateral/control/percent:80/degrees:45"),
         ("rear circle checked", "correction/inside", "correction/control"),
         ("rear circle corrected", "correction/outside", "correction/control"),
-        ("curve of 361 points", "curve", "curveBare"),
         ("361 points projected", "projectPoints", "projectPointsGlm"),
         ("64 matrix products", "product", "productGlm"),
         ("64 matrix inverses", "inverse", "inverseGlm"),
