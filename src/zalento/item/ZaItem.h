@@ -43,10 +43,10 @@ class ZALENTO_EXPORT ZaItem : public QQuickPaintedItem
     /** Pipe diameter in mm. A new item starts with the diameter last set on any item (300). */
     Q_PROPERTY(double diameter READ diameter WRITE setDiameter NOTIFY diameterChanged)
     /**
-     * Written in percent, read as the water level's fraction [0, 1]. It sets the cross-section
-     * plane's place along the pipe in the kind "CrossSection", else the water level, which clears
-     * the points unless it is 0; and always the branch's share of the diameter and the length of
-     * the joint's continuation.
+     * Written in percent, read as the water level's fraction: meant for [0, 1], and not limited to
+     * it. It sets the cross-section plane's place along the pipe in the kind "CrossSection", else
+     * the water level, which clears the points unless it is 0; and always the branch's share of the
+     * diameter and the length of the joint's continuation.
      */
     Q_PROPERTY(double percentage READ percentage WRITE setPercentage NOTIFY percentageChanged)
     /**
