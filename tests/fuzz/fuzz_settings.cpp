@@ -45,7 +45,7 @@ private:
 bool holdsOtherVariants(const QByteArray &content)
 {
     static const QRegularExpression color(
-        QStringLiteral("@Variant\\(\\\\0\\\\0\\\\0\\\\x43[^),]*\\)"));
+        QStringLiteral("@Variant\\(\\\\0\\\\0\\\\0\\\\x43(?![0-9a-fA-F])[^),]*\\)"));
     // The name, or escapes of which it could be made.
     static const QRegularExpression trace(
         QStringLiteral("Variant|\\\\(x0*[4-7][0-9a-f]|0*1|[\\r\\n])"),
