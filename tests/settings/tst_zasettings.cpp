@@ -203,6 +203,9 @@ void TestZASettings::content_data()
     row("empty colour", "colBackground=", "colBackground invalid");
     row("field of view", "fovYDEG=61.25", "fovYDEG 61.25");
     row("field of view with a comma", "fovYDEG=\"61,25\"", "fovYDEG 0");
+    // A list that claims 2^31 - 1 elements.
+    row("value larger than memory", "fovYDEG=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)",
+        "fovYDEG 37.5");
     row("height that is no number", "fovYHeightMM=high", "fovYHeightMM 0");
     row("distance", "fovYDistanceMM=12.5", "fovYDistanceMM 12.5");
     row("font", "fontSmall=\"Mono,9,-1,5,50,0,0,0,0,0\"", "fontSmall Mono,9,-1,5,50,0,0,0,0,0");

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdio>
+#include <new>
 
 namespace Drevon::Zalento {
 
@@ -36,9 +37,19 @@ std::array<ColorKey, 6> colorKeys()
              {QLatin1String("colCamHeight"), &ZASettings::colCamHeight, ZASettings::sOrange}}};
 }
 
+// A damaged store can hold a value that claims more elements than memory has: Qt throws on those.
+QVariant storedValue(const QSettings &settings, const QString &key, const QVariant &fallback)
+{
+    try {
+        return settings.value(key, fallback);
+    } catch (const std::bad_alloc &) {
+        return fallback;
+    }
+}
+
 void loadFont(const QSettings &settings, const QString &key, QFont &font)
 {
-    font.fromString(settings.value(key, font).toString());
+    font.fromString(storedValue(settings, key, font).toString());
 }
 
 // A damaged store can hold a colour of no known kind; even copying such a QColor is undefined. Its
@@ -53,7 +64,7 @@ bool isColorOfKnownKind(const QVariant &value)
 
 QColor loadColor(const QSettings &settings, const QString &key, const QColor &fallback)
 {
-    const QVariant value = settings.value(key, fallback);
+    const QVariant value = storedValue(settings, key, fallback);
     if (value.userType() == QMetaType::QColor && !isColorOfKnownKind(value)) {
         return QColor();
     }
@@ -78,18 +89,19 @@ const QColor ZASettings::sOrange(255, 165, 0, 255);
 void ZASettings::Load(QSettings &settings)
 {
     settings.beginGroup(sConfigGroup);
-    pipeDiameterMM = settings.value(QStringLiteral("pipeDiameterMM"), 300).toInt();
+    pipeDiameterMM = storedValue(settings, QStringLiteral("pipeDiameterMM"), 300).toInt();
     loadFont(settings, QStringLiteral("fontSmall"), fontSmall);
     loadFont(settings, QStringLiteral("fontLarge"), fontLarge);
     for (const ColorKey &color : colorKeys()) {
         this->*color.field = loadColor(settings, color.key, color.fallback);
     }
-    const QString unit = settings.value(QStringLiteral("MeasureUnit"), metricText).toString();
+    const QString unit =
+        storedValue(settings, QStringLiteral("MeasureUnit"), metricText).toString();
     MeasureUnit = unit == metricText ? Drevon::Zalento::MeasureUnit::Metric
                                      : Drevon::Zalento::MeasureUnit::Imperial;
-    fovYDEG = settings.value(QStringLiteral("fovYDEG"), 37.5).toDouble();
-    fovYDistanceMM = settings.value(QStringLiteral("fovYDistanceMM"), 322).toDouble();
-    fovYHeightMM = settings.value(QStringLiteral("fovYHeightMM"), 300).toDouble();
+    fovYDEG = storedValue(settings, QStringLiteral("fovYDEG"), 37.5).toDouble();
+    fovYDistanceMM = storedValue(settings, QStringLiteral("fovYDistanceMM"), 322).toDouble();
+    fovYHeightMM = storedValue(settings, QStringLiteral("fovYHeightMM"), 300).toDouble();
     settings.endGroup();
 }
 
