@@ -2,7 +2,7 @@
 include(CMakePackageConfigHelpers)
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Zalento")
-set(installed_targets zalento)
+set(installed_targets zalento zalentomeasuring)
 if(NOT ZALENTO_HOST_TARGET)
   list(APPEND installed_targets drevonhost)
 endif()
@@ -11,7 +11,8 @@ install(TARGETS ${installed_targets} EXPORT ZalentoTargets
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/zalento" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/zalento" "${PROJECT_SOURCE_DIR}/src/measuring"
+  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
   FILES_MATCHING PATTERN "*.h")
 if(NOT ZALENTO_HOST_TARGET)
   install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/drevon" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"

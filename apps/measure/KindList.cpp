@@ -2,7 +2,7 @@
 
 #include "measure/Report.h"
 
-#include "session/OrderedJson.h"
+#include "measuring/OrderedJson.h"
 
 #include <QJsonArray>
 

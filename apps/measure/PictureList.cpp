@@ -1,13 +1,15 @@
 #include "measure/PictureList.h"
 
-#include "session/Picture.h"
-#include "session/SessionFile.h"
+#include "measuring/Picture.h"
+#include "measuring/SessionFile.h"
 
 #include <QDirIterator>
 #include <QFileDevice>
 #include <QFileInfo>
 
 namespace Drevon::Zalento::Apps {
+
+using namespace Measuring;
 
 namespace {
 

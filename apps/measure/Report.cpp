@@ -1,6 +1,6 @@
 #include "measure/Report.h"
 
-#include "session/OrderedJson.h"
+#include "measuring/OrderedJson.h"
 
 #include <QJsonArray>
 #include <QLocale>

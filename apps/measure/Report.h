@@ -1,7 +1,7 @@
 #pragma once
 
+#include "measure/Batch.h"
 #include "measure/CommandLine.h"
-#include "measure/Measuring.h"
 
 #include <QByteArray>
 

@@ -1,13 +1,13 @@
 #include "measure/Run.h"
 
+#include "measure/Batch.h"
 #include "measure/CommandLine.h"
 #include "measure/KindList.h"
-#include "measure/Measuring.h"
 #include "measure/PictureList.h"
 #include "measure/Report.h"
 
-#include "session/CalibrationFile.h"
-#include "session/SessionFile.h"
+#include "measuring/CalibrationFile.h"
+#include "measuring/SessionFile.h"
 
 #include <QDir>
 #include <QFileDevice>
@@ -167,11 +167,11 @@ void measureAll(const CommandLine &command, const std::optional<Session> &sessio
 {
     const bool isRender = command.verb == Verb::Render;
     const Report report(command.format);
-    Measuring measuring(command, session);
+    Batch batch(command, session);
     int count = 0;
     console.print(isRender ? QByteArray() : report.start());
     for (const PictureRequest &request : requests) {
-        const PictureResult result = measuring.run(request);
+        const PictureResult result = batch.run(request);
         tell(result, isRender, console);
         if (!isRender) {
             console.print(report.result(result, count));

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "session/MeasurementKind.h"
-#include "session/Session.h"
+#include "measuring/Kind.h"
+#include "measuring/Session.h"
 
 #include <QCommandLineParser>
 #include <QPointF>
@@ -11,6 +11,8 @@
 #include <optional>
 
 namespace Drevon::Zalento::Apps {
+
+using namespace Measuring;
 
 /** What the command line says about a session; what it leaves out stays as it is. */
 struct SessionOptions

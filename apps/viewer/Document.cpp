@@ -1,6 +1,6 @@
 #include "Document.h"
 
-#include "session/SessionFile.h"
+#include "measuring/SessionFile.h"
 
 #include <utility>
 
@@ -15,13 +15,13 @@ constexpr int largestHistory = 500;
 
 Document::Document(const QString &path)
     : picturePath(path)
-    , sessionPath(Apps::sessionPathOf(path))
+    , sessionPath(Measuring::sessionPathOf(path))
     , m_history(std::make_unique<QUndoStack>())
 {
     m_history->setUndoLimit(largestHistory);
 }
 
-SessionStep::SessionStep(const QString &name, Apps::Session before, Apps::Session after,
+SessionStep::SessionStep(const QString &name, Measuring::Session before, Measuring::Session after,
                          int mergeNumber, Show show)
     : QUndoCommand(name)
     , m_before(std::move(before))

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "session/MeasuredValues.h"
-#include "session/Session.h"
+#include "measuring/Measurement.h"
+#include "measuring/Session.h"
 
 #include <QDateTime>
 #include <QString>
@@ -29,8 +29,8 @@ public:
     QDateTime sessionStamp;
     QDateTime pictureStamp;
     /** The measurement; empty until the picture was shown. */
-    std::optional<Apps::Session> session;
-    Apps::Measurement measurement;
+    std::optional<Measuring::Session> session;
+    Measuring::Measurement measurement;
 
     QUndoStack &history() { return *m_history; }
     bool isModified() const { return !m_history->isClean(); }
@@ -47,10 +47,10 @@ private:
 class SessionStep : public QUndoCommand
 {
 public:
-    using Show = std::function<void(const Apps::Session &)>;
+    using Show = std::function<void(const Measuring::Session &)>;
 
-    SessionStep(const QString &name, Apps::Session before, Apps::Session after, int mergeNumber,
-                Show show);
+    SessionStep(const QString &name, Measuring::Session before, Measuring::Session after,
+                int mergeNumber, Show show);
 
     void undo() override { m_show(m_before); }
     void redo() override { m_show(m_after); }
@@ -58,8 +58,8 @@ public:
     bool mergeWith(const QUndoCommand *next) override;
 
 private:
-    Apps::Session m_before;
-    Apps::Session m_after;
+    Measuring::Session m_before;
+    Measuring::Session m_after;
     int m_mergeNumber;
     Show m_show;
 };

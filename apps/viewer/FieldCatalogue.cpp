@@ -1,6 +1,6 @@
 #include "FieldCatalogue.h"
 
-#include "session/MeasurementKind.h"
+#include "measuring/Kind.h"
 
 #include <zalento/settings/UnitConv.h>
 
@@ -13,7 +13,7 @@
 
 namespace Drevon::Zalento {
 
-using Apps::Session;
+using Measuring::Session;
 
 namespace {
 
@@ -36,7 +36,7 @@ Field numberField(const QString &name, double Session::*member)
     field.name = name;
     field.get = [member](const Session &s) { return s.*member; };
     field.set = [member](Session &s, std::optional<double> v) { s.*member = v.value_or(0.0); };
-    for (const Apps::SessionNumber &number : Apps::sessionNumbers()) {
+    for (const Measuring::SessionNumber &number : Measuring::sessionNumbers()) {
         if (number.member == member) {
             field.smallest = number.smallest;
             field.largest = number.largest;
@@ -92,7 +92,7 @@ Field angleField(const Session &session)
     Field field = with(numberField(QStringLiteral("angleDEG"), &Session::angleDEG),
                        QT_TRANSLATE_NOOP("Field", "Angle"), QStringLiteral("°"), 1, 1);
     field.hasSlider = true;
-    if (const Apps::MeasurementKind *kind = Apps::findMeasurementKind(session.kind)) {
+    if (const Measuring::MeasurementKind *kind = Measuring::findMeasurementKind(session.kind)) {
         field.smallest = kind->smallestAngleDEG;
         field.largest = kind->largestAngleDEG;
     }
@@ -141,8 +141,8 @@ Field scaleField()
     Field field;
     field.name = QStringLiteral("mmPerPixel");
     field = with(field, QT_TRANSLATE_NOOP("Field", "Scale, mm per pixel"), {}, 0.01, 6);
-    field.smallest = Apps::smallestMMPerPixel;
-    field.largest = Apps::largestMMPerPixel;
+    field.smallest = Measuring::smallestMMPerPixel;
+    field.largest = Measuring::largestMMPerPixel;
     field.mayBeEmpty = true;
     field.get = [](const Session &s) { return s.mmPerPixel; };
     field.set = [](Session &s, std::optional<double> v) { s.mmPerPixel = v; };

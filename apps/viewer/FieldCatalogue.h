@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Session.h"
+#include "measuring/Session.h"
 
 #include <QString>
 #include <QStringList>
@@ -22,24 +22,24 @@ struct Field
     int decimals = 0; ///< shown at most
     bool hasSlider = false;
     bool mayBeEmpty = false;
-    std::function<std::optional<double>(const Apps::Session &)> get;
-    std::function<void(Apps::Session &, std::optional<double>)> set;
+    std::function<std::optional<double>(const Measuring::Session &)> get;
+    std::function<void(Measuring::Session &, std::optional<double>)> set;
 };
 
 /** The field of this name as @p session shows it; its label and limits depend on the kind. */
-Field fieldNamed(const QString &name, const Apps::Session &session);
+Field fieldNamed(const QString &name, const Measuring::Session &session);
 
 /** Names of the fields that the session's kind uses, but for those of the alignment. */
-QStringList kindFields(const Apps::Session &session);
+QStringList kindFields(const Measuring::Session &session);
 
 /** Names of the fields that align the model; none for a kind without a model. */
-QStringList alignmentFields(const Apps::Session &session);
+QStringList alignmentFields(const Measuring::Session &session);
 
 /** Whether the kind shows a model that can be aligned. */
 bool hasModel(const QString &kind);
 
 /** The field's value as text; empty when it has none. */
-QString fieldText(const Field &field, const Apps::Session &session);
+QString fieldText(const Field &field, const Measuring::Session &session);
 
 /**
  * Reads a typed number; a decimal comma is understood.

@@ -19,7 +19,7 @@ QString calibration(int spotsExpected)
 
 QString crack(const Situation &s)
 {
-    if (s.measurement.state == Apps::MeasureState::NoScale) {
+    if (s.measurement.state == Measuring::MeasureState::NoScale) {
         return tr("No scale yet: press \"Laser spots\" and click the two spots, type mm per pixel, "
                   "or load a calibration file. A click sets point %1.")
             .arg(s.session.points.size() + 1);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "session/MeasuredValues.h"
-#include "session/Session.h"
+#include "measuring/Measurement.h"
+#include "measuring/Session.h"
 
 #include <QString>
 
@@ -10,8 +10,8 @@ namespace Drevon::Zalento {
 /** What the status line goes by. */
 struct Situation
 {
-    const Apps::Session &session;
-    const Apps::Measurement &measurement;
+    const Measuring::Session &session;
+    const Measuring::Measurement &measurement;
     bool isClosed = false;      ///< the points are a closed polygon
     int laserSpotsExpected = 0; ///< clicks that the calibration still waits for
     bool isPanning = false;     ///< a drag pans instead of moving the model

@@ -41,11 +41,11 @@ double halfFovsPerPixel(double fovYDEG, const QSize &pictureSize)
 
 } // namespace
 
-Apps::Session modelDragged(const Apps::Session &start, const QPointF &moved,
-                           const QSize &pictureSize)
+Measuring::Session modelDragged(const Measuring::Session &start, const QPointF &moved,
+                                const QSize &pictureSize)
 {
     // Positive numbers move to the left and down.
-    Apps::Session session = start;
+    Measuring::Session session = start;
     if (start.rearCircleActive) {
         const double turn = halfFovsPerPixel(start.fovYDEG, pictureSize);
         session.rearCircleX -= moved.x() * turn * unitsPerHalfFovX;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/Session.h"
+#include "measuring/Session.h"
 
 #include <QPointF>
 #include <QSize>
@@ -11,7 +11,7 @@ namespace Drevon::Zalento {
  * The session with its model dragged by @p moved picture pixels, so that the pipe's mouth stays
  * under the pointer; while the rear circle is active its far end is dragged instead.
  */
-Apps::Session modelDragged(const Apps::Session &start, const QPointF &moved,
-                           const QSize &pictureSize);
+Measuring::Session modelDragged(const Measuring::Session &start, const QPointF &moved,
+                                const QSize &pictureSize);
 
 } // namespace Drevon::Zalento

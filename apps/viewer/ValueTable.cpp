@@ -46,7 +46,7 @@ QByteArray valuesAsCsv(const QVector<ValueRow> &rows)
         csvLine({QStringLiteral("picture"), QStringLiteral("kind"), QStringLiteral("name"),
                  QStringLiteral("number"), QStringLiteral("unit"), QStringLiteral("text")});
     for (const ValueRow &row : rows) {
-        for (const Apps::MeasuredValue &value : row.measurement.values) {
+        for (const Measuring::MeasuredValue &value : row.measurement.values) {
             csv += csvLine(
                 {row.picture, row.kind, value.name, exact(value.number), value.unit, value.text});
         }
@@ -59,7 +59,7 @@ QByteArray valuesAsJson(const QVector<ValueRow> &rows)
     QJsonArray pictures;
     for (const ValueRow &row : rows) {
         QJsonArray values;
-        for (const Apps::MeasuredValue &value : row.measurement.values) {
+        for (const Measuring::MeasuredValue &value : row.measurement.values) {
             values.append(QJsonObject{{QStringLiteral("name"), value.name},
                                       {QStringLiteral("number"), value.number},
                                       {QStringLiteral("unit"), value.unit},

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/MeasuredValues.h"
+#include "measuring/Measurement.h"
 
 #include <QByteArray>
 #include <QString>
@@ -13,7 +13,7 @@ struct ValueRow
 {
     QString picture;
     QString kind;
-    Apps::Measurement measurement;
+    Measuring::Measurement measurement;
 };
 
 /** Header, and a line for each value; quoted where needed (RFC 4180), '.' as decimal mark. */

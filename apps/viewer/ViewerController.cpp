@@ -2,8 +2,8 @@
 
 #include "Guidance.h"
 
-#include "session/MeasurementKind.h"
-#include "session/SessionItem.h"
+#include "measuring/Kind.h"
+#include "measuring/Replay.h"
 
 #include <drevon/AppState.h>
 
@@ -14,7 +14,7 @@
 
 namespace Drevon::Zalento {
 
-using Apps::Session;
+using Measuring::Session;
 
 namespace {
 
@@ -61,7 +61,7 @@ const Session *ViewerController::session() const
     return document && document->session ? &*document->session : nullptr;
 }
 
-const Apps::Measurement *ViewerController::measurement() const
+const Measuring::Measurement *ViewerController::measurement() const
 {
     return session() ? &current()->measurement : nullptr;
 }
@@ -89,7 +89,7 @@ QString ViewerController::pictureProblem() const
 QVariantList ViewerController::kinds() const
 {
     QVariantList list;
-    for (const Apps::MeasurementKind &kind : Apps::measurementKinds()) {
+    for (const Measuring::MeasurementKind &kind : Measuring::measurementKinds()) {
         list.append(QVariantMap{{QStringLiteral("name"), kind.name},
                                 {QStringLiteral("title"), kind.title},
                                 {QStringLiteral("description"), kind.description}});
@@ -119,13 +119,13 @@ bool ViewerController::hasModel() const
 
 QString ViewerController::value() const
 {
-    const Apps::Measurement *measured = measurement();
+    const Measuring::Measurement *measured = measurement();
     return measured && !measured->values.isEmpty() ? measured->values.first().text : QString();
 }
 
 QString ViewerController::secondValue() const
 {
-    const Apps::Measurement *measured = measurement();
+    const Measuring::Measurement *measured = measurement();
     return measured && measured->values.size() > 1 ? measured->values.at(1).text : QString();
 }
 
@@ -136,7 +136,7 @@ bool ViewerController::isImperial() const
 
 bool ViewerController::hasScale() const
 {
-    return isReady() && Apps::hasScale(*m_item);
+    return isReady() && Measuring::hasScale(*m_item);
 }
 
 QString ViewerController::scaleText() const
@@ -166,7 +166,7 @@ int ViewerController::statusLevel() const
     if (!m_notice.isEmpty()) {
         return static_cast<int>(m_noticeLevel);
     }
-    const bool lacksScale = isReady() && measurement()->state == Apps::MeasureState::NoScale;
+    const bool lacksScale = isReady() && measurement()->state == Measuring::MeasureState::NoScale;
     return static_cast<int>(lacksScale ? Level::Warning : Level::Information);
 }
 
@@ -219,13 +219,13 @@ void ViewerController::show(const Session &session)
     document->session = session;
     m_notice.clear();
     if (m_item && m_picture) {
-        const QVector<QPointF> missed = Apps::applySession(*document->session, *m_item);
+        const QVector<QPointF> missed = Measuring::applySession(*document->session, *m_item);
         if (!missed.isEmpty()) {
             m_noticeLevel = Level::Warning;
             m_notice = tr("%n point(s) of the session meet no wall and were left out.", nullptr,
                           missed.size());
         }
-        document->measurement = Apps::measure(*m_item);
+        document->measurement = Measuring::measure(*m_item);
     }
     if (m_selectedPoint >= points().size()) {
         m_selectedPoint = -1;
@@ -249,12 +249,12 @@ void ViewerController::notifyChanged()
 void ViewerController::pickPointsAnew()
 {
     Session &shown = *current()->session;
-    const QVector<Apps::SessionPoint> clicked = shown.points;
+    const QVector<Measuring::SessionPoint> clicked = shown.points;
     const int count = isClosedPolygon() ? clicked.size() - 1 : clicked.size();
     for (int i = 0; i < count; ++i) {
-        Apps::movePoint(shown, *m_item, i, clicked.at(i).pixel);
+        Measuring::movePoint(shown, *m_item, i, clicked.at(i).pixel);
     }
-    current()->measurement = Apps::measure(*m_item);
+    current()->measurement = Measuring::measure(*m_item);
 }
 
 void ViewerController::preview(const Session &session, bool movesModel)
@@ -315,7 +315,7 @@ void ViewerController::takeItemDiameter()
 
 void ViewerController::chooseKind(const QString &name)
 {
-    const Apps::MeasurementKind *kind = Apps::findMeasurementKind(name);
+    const Measuring::MeasurementKind *kind = Measuring::findMeasurementKind(name);
     if (!isReady() || !kind || session()->kind == name) {
         return;
     }
@@ -333,7 +333,7 @@ void ViewerController::chooseKind(const QString &name)
 
 void ViewerController::chooseKindNumber(int number)
 {
-    const auto &kinds = Apps::measurementKinds();
+    const auto &kinds = Measuring::measurementKinds();
     if (number >= 1 && number <= kinds.size()) {
         chooseKind(kinds.at(number - 1).name);
     }

@@ -5,8 +5,8 @@
 #include "PictureProvider.h"
 #include "ViewerStore.h"
 
-#include "session/OutputFile.h"
-#include "session/Picture.h"
+#include "measuring/OutputFile.h"
+#include "measuring/Picture.h"
 
 #include <zalento/item/ZaItem.h>
 
@@ -151,8 +151,8 @@ public:
     void setWindowSize(const QSize &size);
 
     /** The session of the picture on view; nothing without a picture. */
-    const Apps::Session *session() const;
-    const Apps::Measurement *measurement() const;
+    const Measuring::Session *session() const;
+    const Measuring::Measurement *measurement() const;
 
     /** @name Pictures and files */
     /** @{ */
@@ -247,15 +247,15 @@ private:
 
     Document *current() const;
     bool isReady() const;
-    Apps::Session sessionCopy() const;
-    Apps::Session newSession() const;
+    Measuring::Session sessionCopy() const;
+    Measuring::Session newSession() const;
 
-    void show(const Apps::Session &session);
+    void show(const Measuring::Session &session);
     void notifyChanged();
     void pickPointsAnew();
-    void preview(const Apps::Session &session, bool movesModel);
+    void preview(const Measuring::Session &session, bool movesModel);
     void finishGesture(const QString &name, int mergeNumber = -1);
-    void change(const QString &name, const Apps::Session &session, bool movesModel,
+    void change(const QString &name, const Measuring::Session &session, bool movesModel,
                 int mergeNumber = -1);
     void takeItemDiameter();
     void notice(Level level, const QString &text);
@@ -265,7 +265,7 @@ private:
     void leavePicture();
     void loadPictureOf(Document &document);
     void loadSidecar(Document &document);
-    void warnOfOtherPicture(Document &document, Apps::Session &session);
+    void warnOfOtherPicture(Document &document, Measuring::Session &session);
     QString saveQuestion(const Document &document) const;
     bool write(Document &document);
     bool report(const QString &problem, const QString &done);
@@ -284,11 +284,11 @@ private:
     QPointer<ZaItem> m_item;
     std::vector<std::unique_ptr<Document>> m_documents;
     int m_index = -1;
-    std::optional<Apps::Picture> m_picture;
+    std::optional<Measuring::Picture> m_picture;
     int m_pictureNumber = 0;
     int m_revision = 0;
 
-    std::optional<Apps::Session> m_gestureStart;
+    std::optional<Measuring::Session> m_gestureStart;
     QPointF m_dragStart;
     QPointF m_dragAnchor;
     int m_draggedPoint = -1;

@@ -6,7 +6,7 @@
 
 namespace Drevon::Zalento {
 
-using Apps::Session;
+using Measuring::Session;
 
 // The scale and the laser spots lie in the picture; everything else is about the model.
 bool ViewerController::movesModel(const QString &fieldName)

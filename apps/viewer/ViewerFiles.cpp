@@ -3,11 +3,11 @@
 #include "ValueTable.h"
 #include "ViewerController.h"
 
-#include "session/CalibrationFile.h"
-#include "session/MeasurementKind.h"
-#include "session/OverlayExport.h"
-#include "session/SessionFile.h"
-#include "session/SessionItem.h"
+#include "measuring/CalibrationFile.h"
+#include "measuring/Kind.h"
+#include "measuring/OverlayExport.h"
+#include "measuring/Replay.h"
+#include "measuring/SessionFile.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -17,7 +17,7 @@
 
 namespace Drevon::Zalento {
 
-using Apps::Session;
+using Measuring::Session;
 
 namespace {
 
@@ -89,7 +89,7 @@ void ViewerController::appendPath(const QString &path, int &firstShown)
     QString sessionPath;
     if (path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive)) {
         QString problem;
-        const std::optional<Session> session = Apps::loadSession(path, problem);
+        const std::optional<Session> session = Measuring::loadSession(path, problem);
         if (!session || session->picture.path.isEmpty()) {
             notice(Level::Error, session ? tr("%1 names no picture.").arg(path) : problem);
             return;
@@ -140,7 +140,7 @@ void ViewerController::showPicture(int index)
         warnOfOtherPicture(document, *document.session);
     }
     if (m_item && m_picture) {
-        Apps::layOutItem(*m_item, m_picture->image.size());
+        Measuring::layOutItem(*m_item, m_picture->image.size());
     }
     const QString warning = m_notice;
     const Level level = m_noticeLevel;
@@ -168,7 +168,7 @@ void ViewerController::leavePicture()
 void ViewerController::loadPictureOf(Document &document)
 {
     document.problem.clear();
-    m_picture = Apps::loadPicture(document.picturePath, document.problem);
+    m_picture = Measuring::loadPicture(document.picturePath, document.problem);
     ++m_pictureNumber;
     if (m_provider) {
         m_provider->setPicture(picture());
@@ -191,7 +191,7 @@ void ViewerController::loadSidecar(Document &document)
         return;
     }
     QString problem;
-    std::optional<Session> saved = Apps::loadSession(document.sessionPath, problem);
+    std::optional<Session> saved = Measuring::loadSession(document.sessionPath, problem);
     if (!saved) {
         document.overwriteWarning =
             tr("The session that is there cannot be read (%1). Saving replaces it.").arg(problem);
@@ -206,7 +206,7 @@ void ViewerController::loadSidecar(Document &document)
 // What was measured on another picture is taken over to the one on view.
 void ViewerController::warnOfOtherPicture(Document &document, Session &session)
 {
-    const QString difference = Apps::pictureDifference(session.picture, m_picture->identity);
+    const QString difference = Measuring::pictureDifference(session.picture, m_picture->identity);
     if (!difference.isEmpty()) {
         document.overwriteWarning = tr("The measurement in %1 was made on another picture: %2. "
                                        "Saving takes it over to this one.")
@@ -226,7 +226,7 @@ Session ViewerController::newSession() const
         fresh.diameterMM = last->diameterMM;
         fresh.fovYDEG = last->fovYDEG;
         fresh.calibrationText = last->calibrationText;
-        const auto *kind = Apps::findMeasurementKind(fresh.kind);
+        const auto *kind = Measuring::findMeasurementKind(fresh.kind);
         fresh.percentage = kind ? kind->initialPercentage : fresh.percentage;
         fresh.angleDEG = kind ? kind->initialAngleDEG : fresh.angleDEG;
         return fresh;
@@ -235,7 +235,7 @@ Session ViewerController::newSession() const
     fresh.unit = display.MeasureUnit;
     fresh.fovYDEG = display.fovYDEG;
     fresh.diameterMM = display.pipeDiameterMM;
-    return Apps::sessionProblem(fresh).isEmpty() ? fresh : Session();
+    return Measuring::sessionProblem(fresh).isEmpty() ? fresh : Session();
 }
 
 // Saving
@@ -300,8 +300,8 @@ bool ViewerController::saveAs(const QString &path)
 
 bool ViewerController::write(Document &document)
 {
-    const QString problem =
-        Apps::saveSession(*document.session, document.sessionPath, Apps::Overwrite::Allow);
+    const QString problem = Measuring::saveSession(*document.session, document.sessionPath,
+                                                   Measuring::Overwrite::Allow);
     if (problem.isEmpty()) {
         document.overwriteWarning.clear();
         document.sessionStamp = stampOf(document.sessionPath);
@@ -344,7 +344,7 @@ QString ViewerController::suggestedPath(const QString &what) const
     }
     const QFileInfo info(document->picturePath);
     if (what == QLatin1String("png") || what == QLatin1String("svg")) {
-        return QFileInfo(Apps::overlayPathOf(document->picturePath, QString(), what))
+        return QFileInfo(Measuring::overlayPathOf(document->picturePath, QString(), what))
             .absoluteFilePath();
     }
     return info.absoluteDir().filePath(QStringLiteral("measurements.") + what);
@@ -358,17 +358,17 @@ bool ViewerController::exportTo(const QString &what, const QString &path)
     if (!isReady()) {
         return false;
     }
-    return report(Apps::writeFile(path, exported(what), Apps::Overwrite::Allow),
+    return report(Measuring::writeFile(path, exported(what), Measuring::Overwrite::Allow),
                   tr("Written: %1").arg(path));
 }
 
 QByteArray ViewerController::exported(const QString &what)
 {
     if (what == QLatin1String("png")) {
-        return Apps::overlayPng(*m_item, m_picture->image);
+        return Measuring::overlayPng(*m_item, m_picture->image);
     }
     if (what == QLatin1String("svg")) {
-        return Apps::overlaySvg(*m_item, m_picture->image.size());
+        return Measuring::overlaySvg(*m_item, m_picture->image.size());
     }
     QVector<ValueRow> rows;
     for (const auto &document : m_documents) {
@@ -431,7 +431,7 @@ QString ViewerController::loadRecord(const QString &path)
 void ViewerController::loadCalibration(const QString &path)
 {
     QString problem;
-    const std::optional<QString> text = Apps::loadCalibration(path, problem);
+    const std::optional<QString> text = Measuring::loadCalibration(path, problem);
     if (!text) {
         notice(Level::Error, problem);
     }

@@ -3,8 +3,8 @@
 
 #include "ModelDrag.h"
 
-#include "session/MeasurementKind.h"
-#include "session/SessionItem.h"
+#include "measuring/Kind.h"
+#include "measuring/Replay.h"
 
 #include <QLineF>
 
@@ -12,7 +12,7 @@
 
 namespace Drevon::Zalento {
 
-using Apps::Session;
+using Measuring::Session;
 
 namespace {
 
@@ -33,7 +33,7 @@ void ViewerController::click(const QPointF &pixel)
         notice(Level::Warning, tr("That is beside the picture."));
         return;
     }
-    const Apps::MeasurementKind *kind = Apps::findMeasurementKind(session()->kind);
+    const Measuring::MeasurementKind *kind = Measuring::findMeasurementKind(session()->kind);
     if (m_laserSpotsExpected > 0) {
         addLaserSpot(pixel);
     } else if (kind && kind->usesPoints) {
@@ -48,7 +48,7 @@ void ViewerController::click(const QPointF &pixel)
 void ViewerController::setPointAt(const QPointF &pixel)
 {
     Session session = sessionCopy();
-    if (Apps::clickPoint(session, *m_item, pixel) == Apps::ClickResult::Missed) {
+    if (Measuring::clickPoint(session, *m_item, pixel) == Measuring::ClickResult::Missed) {
         notice(Level::Warning, tr("The pipe's wall is not there: no point was set."));
         return;
     }
@@ -67,16 +67,16 @@ void ViewerController::setWaterLineAt(const QPointF &pixel)
     Session picked = sessionCopy();
     picked.kind = QStringLiteral("PipeDimension");
     picked.points.clear();
-    Apps::applySession(picked, *m_item);
-    const Apps::ClickResult result = Apps::clickPoint(picked, *m_item, pixel);
+    Measuring::applySession(picked, *m_item);
+    const Measuring::ClickResult result = Measuring::clickPoint(picked, *m_item, pixel);
     Session session = sessionCopy();
-    if (result != Apps::ClickResult::Missed) {
+    if (result != Measuring::ClickResult::Missed) {
         const double heightMM = picked.points.last().position->y * mmPerMetre;
         session.percentage =
             std::clamp((heightMM / session.diameterMM + 0.5) * percentPerOne, 0.0, percentPerOne);
     }
     change(tr("Water level"), session, false);
-    if (result == Apps::ClickResult::Missed) {
+    if (result == Measuring::ClickResult::Missed) {
         notice(Level::Warning, tr("The pipe's wall is not there: the level stays."));
     }
 }
@@ -126,7 +126,7 @@ void ViewerController::dragTo(const QPointF &pixel)
         return;
     }
     Session session = sessionCopy();
-    if (Apps::movePoint(session, *m_item, m_draggedPoint, m_dragAnchor + moved)) {
+    if (Measuring::movePoint(session, *m_item, m_draggedPoint, m_dragAnchor + moved)) {
         preview(session, false);
     }
 }
@@ -191,7 +191,7 @@ bool ViewerController::nudge(double dx, double dy, bool isRepeated)
     }
     Session session = sessionCopy();
     const QPointF pixel = session.points.at(m_selectedPoint).pixel + QPointF(dx, dy);
-    if (Apps::movePoint(session, *m_item, m_selectedPoint, pixel)) {
+    if (Measuring::movePoint(session, *m_item, m_selectedPoint, pixel)) {
         change(tr("Nudge point"), session, false, m_nudgeNumber);
     } else {
         notice(Level::Warning, tr("The pipe's wall ends there."));
@@ -220,7 +220,7 @@ void ViewerController::addLaserSpot(const QPointF &pixel)
         return;
     }
     QString problem;
-    const std::optional<double> scale = Apps::laserScale(
+    const std::optional<double> scale = Measuring::laserScale(
         *session(), *m_item, m_laserSpots.at(0).toPointF(), m_laserSpots.at(1).toPointF(), problem);
     m_laserSpots.clear();
     if (!scale) {

@@ -1,7 +1,7 @@
 // The programs as processes, from their start to their end: the time that passes, the processor's
 // time, and the most memory that one of them holds.
-#include "session/SessionFile.h"
-#include "session/SessionItem.h"
+#include "measuring/SessionFile.h"
+#include "measuring/Replay.h"
 #include "support/PaintRecorder.h"
 #include "support/require.h"
 #include "zalento/item/ZaItem.h"
@@ -24,7 +24,7 @@
 #include <vector>
 
 using namespace Drevon::Zalento;
-using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Measuring;
 using Benchmarks::require;
 using Test::PaintCall;
 

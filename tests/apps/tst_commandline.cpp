@@ -2,7 +2,7 @@
 #include "RunProgram.h"
 
 #include "measure/CommandLine.h"
-#include "session/SessionJson.h"
+#include "measuring/SessionJson.h"
 #include "support/TestCase.h"
 
 #include <QRegularExpression>
@@ -10,6 +10,7 @@
 
 using namespace Drevon::Zalento;
 using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Measuring;
 using namespace Drevon::Zalento::Test;
 
 namespace {

@@ -1,9 +1,9 @@
 #include "PictureFiles.h"
 #include "RunProgram.h"
 
-#include "session/MeasuredValues.h"
-#include "session/SessionFile.h"
-#include "session/SessionItem.h"
+#include "measuring/Measurement.h"
+#include "measuring/Replay.h"
+#include "measuring/SessionFile.h"
 #include "support/TestCase.h"
 #include "support/Tolerances.h"
 
@@ -12,6 +12,7 @@
 
 using namespace Drevon::Zalento;
 using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Measuring;
 using namespace Drevon::Zalento::Test;
 
 namespace {

@@ -1,7 +1,7 @@
 // The built program itself: what main() sets up before the rest runs.
 #include "PictureFiles.h"
 
-#include "session/SessionFile.h"
+#include "measuring/SessionFile.h"
 #include "support/TestCase.h"
 
 #include <QProcess>
@@ -14,7 +14,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Measuring;
 using namespace Drevon::Zalento::Test;
 
 namespace {

@@ -1,6 +1,6 @@
 #include "PictureFiles.h"
 
-#include "session/Picture.h"
+#include "measuring/Picture.h"
 #include "support/TestCase.h"
 
 #include <QBuffer>
@@ -10,7 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Measuring;
 using namespace Drevon::Zalento::Test;
 
 namespace {

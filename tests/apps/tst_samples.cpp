@@ -2,7 +2,7 @@
 #include "PictureFiles.h"
 #include "RunProgram.h"
 
-#include "session/SessionFile.h"
+#include "measuring/SessionFile.h"
 #include "support/TestCase.h"
 
 #include <QPainterPath>
@@ -13,7 +13,7 @@
 #include <cmath>
 
 using namespace Drevon::Zalento;
-using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Measuring;
 using namespace Drevon::Zalento::Test;
 
 namespace {

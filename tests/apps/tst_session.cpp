@@ -1,8 +1,8 @@
 #include "PictureFiles.h"
 
-#include "session/CalibrationFile.h"
-#include "session/SessionFile.h"
-#include "session/SessionJson.h"
+#include "measuring/CalibrationFile.h"
+#include "measuring/SessionFile.h"
+#include "measuring/SessionJson.h"
 #include "support/TestCase.h"
 #include "support/Tolerances.h"
 
@@ -19,10 +19,10 @@
 #include <unistd.h>
 
 using namespace Drevon::Zalento;
-using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Measuring;
 using namespace Drevon::Zalento::Test;
 
-Q_DECLARE_METATYPE(Drevon::Zalento::Apps::Session)
+Q_DECLARE_METATYPE(Drevon::Zalento::Measuring::Session)
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include "PictureFiles.h"
 
-#include "session/MeasuredValues.h"
-#include "session/MeasurementKind.h"
-#include "session/OverlayExport.h"
-#include "session/SessionItem.h"
-#include "session/SessionJson.h"
+#include "measuring/Kind.h"
+#include "measuring/Measurement.h"
+#include "measuring/OverlayExport.h"
+#include "measuring/Replay.h"
+#include "measuring/SessionJson.h"
 #include "support/TestCase.h"
 #include "support/Tolerances.h"
 
@@ -13,10 +13,10 @@
 #include <cmath>
 
 using namespace Drevon::Zalento;
-using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Measuring;
 using namespace Drevon::Zalento::Test;
 
-Q_DECLARE_METATYPE(Drevon::Zalento::Apps::Session)
+Q_DECLARE_METATYPE(Drevon::Zalento::Measuring::Session)
 
 namespace {
 

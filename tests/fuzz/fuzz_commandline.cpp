@@ -10,6 +10,7 @@
 
 using namespace Drevon::Zalento;
 using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Measuring;
 
 namespace {
 

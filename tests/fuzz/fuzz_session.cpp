@@ -1,8 +1,8 @@
 // The text of a session file.
 #include "FuzzInput.h"
-#include "session/SessionFile.h"
-#include "session/SessionItem.h"
-#include "session/SessionJson.h"
+#include "measuring/SessionFile.h"
+#include "measuring/Replay.h"
+#include "measuring/SessionJson.h"
 
 #include <QGuiApplication>
 #include <QJsonArray>
@@ -10,7 +10,7 @@
 #include <QRegularExpression>
 
 using namespace Drevon::Zalento;
-using namespace Drevon::Zalento::Apps;
+using namespace Drevon::Zalento::Measuring;
 
 namespace {
 

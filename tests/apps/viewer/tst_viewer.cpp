@@ -1,7 +1,7 @@
 // The viewer as an operator meets it: in a window, with mouse, keys and fingers.
 #include "ViewerDriver.h"
 
-#include "session/SessionFile.h"
+#include "measuring/SessionFile.h"
 #include "support/TestCase.h"
 
 #include <QAccessible>
@@ -25,7 +25,7 @@ Q_DECLARE_METATYPE(Block)
 
 namespace Drevon::Zalento::Test {
 
-using Apps::Session;
+using Measuring::Session;
 
 namespace {
 
@@ -64,7 +64,7 @@ QVector<QPointF> truePixels(const QString &sample, const QString &way)
 
 double number(const ViewerController &viewer)
 {
-    const Apps::Measurement *measured = viewer.measurement();
+    const Measuring::Measurement *measured = viewer.measurement();
     return measured && !measured->values.isEmpty() ? measured->values.first().number : -1.0;
 }
 
@@ -472,7 +472,7 @@ void TestViewer::nothingIsLostUnlessConfirmed()
     ViewerDriver d;
     const QString picture = d.openSample("dimension.jpg");
     d.click(110, 288);
-    const QString sessionPath = Apps::sessionPathOf(picture);
+    const QString sessionPath = Measuring::sessionPathOf(picture);
     d.window()->close();
     d.waitForDialog("unsavedDialog");
     d.screenshot("unsaved-question");
@@ -615,7 +615,7 @@ void TestViewer::pictureChangesWhileItIsOpen()
     QCOMPARE(questions.size(), 2);
     QVERIFY(d.viewer.saveAnyway());
     QString problem;
-    const auto saved = Apps::loadSession(Apps::sessionPathOf(picture), problem);
+    const auto saved = Measuring::loadSession(Measuring::sessionPathOf(picture), problem);
     QVERIFY2(saved && saved->points == measured.points, qPrintable(problem));
 }
 

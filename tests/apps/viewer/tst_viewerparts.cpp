@@ -5,7 +5,7 @@
 #include "ValueTable.h"
 #include "ViewerStore.h"
 
-#include "session/SessionItem.h"
+#include "measuring/Replay.h"
 #include "support/TestCase.h"
 
 #include <QSettings>
@@ -33,14 +33,14 @@ private slots:
 namespace {
 
 // Where points on the pipe's axis are seen: in the mouth and at the far end.
-QVector<QPointF> seenAxis(Apps::Session session, const QSize &pictureSize)
+QVector<QPointF> seenAxis(Measuring::Session session, const QSize &pictureSize)
 {
     constexpr double farEndM = -3.0;
     session.points = {{{}, Vec3(0, 0, 0), {}}, {{}, Vec3(0, 0, farEndM), {}}};
     ZaItem item;
-    Apps::layOutItem(item, pictureSize);
-    Apps::applySession(session, item);
-    Apps::settle(item);
+    Measuring::layOutItem(item, pictureSize);
+    Measuring::applySession(session, item);
+    Measuring::settle(item);
     QVector<QPointF> seen;
     for (const HitPoint &point : static_cast<Pipe &>(item.getCurrentViewObject()).hitPoints) {
         seen.append(QPointF(point.screenPos.x, point.screenPos.y));
@@ -68,7 +68,7 @@ void TestViewerParts::modelFollowsThePointer()
     QFETCH(double, fovYDEG);
     QFETCH(bool, isFarEnd);
     QFETCH(QPointF, moved);
-    Apps::Session start;
+    Measuring::Session start;
     start.fovYDEG = fovYDEG;
     start.rearCircleActive = isFarEnd;
     const int end = isFarEnd ? 1 : 0;
@@ -106,7 +106,7 @@ void TestViewerParts::viewKeepsThePictureInSight()
 // A shown text that is committed again means the same number, in both units.
 void TestViewerParts::fieldsReadBackWhatTheyShow()
 {
-    Apps::Session session;
+    Measuring::Session session;
     session.diameterMM = 254.0;
     session.clockDEG = 285;
     session.calibrationText = QStringLiteral("LASER;;;12.5");
@@ -119,7 +119,7 @@ void TestViewerParts::fieldsReadBackWhatTheyShow()
                 const Field field = fieldNamed(name, session);
                 QString problem;
                 const auto value = readField(field, fieldText(field, session), problem);
-                Apps::Session again = session;
+                Measuring::Session again = session;
                 field.set(again, value);
                 QVERIFY2(problem.isEmpty() && again == session, qPrintable(name + problem));
             }
@@ -131,7 +131,7 @@ void TestViewerParts::fieldsReadBackWhatTheyShow()
 
 void TestViewerParts::csvKeepsFieldsApart()
 {
-    Apps::Measurement measurement;
+    Measuring::Measurement measurement;
     measurement.values = {
         {QStringLiteral("crackWidth"), 0.1, QStringLiteral("mm"), QStringLiteral("0,10\"")}};
     const QByteArray csv =

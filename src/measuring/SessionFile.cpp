@@ -1,12 +1,12 @@
-#include "session/SessionFile.h"
+#include "measuring/SessionFile.h"
 
-#include "session/SessionJson.h"
+#include "measuring/SessionJson.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 namespace {
 
@@ -104,4 +104,4 @@ QString pictureDifference(const PictureIdentity &expected, const PictureIdentity
     return {};
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

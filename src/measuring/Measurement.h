@@ -1,11 +1,13 @@
 #pragma once
 
+#include "measuring/Export.h"
+
 #include "zalento/item/ZaItem.h"
 
 #include <QString>
 #include <QVector>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 /** A measured value. */
 struct MeasuredValue
@@ -31,9 +33,9 @@ struct Measurement
 };
 
 /** Settles the item and reads what it measures. GUI thread only. */
-Measurement measure(ZaItem &item);
+ZALENTO_MEASURING_EXPORT Measurement measure(ZaItem &item);
 
 /** True when the item knows how many millimetres a picture pixel has; for the kind CrackWidth. */
-bool hasScale(ZaItem &item);
+ZALENTO_MEASURING_EXPORT bool hasScale(ZaItem &item);
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "measuring/Export.h"
+
 #include <QString>
 #include <QVector>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 /** Something that can be measured, and what the operator sets for it. */
 struct MeasurementKind
@@ -25,9 +27,9 @@ struct MeasurementKind
 };
 
 /** The six kinds, in the order in which they are offered. */
-const QVector<MeasurementKind> &measurementKinds();
+ZALENTO_MEASURING_EXPORT const QVector<MeasurementKind> &measurementKinds();
 
 /** The kind of this exact name; null for any other. */
-const MeasurementKind *findMeasurementKind(const QString &name);
+ZALENTO_MEASURING_EXPORT const MeasurementKind *findMeasurementKind(const QString &name);
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

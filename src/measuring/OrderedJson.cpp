@@ -1,9 +1,9 @@
-#include "session/OrderedJson.h"
+#include "measuring/OrderedJson.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 namespace {
 
@@ -69,4 +69,4 @@ QByteArray OrderedJson::joined(const QByteArray &before, const QByteArray &after
     return text;
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

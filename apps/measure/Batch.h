@@ -3,8 +3,8 @@
 #include "measure/CommandLine.h"
 #include "measure/PictureList.h"
 
-#include "session/MeasuredValues.h"
-#include "session/Session.h"
+#include "measuring/Measurement.h"
+#include "measuring/Session.h"
 
 #include <QSet>
 #include <QString>
@@ -32,14 +32,14 @@ struct PictureResult
 };
 
 /** Measures pictures one after the other, as one command line asks for. */
-class Measuring
+class Batch
 {
 public:
     /**
      * @param command with the calibration text filled in
      * @param session to start from for every picture; none: the one beside each
      */
-    Measuring(const CommandLine &command, const std::optional<Session> &session);
+    Batch(const CommandLine &command, const std::optional<Session> &session);
 
     PictureResult run(const PictureRequest &request);
 

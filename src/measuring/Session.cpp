@@ -1,13 +1,13 @@
-#include "session/Session.h"
+#include "measuring/Session.h"
 
-#include "session/MeasurementKind.h"
+#include "measuring/Kind.h"
 
 #include <QStringList>
 
 #include <cmath>
 #include <tuple>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 namespace {
 
@@ -208,4 +208,4 @@ QString sessionProblem(const Session &session)
     return problem;
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

@@ -1,6 +1,6 @@
-#include "session/Picture.h"
+#include "measuring/Picture.h"
 
-#include "session/CompletePicture.h"
+#include "measuring/CompletePicture.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
@@ -8,7 +8,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 namespace {
 
@@ -134,4 +134,4 @@ std::optional<Picture> loadPicture(const QString &path, QString &problem)
     return picture;
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

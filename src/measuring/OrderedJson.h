@@ -1,19 +1,21 @@
 #pragma once
 
+#include "measuring/Export.h"
+
 #include <QByteArray>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
 #include <QVector>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 /**
  * A JSON object that keeps its members in the order in which they were added, one a line.
  * QJsonObject sorts them. Numbers are written so that they read back bit for bit, but for the sign
  * of zero.
  */
-class OrderedJson
+class ZALENTO_MEASURING_EXPORT OrderedJson
 {
 public:
     void add(const QString &name, const QJsonValue &value);
@@ -35,9 +37,10 @@ private:
 };
 
 /** The text of one value, without line breaks. */
-QByteArray jsonText(const QJsonValue &value);
+ZALENTO_MEASURING_EXPORT QByteArray jsonText(const QJsonValue &value);
 
 /** An array of values that are text already: one a line between brackets. */
-QByteArray jsonLines(const QVector<QByteArray> &values, const QByteArray &indent);
+ZALENTO_MEASURING_EXPORT QByteArray jsonLines(const QVector<QByteArray> &values,
+                                              const QByteArray &indent);
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

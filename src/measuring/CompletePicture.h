@@ -1,14 +1,17 @@
 #pragma once
 
+#include "measuring/Export.h"
+
 #include <QByteArray>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 /**
  * False when a file's content ends before its picture does. Decoders fill what is missing with grey
  * or black and report success: JPEG (no end marker) and BMP (fewer bytes than the header promises).
  * True for every other format, whose decoders tell.
  */
-bool isCompletePicture(const QByteArray &content, const QByteArray &format);
+ZALENTO_MEASURING_EXPORT bool isCompletePicture(const QByteArray &content,
+                                                const QByteArray &format);
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

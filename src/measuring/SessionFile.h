@@ -1,37 +1,40 @@
 #pragma once
 
-#include "session/OutputFile.h"
-#include "session/Session.h"
+#include "measuring/Export.h"
+#include "measuring/OutputFile.h"
+#include "measuring/Session.h"
 
 #include <QString>
 
 #include <optional>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 /** End of every session file's name. */
-extern const char *const sessionSuffix;
+extern ZALENTO_MEASURING_EXPORT const char *const sessionSuffix;
 
 /** Where a picture's session stands: "<picture file name>.zalento.json" beside it. */
-QString sessionPathOf(const QString &picturePath);
+ZALENTO_MEASURING_EXPORT QString sessionPathOf(const QString &picturePath);
 
 /**
  * Loads a session file. The path of its picture becomes one from the working folder, or absolute.
  * @param problem on failure: what is wrong, naming the file
  */
-std::optional<Session> loadSession(const QString &path, QString &problem);
+ZALENTO_MEASURING_EXPORT std::optional<Session> loadSession(const QString &path, QString &problem);
 
 /**
  * Saves a session; its picture's path is written relative to the session's folder. Either the whole
  * file is written or the old one stays. The picture is not touched.
  * @return what went wrong; empty on success
  */
-QString saveSession(const Session &session, const QString &path, Overwrite overwrite);
+ZALENTO_MEASURING_EXPORT QString saveSession(const Session &session, const QString &path,
+                                             Overwrite overwrite);
 
 /**
  * Compares the picture that a session was made on with the one at hand.
  * @return what differs, for a warning; empty when they are the same or the session names none
  */
-QString pictureDifference(const PictureIdentity &expected, const PictureIdentity &found);
+ZALENTO_MEASURING_EXPORT QString pictureDifference(const PictureIdentity &expected,
+                                                   const PictureIdentity &found);
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

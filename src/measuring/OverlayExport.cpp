@@ -1,4 +1,4 @@
-#include "session/OverlayExport.h"
+#include "measuring/OverlayExport.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QSvgGenerator>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 namespace {
 
@@ -58,4 +58,4 @@ QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize)
     return buffer.data();
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

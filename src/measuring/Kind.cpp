@@ -1,8 +1,8 @@
-#include "session/MeasurementKind.h"
+#include "measuring/Kind.h"
 
 #include <algorithm>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 namespace {
 
@@ -112,4 +112,4 @@ const MeasurementKind *findMeasurementKind(const QString &name)
     return found == kinds.end() ? nullptr : &*found;
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

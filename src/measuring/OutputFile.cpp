@@ -1,9 +1,9 @@
-#include "session/OutputFile.h"
+#include "measuring/OutputFile.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 QString writeFile(const QString &path, const QByteArray &content, Overwrite overwrite)
 {
@@ -22,4 +22,4 @@ QString writeFile(const QString &path, const QByteArray &content, Overwrite over
     return {};
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

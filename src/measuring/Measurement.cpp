@@ -1,12 +1,12 @@
-#include "session/MeasuredValues.h"
+#include "measuring/Measurement.h"
 
-#include "session/SessionItem.h"
+#include "measuring/Replay.h"
 
 #include "zalento/settings/UnitConv.h"
 
 #include <cmath>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 namespace {
 
@@ -131,4 +131,4 @@ Measurement measure(ZaItem &item)
     return pipeMeasurement(pipe, MeasureUnit(item.measureUnit()));
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

@@ -1,4 +1,4 @@
-#include "session/CalibrationFile.h"
+#include "measuring/CalibrationFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 namespace {
 
@@ -56,4 +56,4 @@ std::optional<QString> loadCalibration(const QString &path, QString &problem)
     return text;
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "session/Session.h"
+#include "measuring/Export.h"
+#include "measuring/Session.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -9,7 +10,7 @@
 
 #include <optional>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 /** A picture from inside a pipe. */
 struct Picture
@@ -22,12 +23,12 @@ struct Picture
 constexpr qint64 largestPictureMegapixels = 100;
 
 /** Formats of photographs that can be read, in lower case: "jpg", "png", ... */
-const QList<QByteArray> &pictureFormats();
+ZALENTO_MEASURING_EXPORT const QList<QByteArray> &pictureFormats();
 
 /**
  * Loads a picture.
  * @param problem on failure: what is wrong, naming the file
  */
-std::optional<Picture> loadPicture(const QString &path, QString &problem);
+ZALENTO_MEASURING_EXPORT std::optional<Picture> loadPicture(const QString &path, QString &problem);
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

@@ -1,11 +1,11 @@
-#include "session/SessionItem.h"
+#include "measuring/Replay.h"
 
-#include "session/MeasurementKind.h"
+#include "measuring/Kind.h"
 
 #include <QImage>
 #include <QPainter>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 namespace {
 
@@ -270,4 +270,4 @@ std::optional<double> laserScale(const Session &session, ZaItem &item, const QPo
     return problem.isEmpty() ? std::optional<double>(mmPerPixel) : std::nullopt;
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

@@ -1,6 +1,6 @@
-#include "session/SessionJson.h"
+#include "measuring/SessionJson.h"
 
-#include "session/OrderedJson.h"
+#include "measuring/OrderedJson.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -11,7 +11,7 @@
 #include <cmath>
 #include <limits>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 namespace {
 
@@ -377,4 +377,4 @@ std::optional<Session> sessionFromJson(const QByteArray &json, QString &problem)
     return problem.isEmpty() ? std::optional<Session>(session) : std::nullopt;
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

@@ -1,8 +1,8 @@
-#include "session/CompletePicture.h"
+#include "measuring/CompletePicture.h"
 
 #include <QtEndian>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 namespace {
 
@@ -82,4 +82,4 @@ bool isCompletePicture(const QByteArray &content, const QByteArray &format)
     return format != "bmp" || isCompleteBmp(content);
 }
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

@@ -1,9 +1,9 @@
-#include "measure/Measuring.h"
+#include "measure/Batch.h"
 
-#include "session/OverlayExport.h"
-#include "session/Picture.h"
-#include "session/SessionFile.h"
-#include "session/SessionItem.h"
+#include "measuring/OverlayExport.h"
+#include "measuring/Picture.h"
+#include "measuring/Replay.h"
+#include "measuring/SessionFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -83,7 +83,7 @@ QVector<QPointF> applyMoved(const Session *start, const SessionOptions &options,
 
 } // namespace
 
-struct Measuring::Work
+struct Batch::Work
 {
     PictureResult result;
     Picture picture;
@@ -92,12 +92,12 @@ struct Measuring::Work
     bool isOtherPicture = false; // than the one of the session
 };
 
-Measuring::Measuring(const CommandLine &command, const std::optional<Session> &session)
+Batch::Batch(const CommandLine &command, const std::optional<Session> &session)
     : m_command(command)
     , m_session(session)
 {}
 
-PictureResult Measuring::run(const PictureRequest &request)
+PictureResult Batch::run(const PictureRequest &request)
 {
     Work work;
     work.result.picture = request.path;
@@ -112,7 +112,7 @@ PictureResult Measuring::run(const PictureRequest &request)
     return work.result;
 }
 
-std::optional<Session> Measuring::startingSession(const PictureRequest &request, Work &work) const
+std::optional<Session> Batch::startingSession(const PictureRequest &request, Work &work) const
 {
     const QString beside = sessionPathOf(request.path);
     const bool readsBeside = !m_command.ignoresSessions && QFileInfo::exists(beside);
@@ -132,7 +132,7 @@ std::optional<Session> Measuring::startingSession(const PictureRequest &request,
     return session;
 }
 
-void Measuring::measurePicture(const Session *start, Work &work)
+void Batch::measurePicture(const Session *start, Work &work)
 {
     PictureResult &result = work.result;
     if (result.picture.isEmpty()) {
@@ -155,7 +155,7 @@ void Measuring::measurePicture(const Session *start, Work &work)
     measureSession(start, work);
 }
 
-void Measuring::measureSession(const Session *start, Work &work)
+void Batch::measureSession(const Session *start, Work &work)
 {
     PictureResult &result = work.result;
     if (!start && !m_command.session.kind) {
@@ -175,7 +175,7 @@ void Measuring::measureSession(const Session *start, Work &work)
     writeFiles(work);
 }
 
-bool Measuring::putOnItem(const Session *start, Work &work) const
+bool Batch::putOnItem(const Session *start, Work &work) const
 {
     work.result.message = mergeSession(start, work);
     if (work.result.message.isEmpty()) {
@@ -188,7 +188,7 @@ bool Measuring::putOnItem(const Session *start, Work &work) const
     return work.result.message.isEmpty();
 }
 
-QString Measuring::mergeSession(const Session *start, Work &work) const
+QString Batch::mergeSession(const Session *start, Work &work) const
 {
     const SessionOptions &options = m_command.session;
     Session &session = work.session;
@@ -214,7 +214,7 @@ QString Measuring::mergeSession(const Session *start, Work &work) const
     return {};
 }
 
-QString Measuring::takeLaserScale(Work &work) const
+QString Batch::takeLaserScale(Work &work) const
 {
     QString problem;
     const QVector<QPointF> &spots = m_command.session.laserSpots;
@@ -224,7 +224,7 @@ QString Measuring::takeLaserScale(Work &work) const
     return problem;
 }
 
-QString Measuring::placePoints(const Session *start, Work &work) const
+QString Batch::placePoints(const Session *start, Work &work) const
 {
     const int pointCount = work.session.points.size();
     const auto missed = applyMoved(start, m_command.session, work.session, work.item);
@@ -241,7 +241,7 @@ QString Measuring::placePoints(const Session *start, Work &work) const
 
 // Files
 
-void Measuring::writeFiles(Work &work)
+void Batch::writeFiles(Work &work)
 {
     PictureResult &result = work.result;
     if (m_command.writesPng) {
@@ -257,7 +257,7 @@ void Measuring::writeFiles(Work &work)
     }
 }
 
-bool Measuring::isFreeToWrite(const QString &path, PictureResult &result)
+bool Batch::isFreeToWrite(const QString &path, PictureResult &result)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     if (m_written.contains(absolute)) {
@@ -269,7 +269,7 @@ bool Measuring::isFreeToWrite(const QString &path, PictureResult &result)
     return true;
 }
 
-void Measuring::write(const QString &path, const QByteArray &content, PictureResult &result)
+void Batch::write(const QString &path, const QByteArray &content, PictureResult &result)
 {
     if (!isFreeToWrite(path, result)) {
         return;
@@ -280,14 +280,14 @@ void Measuring::write(const QString &path, const QByteArray &content, PictureRes
         problem.isEmpty() ? path : problem;
 }
 
-QString Measuring::pathInOutput(const QString &path) const
+QString Batch::pathInOutput(const QString &path) const
 {
     return m_command.outputFolder.isEmpty()
                ? path
                : QDir(m_command.outputFolder).filePath(QFileInfo(path).fileName());
 }
 
-void Measuring::saveSessionOf(Work &work)
+void Batch::saveSessionOf(Work &work)
 {
     PictureResult &result = work.result;
     const QString path = pathInOutput(sessionPathOf(result.picture));

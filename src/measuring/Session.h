@@ -1,5 +1,7 @@
 #pragma once
 
+#include "measuring/Export.h"
+
 #include "zalento/math/Vec3.h"
 #include "zalento/pipes/ViewStyle.h"
 #include "zalento/settings/MeasureUnit.h"
@@ -13,7 +15,7 @@
 
 #include <optional>
 
-namespace Drevon::Zalento::Apps {
+namespace Drevon::Zalento::Measuring {
 
 /** Which picture a session belongs to. */
 struct PictureIdentity
@@ -24,7 +26,7 @@ struct PictureIdentity
     QJsonObject unknownFields;
 };
 
-bool operator==(const PictureIdentity &a, const PictureIdentity &b);
+ZALENTO_MEASURING_EXPORT bool operator==(const PictureIdentity &a, const PictureIdentity &b);
 
 /** A measurement point of the straight pipe. */
 struct SessionPoint
@@ -39,7 +41,7 @@ struct SessionPoint
     QJsonObject unknownFields;
 };
 
-bool operator==(const SessionPoint &a, const SessionPoint &b);
+ZALENTO_MEASURING_EXPORT bool operator==(const SessionPoint &a, const SessionPoint &b);
 
 /**
  * Everything that a measurement on a picture needs. A value: cheap to copy, so that a copy serves
@@ -75,7 +77,7 @@ struct Session
     int schemaMinor = 0;       ///< minor version of the file it was read from
 };
 
-bool operator==(const Session &a, const Session &b);
+ZALENTO_MEASURING_EXPORT bool operator==(const Session &a, const Session &b);
 inline bool operator!=(const Session &a, const Session &b)
 {
     return !(a == b);
@@ -91,7 +93,7 @@ struct SessionNumber
 };
 
 /** Every number that a session always has. */
-const QVector<SessionNumber> &sessionNumbers();
+ZALENTO_MEASURING_EXPORT const QVector<SessionNumber> &sessionNumbers();
 
 /** Limits of Session::mmPerPixel. */
 constexpr double smallestMMPerPixel = 1e-6;
@@ -100,17 +102,21 @@ constexpr double largestMMPerPixel = 1e4;
 constexpr int largestClockDEG = 3600;
 
 /** Names of choices in files and on the command line. */
-QString unitName(MeasureUnit unit);
-std::optional<MeasureUnit> unitNamed(const QString &name); ///< "metric", "imperial"
-QString directionName(bool downstream);
-std::optional<bool> directionNamed(const QString &name); ///< "downstream" (true), "upstream"
-QString viewStyleName(ViewStyle style);
-std::optional<ViewStyle> viewStyleNamed(const QString &name); ///< "measure", "ends", "full"
+ZALENTO_MEASURING_EXPORT QString unitName(MeasureUnit unit);
+ZALENTO_MEASURING_EXPORT std::optional<MeasureUnit>
+unitNamed(const QString &name); ///< "metric", "imperial"
+ZALENTO_MEASURING_EXPORT QString directionName(bool downstream);
+ZALENTO_MEASURING_EXPORT std::optional<bool>
+directionNamed(const QString &name); ///< "downstream" (true), "upstream"
+ZALENTO_MEASURING_EXPORT QString viewStyleName(ViewStyle style);
+ZALENTO_MEASURING_EXPORT std::optional<ViewStyle>
+viewStyleNamed(const QString &name); ///< "measure", "ends", "full"
 
 /** What is wrong with the session: names the field and what was expected; empty when valid. */
-QString sessionProblem(const Session &session);
+ZALENTO_MEASURING_EXPORT QString sessionProblem(const Session &session);
 
 /** The same for one number: "<name>: expected a number from .. to .., found ..". */
-QString numberProblem(const QString &name, double value, double smallest, double largest);
+ZALENTO_MEASURING_EXPORT QString numberProblem(const QString &name, double value, double smallest,
+                                               double largest);
 
-} // namespace Drevon::Zalento::Apps
+} // namespace Drevon::Zalento::Measuring

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "measuring/Export.h"
+#include "measuring/OutputFile.h"
+
+#include "zalento/item/ZaItem.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+namespace Drevon::Zalento::Measuring {
+
+/** "<stem>.overlay.png" or "<stem>.overlay.svg" in @p folder; beside the picture when empty. */
+ZALENTO_MEASURING_EXPORT QString overlayPathOf(const QString &picturePath, const QString &folder,
+                                               const QString &suffix);
+
+/** The picture with the item's overlay over it, pixel for pixel. */
+ZALENTO_MEASURING_EXPORT QImage pictureWithOverlay(ZaItem &item, const QImage &picture);
+
+/** The same as a PNG file's bytes. */
+ZALENTO_MEASURING_EXPORT QByteArray overlayPng(ZaItem &item, const QImage &picture);
+
+/** The overlay alone, as vectors, in an SVG document of the picture's size. */
+ZALENTO_MEASURING_EXPORT QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize);
+
+} // namespace Drevon::Zalento::Measuring
