@@ -11,9 +11,6 @@ namespace Drevon::Zalento {
 
 namespace {
 
-// The modelled section of a pipe, in diameters.
-constexpr double lengthInDiameters = 10;
-
 // A lateral is drawn this much longer than it takes to leave the main pipe.
 constexpr double lateralLengthFactor = 1.25;
 

@@ -4,7 +4,7 @@
 #include "zalento/math/Mat4.h"
 #include "zalento/math/Vec2.h"
 #include "zalento/math/Vec3.h"
-#include "zalento/render/MeasureMode.h"
+#include "zalento/measure/MeasureMode.h"
 #include "zalento/render/MiniGL.h"
 
 #include <QPoint>
@@ -28,6 +28,8 @@ namespace Drevon::Zalento {
 class ZALENTO_EXPORT Cylinder
 {
 public:
+    static constexpr double lengthInDiameters = 10; ///< the section of a pipe that is modelled
+
     double diameterM = 0.0;
     double lengthM = 0.0;
     double lengthSquared = 0.0; ///< m²
@@ -92,6 +94,9 @@ public:
      * @name Picking
      * @c pixel is in item pixels from the viewport's top-left corner. @c rotation is the view
      * rotation with which the pipe is drawn: x and y in touch units, z the roll in degrees.
+     *
+     * The operations named ...At take a place between pixels, counted like them: (0, 0) is the
+     * centre of the first pixel.
      */
     /** @{ */
 
@@ -109,6 +114,7 @@ public:
      * @throws std::range_error for a camera without a viewing direction.
      */
     void rayVectors(QPoint pixel, const MiniGL &camera, Vec3 &origin, Vec3 &direction) const;
+    void rayVectorsAt(const Vec2 &place, const MiniGL &camera, Vec3 &origin, Vec3 &direction) const;
 
     /**
      * Unit direction of the axis after the view rotation.
@@ -129,6 +135,8 @@ public:
      *         finite. True for a parallel ray within the radius.
      */
     bool intersectRay(QPoint pixel, const MiniGL &camera, Vec3 &hitPoint, Vec3 rotation) const;
+    bool intersectRayAt(const Vec2 &place, const MiniGL &camera, Vec3 &hitPoint,
+                        Vec3 rotation) const;
 
     /**
      * Picks on the cross-section plane, in single precision.
@@ -138,6 +146,8 @@ public:
      *         not finite.
      */
     bool intersectPlaneRay(QPoint pixel, const MiniGL &camera, Vec3 &hitPoint, Vec3 rotation) const;
+    bool intersectPlaneRayAt(const Vec2 &place, const MiniGL &camera, Vec3 &hitPoint,
+                             Vec3 rotation) const;
 
     /** @} */
     /** @name Intersection with a lateral */

@@ -14,6 +14,11 @@ namespace Drevon::Zalento {
 
 namespace {
 
+Vec2 placeOf(const QPoint &pixel)
+{
+    return {static_cast<double>(pixel.x()), static_cast<double>(pixel.y())};
+}
+
 QVector3D toSinglePrecision(const Vec3 &v)
 {
     return {static_cast<float>(v.x), static_cast<float>(v.y), static_cast<float>(v.z)};
@@ -59,6 +64,12 @@ void Cylinder::closestIndex(int ring1, int index1, int ring2, int index2, const 
 
 void Cylinder::rayVectors(QPoint pixel, const MiniGL &camera, Vec3 &origin, Vec3 &direction) const
 {
+    rayVectorsAt(placeOf(pixel), camera, origin, direction);
+}
+
+void Cylinder::rayVectorsAt(const Vec2 &place, const MiniGL &camera, Vec3 &origin,
+                            Vec3 &direction) const
+{
     const double t = std::tan(camera.fovYDEG * radiansPerDegree * 0.5);
     const double halfWidth = camera.viewport.width() / camera.viewport.height() * t;
     const double pixelSize = 2 * halfWidth / camera.viewport.width();
@@ -75,7 +86,7 @@ void Cylinder::rayVectors(QPoint pixel, const MiniGL &camera, Vec3 &origin, Vec3
     // Centre of pixel (0, 0) at unit distance.
     const Vec3 corner =
         f - halfWidth * right + t * u + (pixelSize / 2) * right - (pixelSize / 2) * u;
-    Vec3 towards = corner + (pixel.x() * pixelSize) * right - (pixel.y() * pixelSize) * u;
+    Vec3 towards = corner + (place.x * pixelSize) * right - (place.y * pixelSize) * u;
     towards.normalize();
     origin = e;
     direction = towards;
@@ -106,12 +117,18 @@ Vec3 Cylinder::getHitPointPositionBeforeRotation(double fovYDEG, Vec3 rotation, 
 
 bool Cylinder::intersectRay(QPoint pixel, const MiniGL &camera, Vec3 &hitPoint, Vec3 rotation) const
 {
+    return intersectRayAt(placeOf(pixel), camera, hitPoint, rotation);
+}
+
+bool Cylinder::intersectRayAt(const Vec2 &place, const MiniGL &camera, Vec3 &hitPoint,
+                              Vec3 rotation) const
+{
     if (!hasExtent()) {
         return false;
     }
     Vec3 origin;
     Vec3 direction;
-    rayVectors(pixel, camera, origin, direction);
+    rayVectorsAt(place, camera, origin, direction);
     const Vec3 axis = getNormalVectorOfPlaneInTheCilinder(camera.fovYDEG, rotation);
     const Vec3 rc = origin - axisStart;
 
@@ -145,12 +162,18 @@ bool Cylinder::intersectRay(QPoint pixel, const MiniGL &camera, Vec3 &hitPoint, 
 bool Cylinder::intersectPlaneRay(QPoint pixel, const MiniGL &camera, Vec3 &hitPoint,
                                  Vec3 rotation) const
 {
+    return intersectPlaneRayAt(placeOf(pixel), camera, hitPoint, rotation);
+}
+
+bool Cylinder::intersectPlaneRayAt(const Vec2 &place, const MiniGL &camera, Vec3 &hitPoint,
+                                   Vec3 rotation) const
+{
     if (!hasExtent()) {
         return false;
     }
     Vec3 origin;
     Vec3 direction;
-    rayVectors(pixel, camera, origin, direction);
+    rayVectorsAt(place, camera, origin, direction);
     const double distance = lengthM * crossSectDistancePercent;
     const QVector3D normal =
         toSinglePrecision(getNormalVectorOfPlaneInTheCilinder(camera.fovYDEG, rotation));

@@ -1,6 +1,7 @@
 #include "zalento/item/MeasureMentSettings.h"
 
-#include "zalento/render/MeasureMode.h"
+#include "zalento/measure/MeasureMode.h"
+#include "zalento/pipes/ViewObject.h"
 
 #include <QHash>
 
@@ -8,11 +9,9 @@ namespace Drevon::Zalento {
 
 namespace {
 
-enum ViewObject { StraightPipe, Lateral, Bend };
-
 MeasureMentSettings settingsOf(ViewObject object, MeasureMode mode, ObservableType type)
 {
-    return {object, static_cast<int>(mode), static_cast<int>(type)};
+    return {static_cast<int>(object), static_cast<int>(mode), static_cast<int>(type)};
 }
 
 } // namespace
@@ -21,17 +20,17 @@ MeasureMentSettings measureMentSettingsOf(const QString &kind)
 {
     const QHash<QString, MeasureMentSettings> kinds{
         {QStringLiteral("CrackWidth"),
-         settingsOf(StraightPipe, MeasureMode::CrackWidth, ObservableType::Length)},
+         settingsOf(ViewObject::StraightPipe, MeasureMode::CrackWidth, ObservableType::Length)},
         {QStringLiteral("PipeDimension"),
-         settingsOf(StraightPipe, MeasureMode::PipeDimension, ObservableType::Length)},
-        {QStringLiteral("WaterLevel"),
-         settingsOf(StraightPipe, MeasureMode::WaterLevel, ObservableType::WaterLevelPercent)},
+         settingsOf(ViewObject::StraightPipe, MeasureMode::PipeDimension, ObservableType::Length)},
+        {QStringLiteral("WaterLevel"), settingsOf(ViewObject::StraightPipe, MeasureMode::WaterLevel,
+                                                  ObservableType::WaterLevelPercent)},
         {QStringLiteral("BranchAngle"),
-         settingsOf(Lateral, MeasureMode::NoMeasure, ObservableType::BranchAngle)},
+         settingsOf(ViewObject::Lateral, MeasureMode::NoMeasure, ObservableType::BranchAngle)},
         {QStringLiteral("BendAngle"),
-         settingsOf(Bend, MeasureMode::NoMeasure, ObservableType::BendAngle)},
+         settingsOf(ViewObject::Bend, MeasureMode::NoMeasure, ObservableType::BendAngle)},
         {QStringLiteral("CrossSection"),
-         settingsOf(StraightPipe, MeasureMode::CrossSection, ObservableType::Area)},
+         settingsOf(ViewObject::StraightPipe, MeasureMode::CrossSection, ObservableType::Area)},
     };
     return kinds.value(kind);
 }

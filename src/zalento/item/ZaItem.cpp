@@ -1,6 +1,8 @@
 #include "zalento/item/ZaItem.h"
 
 #include "zalento/math/truncateToInt.h"
+#include "zalento/pipes/ViewObject.h"
+#include "zalento/pipes/gestureUnits.h"
 
 #include <drevon/AppState.h>
 #include <drevon/CLocaleSupport.h>
@@ -21,17 +23,8 @@ namespace {
 constexpr double mPerMM = 0.001;
 constexpr double fractionPerPercent = 0.01;
 
-// Objects on view; any other number is the straight pipe's, too.
-constexpr int straightPipeView = 0;
-constexpr int lateralView = 1;
-constexpr int bendView = 2;
-constexpr int jointView = 3;
-
 constexpr double initialCameraHeightPercent = 50.0;
 constexpr double initialFovYDEG = 37.5;
-
-// Camera height at which the rear circle lies centred.
-constexpr double centredRearCirclePercent = 50.0;
 
 constexpr double smallestLateralDeg = 30.0;
 constexpr double largestLateralDeg = 150.0;
@@ -131,12 +124,12 @@ void ZaItem::paint(QPainter *painter)
 
 PipeBase &ZaItem::getCurrentViewObject()
 {
-    switch (m_viewObject) {
-    case lateralView:
+    switch (ViewObject(m_viewObject)) {
+    case ViewObject::Lateral:
         return m_lateral;
-    case bendView:
+    case ViewObject::Bend:
         return m_bend;
-    case jointView:
+    case ViewObject::Joint:
         return m_joint;
     default:
         return m_pipe;
@@ -199,12 +192,12 @@ void ZaItem::setMeasureUnit(int measureUnit)
 
 double ZaItem::measure1() const
 {
-    return m_viewObject == straightPipeView ? m_pipe.measure1 : 0.0;
+    return ViewObject(m_viewObject) == ViewObject::StraightPipe ? m_pipe.measure1 : 0.0;
 }
 
 double ZaItem::measure2() const
 {
-    return m_viewObject == straightPipeView ? m_pipe.measure2 : 0.0;
+    return ViewObject(m_viewObject) == ViewObject::StraightPipe ? m_pipe.measure2 : 0.0;
 }
 
 // Diameter
@@ -259,7 +252,7 @@ void ZaItem::setCameraHeight(double percent)
         return;
     }
     if (m_pipe.rearCircleActive) {
-        m_rearCircleOffset.y = percent - centredRearCirclePercent;
+        m_rearCircleOffset.y = percent - centredPercent;
     } else {
         const double fraction = std::clamp(percent * fractionPerPercent, 0.0, 1.0);
         forAllObjects([fraction](PipeBase &object) { object.cameraHeight = fraction; });
@@ -312,10 +305,10 @@ void ZaItem::setViewDownstream(bool viewDownstream)
 
 double ZaItem::angle() const
 {
-    switch (m_viewObject) {
-    case lateralView:
+    switch (ViewObject(m_viewObject)) {
+    case ViewObject::Lateral:
         return m_lateral.getAngleDeg();
-    case bendView:
+    case ViewObject::Bend:
         return m_bend.angleDeg;
     default:
         return 0.0;
@@ -405,7 +398,8 @@ void ZaItem::moveScaleRotate(double x, double y, double s, double r)
 
 void ZaItem::mouseClick(double x, double y)
 {
-    if (m_viewObject != straightPipeView || !std::isfinite(x) || !std::isfinite(y)) {
+    if (ViewObject(m_viewObject) != ViewObject::StraightPipe || !std::isfinite(x) ||
+        !std::isfinite(y)) {
         return;
     }
     m_pipe.addMeasurePoint(calculatePos(x, y), m_imageScale, m_imageRotation);

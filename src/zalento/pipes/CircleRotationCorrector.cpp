@@ -1,7 +1,9 @@
 #include "zalento/pipes/CircleRotationCorrector.h"
 
+#include "zalento/geometry/Cylinder.h"
 #include "zalento/math/angles.h"
 #include "zalento/math/scaleValue.h"
+#include "zalento/pipes/gestureUnits.h"
 #include "zalento/render/MiniGL.h"
 #include "zalento/render/ModelViewScope.h"
 
@@ -11,12 +13,6 @@
 namespace Drevon::Zalento {
 
 namespace {
-
-// Requested offsets that make one touch unit.
-constexpr double horizontalRange = 85.0;
-constexpr double verticalRange = 50.0;
-
-constexpr double rearCircleDistanceInDiameters = 10;
 
 // Result of the angle check that asks for no correction.
 constexpr double noDirectionDeg = 120.0;
@@ -46,8 +42,8 @@ Vec3 turnedAboutZ(const Vec3 &p, double angleDeg)
 Vec2 CircleRotationCorrector::getNewRotationToKeepRearCircleInsideFrontCircle(Vec3 rotation,
                                                                               double pipeDiameter)
 {
-    touchRotation.x = scaleValue(rotation.x, -horizontalRange, horizontalRange, -1.0, 1.0);
-    touchRotation.y = scaleValue(rotation.y, -verticalRange, verticalRange, -1.0, 1.0);
+    touchRotation.x = scaleValue(rotation.x, -rearCircleRangeX, rearCircleRangeX, -1.0, 1.0);
+    touchRotation.y = scaleValue(rotation.y, -rearCircleRangeY, rearCircleRangeY, -1.0, 1.0);
     diameter = pipeDiameter;
     if (correctAngleBetweenPointOnFrontCircleAndRearCircle() < limitDeg) {
         correctTouchRotationWhenRearCircleBeyondFrontCircleLimit();
@@ -138,7 +134,7 @@ Vec3 CircleRotationCorrector::pointOnCircle(const Vec2 &axisDirection, double z)
 
 double CircleRotationCorrector::rearZ() const
 {
-    return -rearCircleDistanceInDiameters * diameter;
+    return -Cylinder::lengthInDiameters * diameter;
 }
 
 } // namespace Drevon::Zalento

@@ -115,7 +115,12 @@ void Pipe::addCrossSectionPoint(const QPoint &pos, Vec3 rotation)
         reportSize();
         return;
     }
-    p = snapToFirst(hitPoints, p);
+    addPlanePoint(p);
+}
+
+void Pipe::addPlanePoint(const Vec3 &picked)
+{
+    const Vec3 p = snapToFirst(hitPoints, picked);
     if (hitPoints.size() >= closablePolygon) {
         if (isClosed()) {
             clearHitPoints();

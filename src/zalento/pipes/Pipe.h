@@ -64,6 +64,12 @@ public:
     void addMeasurePoint(const QPoint &pos, double scale, Vec3 rotation);
 
     /**
+     * Adds a point that was picked on the cross-section plane, as a click there does: near the
+     * first point it closes the polygon; after a closed polygon it starts a new one.
+     */
+    void addPlanePoint(const Vec3 &picked);
+
+    /**
      * The first position of @p list when there are more than two points and @p p lies within
      * 12 % of the diameter of it in every coordinate; else @p p.
      */

@@ -2,6 +2,7 @@
 
 #include "zalento/math/angles.h"
 #include "zalento/math/scaleValue.h"
+#include "zalento/pipes/gestureUnits.h"
 #include "zalento/render/ModelViewScope.h"
 
 #include <cmath>
@@ -10,12 +11,8 @@ namespace Drevon::Zalento {
 
 namespace {
 
-// A drag over the whole control moves the model by 85 of the 576 lines of a video frame.
-constexpr double dragRange = 85.0;
-constexpr double dragRangeInDiameters = 85.0 / 576;
-
-// Leaves 2 % between the front circle and the picture's edge.
-constexpr double frontCircleMargin = 1.02;
+// A drag over the whole control.
+constexpr double dragRangeInDiameters = dragRange / unitsPerDiameter;
 
 } // namespace
 

@@ -2,9 +2,9 @@
 
 #include "zalento/Export.h"
 #include "zalento/math/Vec3.h"
+#include "zalento/measure/MeasureMode.h"
 #include "zalento/pipes/CircleRotationCorrector.h"
 #include "zalento/pipes/ViewStyle.h"
-#include "zalento/render/MeasureMode.h"
 #include "zalento/render/MiniGL.h"
 #include "zalento/settings/ZASettings.h"
 

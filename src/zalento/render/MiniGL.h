@@ -4,8 +4,8 @@
 #include "zalento/math/Mat4.h"
 #include "zalento/math/Vec2.h"
 #include "zalento/math/Vec3.h"
+#include "zalento/measure/MeasureMode.h"
 #include "zalento/render/HitPoint.h"
-#include "zalento/render/MeasureMode.h"
 #include "zalento/settings/MeasureUnit.h"
 
 #include <QBrush>
@@ -207,6 +207,8 @@ private:
     void renderWaterLevelLabel(QPainter &painter, const QColor &color,
                                const Cylinder &cylinder) const;
     void renderCrossSectionDisc(QPainter &painter, const QColor &color, const Cylinder &cylinder);
+    void drawLinePoints(QPainter &painter, const QColor &color, const std::vector<HitPoint> &points,
+                        ObservableType observed) const;
     Mat4 measurementProjection(MeasureMode mode) const;
 };
 

@@ -1,6 +1,6 @@
 // The pipe: rings, water, cross-section disc.
 #include "zalento/geometry/Cylinder.h"
-#include "zalento/math/truncateToInt.h"
+#include "zalento/measure/valueTexts.h"
 #include "zalento/render/MiniGL.h"
 #include "zalento/render/ModelViewScope.h"
 #include "zalento/render/PainterPens.h"
@@ -189,14 +189,15 @@ void MiniGL::renderWater(QPainter &painter, const QColor &color, const Cylinder 
 void MiniGL::renderWaterLevelLabel(QPainter &painter, const QColor &color,
                                    const Cylinder &cylinder) const
 {
-    const int percent = truncateToInt(cylinder.waterLevelPercent * 100 + 0.5);
+    const int percent = waterLevelInPercent(cylinder.waterLevelPercent);
     const Vec3 waterLineCenter = (vertexOf(cylinder, 0, dryEnd(cylinder, 0)) +
                                   vertexOf(cylinder, 0, dryStart(cylinder, 0))) *
                                  0.5;
     Mat4 toPixels;
     combinedMatrix(toPixels);
     const Vec2 s = projected(toPixels, waterLineCenter);
-    drawString(painter, QStringLiteral(" %1 % ").arg(percent), QPointF(s.x, s.y),
+    drawString(painter, QStringLiteral(" %1 ").arg(waterLevelText(cylinder.waterLevelPercent)),
+               QPointF(s.x, s.y),
                percent >= labelBelowLinePercent ? labelBelowLineOffset : labelAboveLineOffset,
                color, textBackgroundBrush);
 }

@@ -1,26 +1,19 @@
-// The measuring line: where its points fall, what it measures, how that reads.
-#include "zalento/math/angles.h"
+// The measuring line: where its points fall, and how they and their value are drawn.
+#include "zalento/measure/measureLine.h"
+#include "zalento/measure/valueTexts.h"
 #include "zalento/render/MarkerPens.h"
 #include "zalento/render/MiniGL.h"
-#include "zalento/settings/UnitConv.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 
 namespace Drevon::Zalento {
 
 namespace {
 
-constexpr double mmPerM = 1000;
-constexpr double mm2PerM2 = 1000000;
-
 constexpr double areaLabelOffset = -1.0;
 constexpr double shareLabelOffset = 0.0;
 constexpr double lengthLabelOffset = -0.5;
-
-// A polygon needs two corners and the first one again.
-constexpr std::size_t smallestPolygon = 3;
 
 // Projects all points and returns the centre of their bounding box.
 QPointF projectPoints(const Mat4 &toPixels, std::vector<HitPoint> &points)
@@ -38,32 +31,14 @@ QPointF projectPoints(const Mat4 &toPixels, std::vector<HitPoint> &points)
     return {(low.x + high.x) * 0.5, (low.y + high.y) * 0.5};
 }
 
-// Sum of the distances between neighbours, in 1/1000 of the positions' unit.
-double lengthInMM(const std::vector<HitPoint> &points)
+std::vector<Vec3> positionsOf(const std::vector<HitPoint> &points)
 {
-    double length = 0.0;
-    for (std::size_t k = 1; k < points.size(); ++k) {
-        length += (points[k].position - points[k - 1].position).length() * mmPerM;
+    std::vector<Vec3> positions;
+    positions.reserve(points.size());
+    for (const HitPoint &point : points) {
+        positions.push_back(point.position);
     }
-    return length;
-}
-
-// Area enclosed in the x/y plane by the shoelace formula, in mm² for positions in metres.
-double areaInMM2(const std::vector<HitPoint> &points)
-{
-    double shoelace = 0.0;
-    for (std::size_t k = 0; k + 1 < points.size(); ++k) {
-        const Vec3 &a = points[k].position;
-        const Vec3 &b = points[k + 1].position;
-        shoelace += a.x * b.y - a.y * b.x;
-    }
-    return std::abs(shoelace * 0.5) * mm2PerM2;
-}
-
-bool isClosedPolygon(const std::vector<HitPoint> &points, MeasureMode mode)
-{
-    return (mode == MeasureMode::CrossSection || mode == MeasureMode::FreeCrossSection) &&
-           points.front().position == points.back().position && points.size() >= smallestPolygon;
+    return positions;
 }
 
 void drawMarkers(QPainter &painter, const QColor &color, const std::vector<HitPoint> &points)
@@ -75,22 +50,6 @@ void drawMarkers(QPainter &painter, const QColor &color, const std::vector<HitPo
     }
 }
 
-QString fixedNumber(double value, int decimals)
-{
-    QString text;
-    text.setNum(value, 'f', decimals);
-    return text;
-}
-
-QString lengthText(double lengthMM, MeasureUnit unit, bool isDiameter, double pipeRadiusMM)
-{
-    QString text = UnitConv::lenStr(lengthMM, unit);
-    if (isDiameter) {
-        text += QStringLiteral(" (%1 %)").arg(fixedNumber(lengthMM * 100 / (2 * pipeRadiusMM), 1));
-    }
-    return text;
-}
-
 } // namespace
 
 void MiniGL::renderMeasureLine(QPainter &painter, const QColor &color, double lineWidth,
@@ -99,54 +58,60 @@ void MiniGL::renderMeasureLine(QPainter &painter, const QColor &color, double li
                                double &measure1, double &measure2) const
 {
     const QPointF labelPos = projectPoints(measurementProjection(mode), points);
-    observable = ObservableType::NothingObserved;
+    const LineMeasure measure =
+        measureLine(positionsOf(points), mode, {pipeRadiusMM, viewport.width(), laserScale});
     QPen pen = solidPen(color, lineWidth);
     pen.setCapStyle(Qt::FlatCap);
     pen.setJoinStyle(Qt::RoundJoin);
     painter.setPen(pen);
+    drawLinePoints(painter, color, points, measure.observable);
+    const auto label = [&](const QString &text, double offset) {
+        drawString(painter, text, labelPos, offset, color, textBackgroundBrush);
+    };
 
-    if (isClosedPolygon(points, mode)) {
-        const double area = areaInMM2(points);
-        const double pipeArea = pi * (pipeRadiusMM * pipeRadiusMM);
+    observable = measure.observable;
+    switch (observable) {
+    case ObservableType::Length:
+        measure1 = measure.value.number;
+        label(lengthWithShareText(measure, unit), lengthLabelOffset);
+        break;
+    case ObservableType::Area:
+        measure1 = measure.value.number;
+        measure2 = measure.share.number;
+        label(valueText(measure.value, unit), areaLabelOffset);
+        label(valueText(measure.share, unit), shareLabelOffset);
+        break;
+    case ObservableType::FreeAreaPercent:
+        measure1 = measure.share.number;
+        label(valueText(measure.value, unit), areaLabelOffset);
+        label(valueText(measure.share, unit), shareLabelOffset);
+        break;
+    default:
+        break;
+    }
+}
+
+// A polygon is marked at every point where its free section is measured, else nowhere; an open line
+// at its ends.
+void MiniGL::drawLinePoints(QPainter &painter, const QColor &color,
+                            const std::vector<HitPoint> &points, ObservableType observed) const
+{
+    switch (observed) {
+    case ObservableType::Area:
         drawPolyLine(painter, points);
-        double value = area;
-        double share = area / pipeArea;
-        if (mode == MeasureMode::CrossSection) {
-            observable = ObservableType::Area;
-            measure1 = value;
-            measure2 = share;
-        } else {
-            drawMarkers(painter, color, points);
-            value = pipeArea - area;
-            share = value / pipeArea;
-            observable = ObservableType::FreeAreaPercent;
-            measure1 = share;
-        }
-        drawString(painter, UnitConv::areaStr(value, unit), labelPos, areaLabelOffset, color,
-                   textBackgroundBrush);
-        drawString(painter, QStringLiteral("%1 %").arg(fixedNumber(share * 100, 0)), labelPos,
-                   shareLabelOffset, color, textBackgroundBrush);
         return;
+    case ObservableType::FreeAreaPercent:
+        drawPolyLine(painter, points);
+        drawMarkers(painter, color, points);
+        return;
+    default:
+        break;
     }
-
     points.front().draw(painter, color);
-    if (points.size() == 1) {
-        return;
+    if (points.size() > 1) {
+        drawPolyLine(painter, points);
+        points.back().draw(painter, color);
     }
-    drawPolyLine(painter, points);
-    points.back().draw(painter, color);
-    double length = lengthInMM(points);
-    if (mode == MeasureMode::CrackWidth) {
-        length *= viewport.width() * 0.001 * laserScale;
-        if (length == 0.0) {
-            return;
-        }
-    }
-    measure1 = length;
-    observable = ObservableType::Length;
-    const bool isDiameter = mode == MeasureMode::CrossSection && points.size() == 2;
-    drawString(painter, lengthText(length, unit, isDiameter, pipeRadiusMM), labelPos,
-               lengthLabelOffset, color, textBackgroundBrush);
 }
 
 // In a crack-width measurement positions are fractions of the viewport.
