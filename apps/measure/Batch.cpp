@@ -1,5 +1,7 @@
 #include "measure/Batch.h"
 
+#include "measuring/Editing.h"
+#include "measuring/Measurement.h"
 #include "measuring/OverlayExport.h"
 #include "measuring/Picture.h"
 #include "measuring/Replay.h"
@@ -18,16 +20,17 @@ QString pointText(const QPointF &point)
 }
 
 // Points without a position are to be clicked.
-QString clickOutside(const QVector<QPointF> &clicks, const QSize &size)
+Outcome clickOutside(const QVector<QPointF> &clicks, const QSize &size)
 {
     for (const QPointF &click : clicks) {
         const bool isInside = click.x() >= 0 && click.y() >= 0 && click.x() < size.width() &&
                               click.y() < size.height();
         if (!isInside) {
-            return QStringLiteral("the point %1 lies outside the picture of %2 x %3 pixels")
-                .arg(pointText(click))
-                .arg(size.width())
-                .arg(size.height());
+            return Problem{{},
+                           QStringLiteral("the point %1 lies outside the picture of %2 x %3 pixels")
+                               .arg(pointText(click))
+                               .arg(size.width())
+                               .arg(size.height())};
         }
     }
     return {};
@@ -45,40 +48,29 @@ QVector<QPointF> clicksOf(const Session &session, const SessionOptions &options)
 }
 
 // A value that nobody gave is no measurement.
-QString missingOption(const MeasurementKind &kind, const Session *start,
-                      const SessionOptions &options)
+Outcome missingOption(const KindInfo &info, const Session *start, const SessionOptions &options)
 {
-    if (start && start->kind == kind.name) {
+    if (start && start->kind == info.kind) {
         return {};
     }
-    if (kind.usesAngle) {
-        return options.hasNumber(&Session::angleDEG) ? QString() : QStringLiteral("needs --angle");
+    if (info.has(Uses::Angle) && !options.hasNumber(&Session::angleDEG)) {
+        return Problem{{}, QStringLiteral("needs --angle")};
     }
-    const bool isWater = kind.usesPercentage && !kind.usesPoints;
-    return isWater && !options.hasNumber(&Session::percentage)
-               ? QStringLiteral("needs --percentage")
-               : QString();
+    if (info.kind == Kind::WaterLevel && !options.hasNumber(&Session::percentage)) {
+        return Problem{{}, QStringLiteral("needs --percentage")};
+    }
+    return {};
 }
 
-bool dependsOnDiameter(const MeasurementKind &kind)
+// A session's points move with the plane on which they lie.
+void movePlane(const Session *start, const SessionOptions &options, Session &session)
 {
-    return kind.usesPoints && !kind.usesScale;
-}
-
-// The item moves the points with the plane; a session that is applied has them where they were.
-QVector<QPointF> applyMoved(const Session *start, const SessionOptions &options, Session &session,
-                            ZaItem &item)
-{
-    const bool isMoved = start && !options.clicks && session.percentage != start->percentage;
+    if (!start || options.clicks || session.percentage == start->percentage) {
+        return;
+    }
     const double percentage = session.percentage;
-    if (isMoved) {
-        session.percentage = start->percentage;
-    }
-    const QVector<QPointF> missed = applySession(session, item);
-    if (isMoved) {
-        changePercentage(session, item, percentage);
-    }
-    return missed;
+    session.percentage = start->percentage;
+    changePercentage(session, percentage);
 }
 
 } // namespace
@@ -88,7 +80,6 @@ struct Batch::Work
     PictureResult result;
     Picture picture;
     Session session;
-    ZaItem item;
     bool isOtherPicture = false; // than the one of the session
 };
 
@@ -100,95 +91,89 @@ Batch::Batch(const CommandLine &command, const std::optional<Session> &session)
 PictureResult Batch::run(const PictureRequest &request)
 {
     Work work;
-    work.result.picture = request.path;
-    work.result.message = request.problem;
+    work.result.values.picture = request.path;
+    work.result.values.message = request.problem;
     if (!request.problem.isEmpty()) {
         return work.result;
     }
-    const std::optional<Session> start = startingSession(request, work);
-    if (work.result.message.isEmpty()) {
-        measurePicture(start ? &*start : nullptr, work);
+    const Result<std::optional<Session>> start = startingSession(request, work);
+    if (!start) {
+        work.result.values.message = start.problem().text();
+        work.result.fileProblems += work.result.values.message;
+        return work.result;
+    }
+    if (const Outcome problem = measurePicture(*start ? &**start : nullptr, work)) {
+        work.result.values.message = problem->text();
     }
     return work.result;
 }
 
-std::optional<Session> Batch::startingSession(const PictureRequest &request, Work &work) const
+Result<std::optional<Session>> Batch::startingSession(const PictureRequest &request,
+                                                      Work &work) const
 {
     const QString beside = sessionPathOf(request.path);
     const bool readsBeside = !m_command.ignoresSessions && QFileInfo::exists(beside);
     if (!request.isSession && (m_session || !readsBeside)) {
         return m_session;
     }
-    QString problem;
-    const auto session = loadSession(request.isSession ? request.path : beside, problem);
+    const Result<Session> session = loadSession(request.isSession ? request.path : beside);
     if (!session) {
-        work.result.message = problem;
-        work.result.fileProblems += problem;
-        return std::nullopt;
+        return session.problem();
     }
     if (request.isSession) {
-        work.result.picture = session->picture.path;
+        work.result.values.picture = session->picture.path;
     }
-    return session;
+    return std::optional<Session>(*session);
 }
 
-void Batch::measurePicture(const Session *start, Work &work)
+Outcome Batch::measurePicture(const Session *start, Work &work)
 {
-    PictureResult &result = work.result;
-    if (result.picture.isEmpty()) {
-        result.message = QStringLiteral("the session names no picture");
-        return;
+    PictureValues &values = work.result.values;
+    if (values.picture.isEmpty()) {
+        return Problem{{}, QStringLiteral("the session names no picture")};
     }
-    const std::optional<Picture> picture = loadPicture(result.picture, result.message);
+    const Result<Picture> picture = loadPicture(values.picture);
     if (!picture) {
-        return;
+        return picture.problem();
     }
     work.picture = *picture;
-    result.identity = picture->identity;
+    values.identity = picture->identity;
     if (start) {
-        const QString difference = pictureDifference(start->picture, picture->identity);
-        work.isOtherPicture = !difference.isEmpty();
-        if (work.isOtherPicture) {
-            result.warnings += difference;
+        const auto difference = pictureDifference(start->picture, picture->identity);
+        work.isOtherPicture = difference.has_value();
+        if (difference) {
+            work.result.warnings += *difference;
         }
     }
-    measureSession(start, work);
+    return measureSession(start, work);
 }
 
-void Batch::measureSession(const Session *start, Work &work)
+Outcome Batch::measureSession(const Session *start, Work &work)
 {
-    PictureResult &result = work.result;
     if (!start && !m_command.session.kind) {
-        result.message = QStringLiteral("there is no session, and --kind is missing");
-        return;
+        return Problem{{}, QStringLiteral("there is no session, and --kind is missing")};
     }
-    if (!putOnItem(start, work)) {
-        return;
+    if (const Outcome problem = mergeSession(start, work)) {
+        return problem;
     }
-    const Measurement measurement = measure(work.item);
-    const MeasurementKind &kind = *findMeasurementKind(work.session.kind);
-    const QString missing = missingOption(kind, start, m_command.session);
-    const bool isMeasured = measurement.state == MeasureState::Measured && missing.isEmpty();
-    result.status = isMeasured ? Status::Measured : Status::NoValue;
-    result.values = isMeasured ? measurement.values : QVector<MeasuredValue>();
-    result.message = missing.isEmpty() ? measurement.note : missing;
+    if (const Outcome problem = takeLaserScale(work)) {
+        return problem;
+    }
+    if (const Outcome problem = placeClicks(work)) {
+        return problem;
+    }
+    const Measurement measurement = measure(work.session);
+    const Outcome missing = missingOption(infoOf(work.session.kind), start, m_command.session);
+    const bool isMeasured = measurement.state == MeasureState::Measured && !missing;
+    PictureValues &values = work.result.values;
+    values.status = isMeasured ? Status::Measured : Status::NoValue;
+    values.values = isMeasured ? measurement.values : QVector<Value>();
+    values.message = missing ? missing->text() : measurement.note;
     writeFiles(work);
+    return {};
 }
 
-bool Batch::putOnItem(const Session *start, Work &work) const
-{
-    work.result.message = mergeSession(start, work);
-    if (work.result.message.isEmpty()) {
-        layOutItem(work.item, work.picture.image.size());
-        work.result.message = takeLaserScale(work);
-    }
-    if (work.result.message.isEmpty()) {
-        work.result.message = placePoints(start, work);
-    }
-    return work.result.message.isEmpty();
-}
-
-QString Batch::mergeSession(const Session *start, Work &work) const
+Outcome Batch::mergeSession(const Session *start, Work &work) const
 {
     const SessionOptions &options = m_command.session;
     Session &session = work.session;
@@ -198,39 +183,45 @@ QString Batch::mergeSession(const Session *start, Work &work) const
     if (start) {
         session.picture.unknownFields = start->picture.unknownFields;
     }
-    work.result.kind = session.kind;
-    const MeasurementKind &kind = *findMeasurementKind(session.kind);
-    if (!start && dependsOnDiameter(kind) && !options.hasNumber(&Session::diameterMM)) {
+    const KindInfo &info = infoOf(session.kind);
+    work.result.values.kind = session.kind;
+    if (!start && info.has(Uses::Diameter) && !options.hasNumber(&Session::diameterMM)) {
         work.result.warnings += QStringLiteral("--diameter is missing: a pipe of %1 mm is assumed")
                                     .arg(session.diameterMM);
     }
-    for (const QString &problem :
-         {options.misfit(kind), sessionProblem(session),
+    for (const Outcome &problem :
+         {options.misfit(info), checkSession(session),
           clickOutside(clicksOf(session, options), work.picture.image.size())}) {
-        if (!problem.isEmpty()) {
+        if (problem) {
             return problem;
         }
     }
+    movePlane(start, options, session);
     return {};
 }
 
-QString Batch::takeLaserScale(Work &work) const
+Outcome Batch::takeLaserScale(Work &work) const
 {
-    QString problem;
     const QVector<QPointF> &spots = m_command.session.laserSpots;
-    if (!spots.isEmpty()) {
-        work.session.mmPerPixel = laserScale(work.session, work.item, spots[0], spots[1], problem);
+    if (spots.isEmpty()) {
+        return {};
     }
-    return problem;
+    const Result<double> scale = laserScale(work.session, spots[0], spots[1]);
+    if (!scale) {
+        return scale.problem();
+    }
+    work.session.mmPerPixel = *scale;
+    return {};
 }
 
-QString Batch::placePoints(const Session *start, Work &work) const
+Outcome Batch::placeClicks(Work &work) const
 {
     const int pointCount = work.session.points.size();
-    const auto missed = applyMoved(start, m_command.session, work.session, work.item);
+    const QVector<QPointF> missed = placePoints(work.session);
     if (!missed.isEmpty()) {
-        return QStringLiteral("the point %1 meets no wall of the pipe")
-            .arg(pointText(missed.first()));
+        return Problem{{},
+                       QStringLiteral("the point %1 meets no wall of the pipe")
+                           .arg(pointText(missed.first()))};
     }
     if (work.session.points.size() != pointCount) {
         work.result.warnings +=
@@ -243,14 +234,19 @@ QString Batch::placePoints(const Session *start, Work &work) const
 
 void Batch::writeFiles(Work &work)
 {
-    PictureResult &result = work.result;
-    if (m_command.writesPng) {
-        write(overlayPathOf(result.picture, m_command.outputFolder, QStringLiteral("png")),
-              overlayPng(work.item, work.picture.image), result);
-    }
-    if (m_command.writesSvg) {
-        write(overlayPathOf(result.picture, m_command.outputFolder, QStringLiteral("svg")),
-              overlaySvg(work.item, work.picture.image.size()), result);
+    if (m_command.writesPng || m_command.writesSvg) {
+        ZaItem item;
+        layOutItem(item, work.picture.image.size());
+        showSession(work.session, item);
+        const QString &picture = work.result.values.picture;
+        if (m_command.writesPng) {
+            write(overlayPathOf(picture, m_command.outputFolder, QStringLiteral("png")),
+                  overlayPng(item, work.picture.image), work.result);
+        }
+        if (m_command.writesSvg) {
+            write(overlayPathOf(picture, m_command.outputFolder, QStringLiteral("svg")),
+                  overlaySvg(item, work.picture.image.size()), work.result);
+        }
     }
     if (m_command.savesSession) {
         saveSessionOf(work);
@@ -269,15 +265,25 @@ bool Batch::isFreeToWrite(const QString &path, PictureResult &result)
     return true;
 }
 
+Overwrite Batch::overwrite() const
+{
+    return m_command.overwrites ? Overwrite::Allow : Overwrite::Refuse;
+}
+
+void Batch::note(const Outcome &problem, const QString &path, PictureResult &result) const
+{
+    if (problem) {
+        result.fileProblems += problem->text();
+    } else {
+        result.values.written += path;
+    }
+}
+
 void Batch::write(const QString &path, const QByteArray &content, PictureResult &result)
 {
-    if (!isFreeToWrite(path, result)) {
-        return;
+    if (isFreeToWrite(path, result)) {
+        note(writeFile(path, content, overwrite()), path, result);
     }
-    const QString problem =
-        writeFile(path, content, m_command.overwrites ? Overwrite::Allow : Overwrite::Refuse);
-    (problem.isEmpty() ? result.written : result.fileProblems) +=
-        problem.isEmpty() ? path : problem;
 }
 
 QString Batch::pathInOutput(const QString &path) const
@@ -290,7 +296,7 @@ QString Batch::pathInOutput(const QString &path) const
 void Batch::saveSessionOf(Work &work)
 {
     PictureResult &result = work.result;
-    const QString path = pathInOutput(sessionPathOf(result.picture));
+    const QString path = pathInOutput(sessionPathOf(result.values.picture));
     if (!isFreeToWrite(path, result)) {
         return;
     }
@@ -299,10 +305,7 @@ void Batch::saveSessionOf(Work &work)
             QStringLiteral("%1 is not written for a different picture without --force").arg(path);
         return;
     }
-    const QString problem = saveSession(
-        work.session, path, m_command.overwrites ? Overwrite::Allow : Overwrite::Refuse);
-    (problem.isEmpty() ? result.written : result.fileProblems) +=
-        problem.isEmpty() ? path : problem;
+    note(saveSession(work.session, path, overwrite()), path, result);
 }
 
 } // namespace Drevon::Zalento::Apps

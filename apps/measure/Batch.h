@@ -3,8 +3,10 @@
 #include "measure/CommandLine.h"
 #include "measure/PictureList.h"
 
-#include "measuring/Measurement.h"
+#include "measuring/OutputFile.h"
+#include "measuring/Result.h"
 #include "measuring/Session.h"
+#include "measuring/ValueTable.h"
 
 #include <QSet>
 #include <QString>
@@ -15,19 +17,11 @@
 
 namespace Drevon::Zalento::Apps {
 
-enum class Status { Measured, NoValue, Failed };
-
 /** What came of one picture. */
 struct PictureResult
 {
-    QString picture; ///< its path as given
-    PictureIdentity identity;
-    QString kind;
-    Status status = Status::Failed;
-    QVector<MeasuredValue> values;
-    QString message;          ///< why there is no value; else empty
+    PictureValues values;
     QStringList warnings;     ///< for people
-    QStringList written;      ///< files
     QStringList fileProblems; ///< files that could not be read or written, beside the picture
 };
 
@@ -45,18 +39,19 @@ public:
 
 private:
     struct Work;
-    std::optional<Session> startingSession(const PictureRequest &request, Work &work) const;
-    void measurePicture(const Session *start, Work &work);
-    void measureSession(const Session *start, Work &work);
-    bool putOnItem(const Session *start, Work &work) const;
-    QString mergeSession(const Session *start, Work &work) const;
-    QString takeLaserScale(Work &work) const;
-    QString placePoints(const Session *start, Work &work) const;
+    Result<std::optional<Session>> startingSession(const PictureRequest &request, Work &work) const;
+    Outcome measurePicture(const Session *start, Work &work);
+    Outcome measureSession(const Session *start, Work &work);
+    Outcome mergeSession(const Session *start, Work &work) const;
+    Outcome takeLaserScale(Work &work) const;
+    Outcome placeClicks(Work &work) const;
     void writeFiles(Work &work);
     void write(const QString &path, const QByteArray &content, PictureResult &result);
+    void note(const Outcome &problem, const QString &path, PictureResult &result) const;
     bool isFreeToWrite(const QString &path, PictureResult &result);
     void saveSessionOf(Work &work);
     QString pathInOutput(const QString &path) const;
+    Overwrite overwrite() const;
 
     const CommandLine &m_command;
     std::optional<Session> m_session;

@@ -206,9 +206,9 @@ QString readCommand(const QCommandLineParser &parser, CommandLine &command)
         return problem;
     }
     readFlagsAndFiles(parser, command);
-    const std::optional<SessionOptions> session = readSessionOptions(parser, problem);
+    const Result<SessionOptions> session = readSessionOptions(parser);
     if (!session) {
-        return problem;
+        return session.problem().text();
     }
     command.session = *session;
     return contradiction(parser, command);

@@ -1,8 +1,7 @@
 #include "measure/KindList.h"
 
-#include "measure/Report.h"
-
 #include "measuring/OrderedJson.h"
+#include "measuring/ValueTable.h"
 
 #include <QJsonArray>
 
@@ -10,41 +9,42 @@ namespace Drevon::Zalento::Apps {
 
 namespace {
 
-OrderedJson kindJson(const MeasurementKind &kind)
+OrderedJson kindJson(const KindInfo &info)
 {
     OrderedJson json;
-    json.add(QStringLiteral("kind"), kind.name);
-    json.add(QStringLiteral("title"), kind.title);
-    json.add(QStringLiteral("description"), kind.description);
-    json.add(QStringLiteral("percentage"), kind.percentageMeaning);
-    json.add(QStringLiteral("options"), QJsonArray::fromStringList(optionsOf(kind)));
+    json.add(QStringLiteral("kind"), info.nameText());
+    json.add(QStringLiteral("title"), QLatin1String(info.title));
+    json.add(QStringLiteral("description"), QLatin1String(info.description));
+    json.add(QStringLiteral("percentage"), QLatin1String(info.percentage.meaning));
+    json.add(QStringLiteral("options"), QJsonArray::fromStringList(optionsOf(info)));
     return json;
 }
 
-QByteArray kindText(const MeasurementKind &kind)
+QByteArray kindText(const KindInfo &info)
 {
+    const QLatin1String meaning(info.percentage.meaning);
     const QString percentage =
-        kind.percentageMeaning.isEmpty()
-            ? QString()
-            : QStringLiteral("    --percentage is the %1\n").arg(kind.percentageMeaning);
+        meaning.isEmpty() ? QString() : QStringLiteral("    --percentage is the %1\n").arg(meaning);
     return QStringLiteral("%1\n    %2\n    options: %3\n%4")
-        .arg(kind.name, kind.description, optionsOf(kind).join(QLatin1Char(' ')), percentage)
+        .arg(info.nameText(), QLatin1String(info.description),
+             optionsOf(info).join(QLatin1Char(' ')), percentage)
         .toUtf8();
 }
 
-QByteArray kindCsv(const MeasurementKind &kind)
+QByteArray kindCsv(const KindInfo &info)
 {
-    return csvLine({kind.name, kind.title, kind.description, kind.percentageMeaning,
-                    optionsOf(kind).join(QLatin1Char(' '))});
+    return csvRecord({info.nameText(), QLatin1String(info.title), QLatin1String(info.description),
+                      QLatin1String(info.percentage.meaning),
+                      optionsOf(info).join(QLatin1Char(' '))});
 }
 
-QByteArray jsonDocument()
+QByteArray kindDocument()
 {
-    QVector<QByteArray> kinds;
-    for (const MeasurementKind &kind : measurementKinds()) {
-        kinds += kindJson(kind).toLines("  ");
+    QVector<QByteArray> objects;
+    for (const KindInfo &info : kinds()) {
+        objects += kindJson(info).toLines("  ");
     }
-    return jsonLines(kinds, "") + "\n";
+    return jsonLines(objects, "") + "\n";
 }
 
 } // namespace
@@ -52,19 +52,19 @@ QByteArray jsonDocument()
 QByteArray kindList(Format format)
 {
     if (format == Format::Json) {
-        return jsonDocument();
+        return kindDocument();
     }
-    QByteArray list = format == Format::Csv ? "kind,title,description,percentage,options\n" : "";
-    for (const MeasurementKind &kind : measurementKinds()) {
+    QByteArray list = format == Format::Csv ? "kind,title,description,percentage,options\r\n" : "";
+    for (const KindInfo &info : kinds()) {
         switch (format) {
         case Format::JsonLines:
-            list += kindJson(kind).toLine() + "\n";
+            list += kindJson(info).toLine() + "\n";
             break;
         case Format::Csv:
-            list += kindCsv(kind);
+            list += kindCsv(info);
             break;
         default:
-            list += kindText(kind);
+            list += kindText(info);
             break;
         }
     }

@@ -3,7 +3,6 @@
 #include "measuring/Picture.h"
 #include "measuring/SessionFile.h"
 
-#include <QDirIterator>
 #include <QFileDevice>
 #include <QFileInfo>
 
@@ -12,30 +11,6 @@ namespace Drevon::Zalento::Apps {
 using namespace Measuring;
 
 namespace {
-
-const QLatin1String overlayMark(".overlay");
-
-bool isPictureName(const QFileInfo &info)
-{
-    return pictureFormats().contains(info.suffix().toLower().toLatin1()) &&
-           !info.completeBaseName().endsWith(overlayMark);
-}
-
-QStringList picturesIn(const QString &folder)
-{
-    QStringList pictures;
-    // A link that leads nowhere, or a name that is not UTF-8, is no file to Qt; it is listed to be
-    // told of.
-    QDirIterator files(folder, QDir::Files | QDir::System, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString path = files.next();
-        if (isPictureName(files.fileInfo())) {
-            pictures += path;
-        }
-    }
-    pictures.sort();
-    return pictures;
-}
 
 PictureRequest failed(const QString &path, const char *problem)
 {
@@ -51,7 +26,7 @@ QVector<PictureRequest> requestsOfFolder(const QString &folder, bool recursive)
         return {failed(folder, "the folder cannot be read")};
     }
     QVector<PictureRequest> requests;
-    for (const QString &path : picturesIn(folder)) {
+    for (const QString &path : picturesIn(folder, recursive)) {
         requests.append({path, false, {}});
     }
     if (requests.isEmpty()) {
@@ -62,13 +37,13 @@ QVector<PictureRequest> requestsOfFolder(const QString &folder, bool recursive)
 
 } // namespace
 
-std::optional<QStringList> readNames(QIODevice &list, QString &problem)
+Result<QStringList> readNames(QIODevice &list)
 {
     const QByteArray content = list.readAll();
     const auto *file = qobject_cast<QFileDevice *>(&list);
     if (file && file->error() != QFileDevice::NoError) {
-        problem = QStringLiteral("the list of pictures cannot be read: %1").arg(list.errorString());
-        return std::nullopt;
+        return Problem{QStringLiteral("the list of pictures"),
+                       QStringLiteral("cannot be read: %1").arg(list.errorString())};
     }
     QStringList names;
     for (QByteArray line : content.split('\n')) {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "measuring/Result.h"
+
 #include <QIODevice>
 #include <QString>
 #include <QStringList>
 #include <QVector>
-
-#include <optional>
 
 namespace Drevon::Zalento::Apps {
 
@@ -17,11 +17,8 @@ struct PictureRequest
     QString problem; ///< why there is nothing to measure; else empty
 };
 
-/**
- * The names in a list, one a line; empty lines are skipped.
- * @param problem on failure: why the list cannot be read
- */
-std::optional<QStringList> readNames(QIODevice &list, QString &problem);
+/** The names in a list, one a line; empty lines are skipped. */
+Measuring::Result<QStringList> readNames(QIODevice &list);
 
 /**
  * The pictures that the names mean, in their order. A folder stands for the pictures in it and its

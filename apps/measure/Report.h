@@ -1,7 +1,8 @@
 #pragma once
 
-#include "measure/Batch.h"
 #include "measure/CommandLine.h"
+
+#include "measuring/ValueTable.h"
 
 #include <QByteArray>
 
@@ -19,20 +20,11 @@ public:
     {}
 
     QByteArray start() const;
-    QByteArray result(const PictureResult &result, int number) const;
+    QByteArray result(const PictureValues &result, int number) const;
     QByteArray end(int count) const;
 
 private:
     Format m_format;
 };
-
-/** "measured", "no value" or "failed". */
-QString statusName(Status status);
-
-/** The shortest text that reads back as the same number, with '.'. */
-QString numberText(double number);
-
-/** One record of comma-separated values with its line break; quoted where needed. */
-QByteArray csvLine(const QStringList &fields);
 
 } // namespace Drevon::Zalento::Apps

@@ -67,12 +67,13 @@ bool readCalibration(CommandLine &command, Console &console)
     if (command.calibrationFile.isEmpty()) {
         return true;
     }
-    QString problem;
-    command.session.calibrationText = loadCalibration(command.calibrationFile, problem);
-    if (!problem.isEmpty()) {
-        console.fail(CannotReadOrWrite, problem);
+    const Result<QString> text = loadCalibration(command.calibrationFile);
+    if (!text) {
+        console.fail(CannotReadOrWrite, text.problem().text());
+        return false;
     }
-    return problem.isEmpty();
+    command.session.calibrationText = *text;
+    return true;
 }
 
 bool readSession(const CommandLine &command, std::optional<Session> &session, Console &console)
@@ -80,12 +81,13 @@ bool readSession(const CommandLine &command, std::optional<Session> &session, Co
     if (command.sessionFile.isEmpty()) {
         return true;
     }
-    QString problem;
-    session = loadSession(command.sessionFile, problem);
-    if (!session) {
-        console.fail(CannotReadOrWrite, problem);
+    const Result<Session> loaded = loadSession(command.sessionFile);
+    if (!loaded) {
+        console.fail(CannotReadOrWrite, loaded.problem().text());
+        return false;
     }
-    return session.has_value();
+    session = *loaded;
+    return true;
 }
 
 bool makeOutputFolder(const CommandLine &command, Console &console)
@@ -109,10 +111,9 @@ std::optional<QStringList> namesOf(const CommandLine &command, QIODevice &input,
             names += name;
             continue;
         }
-        QString problem;
-        const std::optional<QStringList> listed = readNames(input, problem);
+        const Result<QStringList> listed = readNames(input);
         if (!listed) {
-            console.fail(CannotReadOrWrite, problem);
+            console.fail(CannotReadOrWrite, listed.problem().text());
             return std::nullopt;
         }
         names += *listed;
@@ -138,27 +139,28 @@ void warnWithoutFonts(const CommandLine &command, Console &console)
 
 void tell(const PictureResult &result, bool isRender, Console &console)
 {
-    const auto about = [&result](const QString &message) {
-        return message.startsWith(result.picture) ? message
-                                                  : result.picture + QStringLiteral(": ") + message;
+    const PictureValues &values = result.values;
+    const auto about = [&values](const QString &message) {
+        return message.startsWith(values.picture) ? message
+                                                  : values.picture + QStringLiteral(": ") + message;
     };
     for (const QString &warning : result.warnings) {
         console.say(about(QStringLiteral("warning: ") + warning));
     }
-    for (const QString &path : result.written) {
+    for (const QString &path : values.written) {
         console.say(QStringLiteral("wrote %1").arg(path));
     }
     for (const QString &problem : result.fileProblems) {
         console.fail(CannotReadOrWrite, about(problem));
     }
     const bool isDone =
-        result.status == Status::Measured || (isRender && result.status == Status::NoValue);
+        values.status == Status::Measured || (isRender && values.status == Status::NoValue);
     if (isDone) {
         return;
     }
     console.note(SomeNotMeasured);
-    if (!result.fileProblems.contains(result.message)) {
-        console.say(about(result.message));
+    if (!result.fileProblems.contains(values.message)) {
+        console.say(about(values.message));
     }
 }
 
@@ -174,7 +176,7 @@ void measureAll(const CommandLine &command, const std::optional<Session> &sessio
         const PictureResult result = batch.run(request);
         tell(result, isRender, console);
         if (!isRender) {
-            console.print(report.result(result, count));
+            console.print(report.result(result.values, count));
         }
         ++count;
     }

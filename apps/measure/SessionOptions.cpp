@@ -36,10 +36,12 @@ constexpr NumberOption numberOptions[] = {
 class OptionReader
 {
 public:
-    OptionReader(const QCommandLineParser &parser, QString &problem)
+    explicit OptionReader(const QCommandLineParser &parser)
         : m_parser(parser)
-        , m_problem(problem)
     {}
+
+    /** The first problem so far. */
+    const Outcome &problem() const { return m_problem; }
 
     std::optional<double> number(const char *name, double smallest, double largest)
     {
@@ -53,14 +55,14 @@ public:
             fail(name, QStringLiteral("a number such as 12.5"), *text);
             return std::nullopt;
         }
-        note(numberProblem(dashed(name), number, smallest, largest));
+        note(checkNumber(dashed(name), number, smallest, largest));
         return number;
     }
 
     std::optional<int> wholeNumber(const char *name, int limit)
     {
         const std::optional<double> found = number(name, -limit, limit);
-        if (!found || !m_problem.isEmpty()) {
+        if (!found || m_problem) {
             return std::nullopt;
         }
         if (*found != std::floor(*found)) {
@@ -93,7 +95,8 @@ public:
     {
         const QStringList values = m_parser.values(QLatin1String(name));
         if (values.size() > 1) {
-            note(QStringLiteral("%1 is given %2 times").arg(dashed(name)).arg(values.size()));
+            note(Problem{
+                {}, QStringLiteral("%1 is given %2 times").arg(dashed(name)).arg(values.size())});
         }
         return values.isEmpty() ? std::nullopt : std::optional<QString>(values.first());
     }
@@ -102,12 +105,13 @@ public:
 
     void fail(const char *name, const QString &expected, const QString &found)
     {
-        note(QStringLiteral("%1: expected %2, found \"%3\"").arg(dashed(name), expected, found));
+        note(Problem{dashed(name),
+                     QStringLiteral("expected %1, found \"%2\"").arg(expected, found)});
     }
 
-    void note(const QString &problem)
+    void note(const Outcome &problem)
     {
-        if (m_problem.isEmpty()) {
+        if (!m_problem) {
             m_problem = problem;
         }
     }
@@ -116,16 +120,12 @@ private:
     static QString dashed(const char *name) { return QStringLiteral("--") + QLatin1String(name); }
 
     const QCommandLineParser &m_parser;
-    QString &m_problem;
+    Outcome m_problem;
 };
 
 QString knownKinds()
 {
-    QStringList names;
-    for (const MeasurementKind &kind : measurementKinds()) {
-        names += kind.name;
-    }
-    return names.join(QStringLiteral(", "));
+    return kindNames().join(QStringLiteral(", "));
 }
 
 const SessionNumber &limitsOf(double Session::*member)
@@ -152,8 +152,8 @@ void readRearCircle(OptionReader &reader, SessionOptions &options)
     const QPointF position = options.rearCircle.value_or(QPointF());
     const SessionNumber &limits = limitsOf(&Session::rearCircleX);
     for (const double coordinate : {position.x(), position.y()}) {
-        reader.note(numberProblem(QStringLiteral("--rear-circle"), coordinate, limits.smallest,
-                                  limits.largest));
+        reader.note(checkNumber(QStringLiteral("--rear-circle"), coordinate, limits.smallest,
+                                limits.largest));
     }
     if (reader.isSet("rear-circle-active")) {
         options.rearCircleActive = true;
@@ -165,10 +165,8 @@ void readChoices(OptionReader &reader, SessionOptions &options)
     options.unit = reader.choice("unit", "metric or imperial", unitNamed);
     options.viewDownstream = reader.choice("direction", "downstream or upstream", directionNamed);
     options.viewStyle = reader.choice("view-style", "measure, ends or full", viewStyleNamed);
-    options.kind = reader.value("kind");
-    if (options.kind && !findMeasurementKind(*options.kind)) {
-        reader.fail("kind", QStringLiteral("one of ") + knownKinds(), *options.kind);
-    }
+    const QByteArray expectedKind = "one of " + knownKinds().toLatin1();
+    options.kind = reader.choice("kind", expectedKind.constData(), kindNamed);
     options.clockDEG = reader.wholeNumber("clock", largestClockDEG);
     if (reader.isSet("joint")) {
         options.jointShown = true;
@@ -190,7 +188,7 @@ void readLaserSpots(OptionReader &reader, SessionOptions &options)
         reader.fail("laser", QStringLiteral("two points X,Y X,Y"), *text);
     }
     if (options.mmPerPixel) {
-        reader.note(QStringLiteral("--laser and --mm-per-pixel both give the scale"));
+        reader.note(Problem{{}, QStringLiteral("--laser and --mm-per-pixel both give the scale")});
     }
 }
 
@@ -217,12 +215,12 @@ void addOption(QCommandLineParser &parser, const char *name, const char *descrip
                                         QLatin1String(valueName)));
 }
 
-QString angleMisfit(const SessionOptions &options, const MeasurementKind &kind)
+Outcome angleMisfit(const SessionOptions &options, const KindInfo &info)
 {
     for (const SessionOptions::Number &number : options.numbers) {
         if (number.member == &Session::angleDEG) {
-            return numberProblem(QStringLiteral("--angle of ") + kind.name, number.value,
-                                 kind.smallestAngleDEG, kind.largestAngleDEG);
+            return checkNumber(QStringLiteral("--angle of ") + info.nameText(), number.value,
+                               info.angle.smallestDEG, info.angle.largestDEG);
         }
     }
     return {};
@@ -286,49 +284,52 @@ void SessionOptions::applyTo(Session &session) const
     session.viewStyle = viewStyle.value_or(session.viewStyle);
 }
 
-QString SessionOptions::misfit(const MeasurementKind &measurementKind) const
+Outcome SessionOptions::misfit(const KindInfo &info) const
 {
     const struct
     {
         bool isGiven;
-        bool isUsed;
+        Uses use;
         const char *option;
     } checks[] = {
-        {clicks.has_value(), measurementKind.usesPoints, "--click"},
-        {!laserSpots.isEmpty(), measurementKind.usesScale, "--laser"},
-        {mmPerPixel.has_value(), measurementKind.usesScale, "--mm-per-pixel"},
-        {hasNumber(&Session::percentage), measurementKind.usesPercentage, "--percentage"},
-        {hasNumber(&Session::angleDEG), measurementKind.usesAngle, "--angle"},
-        {clockDEG.has_value(), measurementKind.usesClock, "--clock"},
-        {viewDownstream.has_value(), measurementKind.usesDirection, "--direction"},
-        {jointShown.has_value(), measurementKind.usesDirection, "--joint"},
+        {clicks.has_value(), Uses::Points, "--click"},
+        {!laserSpots.isEmpty(), Uses::Scale, "--laser"},
+        {mmPerPixel.has_value(), Uses::Scale, "--mm-per-pixel"},
+        {hasNumber(&Session::percentage), Uses::Percentage, "--percentage"},
+        {hasNumber(&Session::angleDEG), Uses::Angle, "--angle"},
+        {clockDEG.has_value(), Uses::Clock, "--clock"},
+        {viewDownstream.has_value(), Uses::Direction, "--direction"},
+        {jointShown.has_value(), Uses::Direction, "--joint"},
     };
     for (const auto &check : checks) {
-        if (check.isGiven && !check.isUsed) {
-            return QStringLiteral("the kind %1 takes no %2")
-                .arg(measurementKind.name, QLatin1String(check.option));
+        if (check.isGiven && !info.has(check.use)) {
+            return Problem{{},
+                           QStringLiteral("the kind %1 takes no %2")
+                               .arg(info.nameText(), QLatin1String(check.option))};
         }
     }
-    return angleMisfit(*this, measurementKind);
+    return angleMisfit(*this, info);
 }
 
-QStringList optionsOf(const MeasurementKind &kind)
+QStringList optionsOf(const KindInfo &info)
 {
-    QStringList options;
-    const auto add = [&options](bool isUsed, const char *option) {
-        if (isUsed) {
-            options += QLatin1String(option);
-        }
+    constexpr struct
+    {
+        Uses use;
+        const char *option;
+    } rows[] = {
+        {Uses::Points, "--click"},          {Uses::Scale, "--mm-per-pixel"},
+        {Uses::Scale, "--laser"},           {Uses::Scale, "--calibration"},
+        {Uses::Percentage, "--percentage"}, {Uses::Angle, "--angle"},
+        {Uses::Clock, "--clock"},           {Uses::Direction, "--direction"},
+        {Uses::Direction, "--joint"},
     };
-    add(kind.usesPoints, "--click");
-    add(kind.usesScale, "--mm-per-pixel");
-    add(kind.usesScale, "--laser");
-    add(kind.usesScale, "--calibration");
-    add(kind.usesPercentage, "--percentage");
-    add(kind.usesAngle, "--angle");
-    add(kind.usesClock, "--clock");
-    add(kind.usesDirection, "--direction");
-    add(kind.usesDirection, "--joint");
+    QStringList options;
+    for (const auto &row : rows) {
+        if (info.has(row.use)) {
+            options += QLatin1String(row.option);
+        }
+    }
     return options;
 }
 
@@ -365,11 +366,10 @@ void addSessionOptions(QCommandLineParser &parser)
     addOption(parser, "calibration", "Camera calibration file.", "FILE");
 }
 
-std::optional<SessionOptions> readSessionOptions(const QCommandLineParser &parser, QString &problem)
+Result<SessionOptions> readSessionOptions(const QCommandLineParser &parser)
 {
-    problem.clear();
     SessionOptions options;
-    OptionReader reader(parser, problem);
+    OptionReader reader(parser);
     readNumbers(reader, options);
     readChoices(reader, options);
     readRearCircle(reader, options);
@@ -377,10 +377,11 @@ std::optional<SessionOptions> readSessionOptions(const QCommandLineParser &parse
     readLaserSpots(reader, options);
     readClicks(parser, reader, options);
     reader.value("calibration");
-    if (options.kind && problem.isEmpty()) {
-        reader.note(options.misfit(*findMeasurementKind(*options.kind)));
+    if (options.kind) {
+        reader.note(options.misfit(infoOf(*options.kind)));
     }
-    return problem.isEmpty() ? std::optional<SessionOptions>(options) : std::nullopt;
+    return reader.problem() ? Result<SessionOptions>(*reader.problem())
+                            : Result<SessionOptions>(options);
 }
 
 } // namespace Drevon::Zalento::Apps

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "measuring/Kind.h"
+#include "measuring/Result.h"
 #include "measuring/Session.h"
 
 #include <QCommandLineParser>
@@ -26,7 +27,7 @@ struct SessionOptions
     };
 
     QVector<Number> numbers;
-    std::optional<QString> kind;
+    std::optional<Kind> kind;
     std::optional<MeasureUnit> unit;
     std::optional<QPointF> rearCircle; ///< in gesture units
     std::optional<bool> rearCircleActive;
@@ -44,22 +45,18 @@ struct SessionOptions
     /** Changes the session. A change of the kind drops points that were made for another. */
     void applyTo(Session &session) const;
 
-    /** Names the first option that means nothing to the kind; empty when there is none. */
-    QString misfit(const MeasurementKind &kind) const;
+    /** Names the first option that means nothing to the kind. */
+    Outcome misfit(const KindInfo &info) const;
 };
 
 /** Declares the options that applyTo() knows. */
 void addSessionOptions(QCommandLineParser &parser);
 
-/**
- * Reads them; the calibration file is not read.
- * @param problem on failure: names the option and what was expected
- */
-std::optional<SessionOptions> readSessionOptions(const QCommandLineParser &parser,
-                                                 QString &problem);
+/** Reads them; the calibration file is not read. A problem names the option. */
+Result<SessionOptions> readSessionOptions(const QCommandLineParser &parser);
 
 /** Options that the kind takes beside those of the alignment, each with its leading dashes. */
-QStringList optionsOf(const MeasurementKind &kind);
+QStringList optionsOf(const KindInfo &info);
 
 /** A point "X,Y" with '.' as decimal mark. */
 std::optional<QPointF> parsePoint(const QString &text);

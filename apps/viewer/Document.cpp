@@ -30,6 +30,14 @@ SessionStep::SessionStep(const QString &name, Measuring::Session before, Measuri
     , m_show(std::move(show))
 {}
 
+void SessionStep::redo()
+{
+    if (!m_isShown) {
+        m_show(m_after);
+    }
+    m_isShown = false;
+}
+
 bool SessionStep::mergeWith(const QUndoCommand *next)
 {
     m_after = static_cast<const SessionStep *>(next)->m_after;

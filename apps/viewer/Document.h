@@ -1,6 +1,5 @@
 #pragma once
 
-#include "measuring/Measurement.h"
 #include "measuring/Session.h"
 
 #include <QDateTime>
@@ -30,7 +29,6 @@ public:
     QDateTime pictureStamp;
     /** The measurement; empty until the picture was shown. */
     std::optional<Measuring::Session> session;
-    Measuring::Measurement measurement;
 
     QUndoStack &history() { return *m_history; }
     bool isModified() const { return !m_history->isClean(); }
@@ -40,7 +38,8 @@ private:
 };
 
 /**
- * One finished gesture: the session before and after it.
+ * One finished gesture: the session before and after it. It is pushed when its end is on view
+ * already, so only undoing and what follows shows anything.
  *
  * Steps with the same positive merge number become one, as those of a key that is held.
  */
@@ -53,7 +52,7 @@ public:
                 int mergeNumber, Show show);
 
     void undo() override { m_show(m_before); }
-    void redo() override { m_show(m_after); }
+    void redo() override;
     int id() const override { return m_mergeNumber; }
     bool mergeWith(const QUndoCommand *next) override;
 
@@ -62,6 +61,7 @@ private:
     Measuring::Session m_after;
     int m_mergeNumber;
     Show m_show;
+    bool m_isShown = true; ///< the stack's first redo() comes with the push
 };
 
 } // namespace Drevon::Zalento

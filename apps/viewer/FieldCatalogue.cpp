@@ -14,13 +14,13 @@
 namespace Drevon::Zalento {
 
 using Measuring::Session;
+using Measuring::Uses;
 
 namespace {
 
 constexpr double degreesPerHour = 30.0;
 constexpr double hoursPerTurn = 12.0;
 constexpr double largestLaserMM = 10000.0;
-constexpr double bendStepDEG = 5.0;
 
 const QString laserRecordStart = QStringLiteral("LASER;;;");
 
@@ -75,14 +75,8 @@ Field diameterField(const Session &session)
 
 Field percentageField(const Session &session)
 {
-    static const QHash<QString, const char *> labels{
-        {QStringLiteral("WaterLevel"), QT_TRANSLATE_NOOP("Field", "Water level")},
-        {QStringLiteral("BranchAngle"), QT_TRANSLATE_NOOP("Field", "Branch size")},
-        {QStringLiteral("BendAngle"), QT_TRANSLATE_NOOP("Field", "Piece length")},
-        {QStringLiteral("CrossSection"), QT_TRANSLATE_NOOP("Field", "Plane depth")},
-    };
     Field field = with(numberField(QStringLiteral("percentage"), &Session::percentage),
-                       labels.value(session.kind, ""), QStringLiteral("%"), 1, 1);
+                       infoOf(session.kind).percentage.label, QStringLiteral("%"), 1, 1);
     field.hasSlider = true;
     return field;
 }
@@ -92,12 +86,11 @@ Field angleField(const Session &session)
     Field field = with(numberField(QStringLiteral("angleDEG"), &Session::angleDEG),
                        QT_TRANSLATE_NOOP("Field", "Angle"), QStringLiteral("°"), 1, 1);
     field.hasSlider = true;
-    if (const Measuring::MeasurementKind *kind = Measuring::findMeasurementKind(session.kind)) {
-        field.smallest = kind->smallestAngleDEG;
-        field.largest = kind->largestAngleDEG;
-    }
-    if (session.kind == QLatin1String("BendAngle")) {
-        field.step = bendStepDEG;
+    const Measuring::AngleRow &angles = infoOf(session.kind).angle;
+    field.smallest = angles.smallestDEG;
+    field.largest = angles.largestDEG;
+    if (angles.stepDEG > 1.0) {
+        field.step = angles.stepDEG;
         field.decimals = 0;
     }
     return field;
@@ -127,6 +120,7 @@ Field laserField()
     field = with(field, QT_TRANSLATE_NOOP("Field", "Laser distance"), QStringLiteral("mm"), 1, 3);
     field.smallest = 0.001;
     field.largest = largestLaserMM;
+    field.movesModel = false;
     field.get = [](const Session &s) {
         return s.calibrationText.mid(laserRecordStart.size()).toDouble();
     };
@@ -144,6 +138,7 @@ Field scaleField()
     field.smallest = Measuring::smallestMMPerPixel;
     field.largest = Measuring::largestMMPerPixel;
     field.mayBeEmpty = true;
+    field.movesModel = false;
     field.get = [](const Session &s) { return s.mmPerPixel; };
     field.set = [](Session &s, std::optional<double> v) { s.mmPerPixel = v; };
     return field;
@@ -208,35 +203,34 @@ Field fieldNamed(const QString &name, const Session &session)
 
 QStringList kindFields(const Session &session)
 {
-    if (session.kind == QLatin1String("CrackWidth")) {
+    const Measuring::KindInfo &info = infoOf(session.kind);
+    QStringList names;
+    if (info.has(Uses::Scale)) {
         // A table of scales goes by the diameter; a laser record by the distance of the spots.
         const bool isLaser = session.calibrationText.startsWith(laserRecordStart) &&
                              !session.calibrationText.contains(QLatin1Char('\n'));
-        return {QStringLiteral("mmPerPixel"),
-                isLaser ? QStringLiteral("laserMM") : QStringLiteral("diameterMM")};
+        names += {QStringLiteral("mmPerPixel"),
+                  isLaser ? QStringLiteral("laserMM") : QStringLiteral("diameterMM")};
     }
-    if (session.kind == QLatin1String("PipeDimension")) {
-        return {QStringLiteral("diameterMM")};
+    if (info.has(Uses::Diameter)) {
+        names += QStringLiteral("diameterMM");
     }
-    if (session.kind == QLatin1String("WaterLevel")) {
-        return {QStringLiteral("percentage")};
+    if (info.has(Uses::Angle)) {
+        names += QStringLiteral("angleDEG");
     }
-    if (session.kind == QLatin1String("BranchAngle")) {
-        return {QStringLiteral("angleDEG"), QStringLiteral("percentage"), QStringLiteral("clock")};
+    // Of a bend's two shapes the joint alone has a length.
+    if (info.has(Uses::Percentage) && (!info.has(Uses::Direction) || session.jointShown)) {
+        names += QStringLiteral("percentage");
     }
-    if (session.kind == QLatin1String("CrossSection")) {
-        return {QStringLiteral("diameterMM"), QStringLiteral("percentage")};
-    }
-    QStringList names{QStringLiteral("angleDEG"), QStringLiteral("clock")};
-    if (session.jointShown) {
-        names.append(QStringLiteral("percentage"));
+    if (info.has(Uses::Clock)) {
+        names += QStringLiteral("clock");
     }
     return names;
 }
 
 QStringList alignmentFields(const Session &session)
 {
-    if (!hasModel(session.kind)) {
+    if (!infoOf(session.kind).has(Uses::Model)) {
         return {};
     }
     if (session.rearCircleActive) {
@@ -246,39 +240,32 @@ QStringList alignmentFields(const Session &session)
             QStringLiteral("rollDEG"), QStringLiteral("fovYDEG")};
 }
 
-bool hasModel(const QString &kind)
-{
-    return kind != QLatin1String("CrackWidth");
-}
-
 QString fieldText(const Field &field, const Session &session)
 {
     const std::optional<double> value = field.get(session);
     return value ? number(*value, field.decimals) : QString();
 }
 
-std::optional<double> readField(const Field &field, const QString &text, QString &problem)
+Measuring::Result<std::optional<double>> readField(const Field &field, const QString &text)
 {
-    problem.clear();
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty() && field.mayBeEmpty) {
-        return std::nullopt;
+        return std::optional<double>();
     }
     bool isNumber = false;
     const double value =
         QLocale::c().toDouble(UnitConv::cultureIndependentDecimalSeparator(trimmed), &isNumber);
     if (!isNumber || !std::isfinite(value)) {
-        problem = tr(QT_TRANSLATE_NOOP("Field", "This is not a number."));
-        return std::nullopt;
+        return Measuring::Problem{{}, tr(QT_TRANSLATE_NOOP("Field", "This is not a number."))};
     }
     if (value < field.smallest || value > field.largest) {
-        problem = tr(QT_TRANSLATE_NOOP("Field", "From %1 to %2 %3, please."))
-                      .arg(number(field.smallest, field.decimals),
-                           number(field.largest, field.decimals), field.unit)
-                      .trimmed();
-        return std::nullopt;
+        return Measuring::Problem{{},
+                                  tr(QT_TRANSLATE_NOOP("Field", "From %1 to %2 %3, please."))
+                                      .arg(number(field.smallest, field.decimals),
+                                           number(field.largest, field.decimals), field.unit)
+                                      .trimmed()};
     }
-    return value;
+    return std::optional<double>(value);
 }
 
 } // namespace Drevon::Zalento

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "measuring/Result.h"
 #include "measuring/Session.h"
 
 #include <QString>
@@ -21,6 +22,7 @@ struct Field
     double step = 1.0;
     int decimals = 0; ///< shown at most
     bool hasSlider = false;
+    bool movesModel = true; ///< points have to be looked up again
     bool mayBeEmpty = false;
     std::function<std::optional<double>(const Measuring::Session &)> get;
     std::function<void(Measuring::Session &, std::optional<double>)> set;
@@ -35,17 +37,13 @@ QStringList kindFields(const Measuring::Session &session);
 /** Names of the fields that align the model; none for a kind without a model. */
 QStringList alignmentFields(const Measuring::Session &session);
 
-/** Whether the kind shows a model that can be aligned. */
-bool hasModel(const QString &kind);
-
 /** The field's value as text; empty when it has none. */
 QString fieldText(const Field &field, const Measuring::Session &session);
 
 /**
- * Reads a typed number; a decimal comma is understood.
- * @param problem what is wrong, in words for the operator; empty when nothing is
- * @return nothing for an empty text that is allowed, or on a problem
+ * Reads a typed number; a decimal comma is understood. Nothing for an empty text that is allowed. A
+ * problem is in words for the operator.
  */
-std::optional<double> readField(const Field &field, const QString &text, QString &problem);
+Measuring::Result<std::optional<double>> readField(const Field &field, const QString &text);
 
 } // namespace Drevon::Zalento

@@ -37,39 +37,37 @@ int wholeNumber(const QJsonValue &value)
 
 } // namespace
 
-std::optional<PipeRecord> loadPipeRecord(const QString &path, QString &problem)
+Measuring::Result<PipeRecord> loadPipeRecord(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        problem = tr("%1: cannot be read: %2").arg(path, file.errorString());
-        return std::nullopt;
+        return Measuring::Problem{path, tr("cannot be read: %1").arg(file.errorString())};
     }
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(file.read(largestRecordBytes), &error);
     if (!document.isObject()) {
-        problem = tr("%1: expected a JSON object: %2").arg(path, error.errorString());
-        return std::nullopt;
+        return Measuring::Problem{path, tr("expected a JSON object: %1").arg(error.errorString())};
     }
     const QJsonObject fields = document.object();
     const PipeRecord record{wholeNumber(fields.value(QLatin1String(sizeField))),
                             fields.value(QLatin1String(unitField)).toString(QStringLiteral("mm"))};
-    problem = recordProblem(record);
-    if (!problem.isEmpty()) {
-        problem = tr("%1 (%2): %3").arg(path, QLatin1String(sizeField), problem);
-        return std::nullopt;
+    if (const Measuring::Outcome problem = checkRecord(record)) {
+        return problem->in(QStringLiteral("%1 (%2)").arg(path, QLatin1String(sizeField)));
     }
     return record;
 }
 
-QString recordProblem(const PipeRecord &record)
+Measuring::Outcome checkRecord(const PipeRecord &record)
 {
     static const QStringList units{QStringLiteral("mm"), QStringLiteral("inch"),
                                    QStringLiteral("ft")};
     if (record.nominalSize < 1 || record.nominalSize > largestNominalSize) {
-        return tr("The nominal size is a whole number from 1 to %1.").arg(largestNominalSize);
+        return Measuring::Problem{
+            {}, tr("The nominal size is a whole number from 1 to %1.").arg(largestNominalSize)};
     }
     if (!units.contains(record.unit)) {
-        return tr("The unit is one of %1.").arg(units.join(QStringLiteral(", ")));
+        return Measuring::Problem{
+            {}, tr("The unit is one of %1.").arg(units.join(QStringLiteral(", ")))};
     }
     return {};
 }
@@ -81,6 +79,32 @@ void activate(const PipeRecord &record)
     auto structure = QSharedPointer<Database::CDomainObject>::create();
     structure->writeValue(field, record.nominalSize);
     AppState::instance()->setActiveStructure(structure);
+}
+
+PipeRecords::PipeRecords(Guidance &guidance)
+    : m_guidance(guidance)
+{}
+
+QString PipeRecords::take(const QString &nominalSize, const QString &unit)
+{
+    const PipeRecord record{nominalSize.trimmed().toInt(), unit};
+    if (const Measuring::Outcome problem = checkRecord(record)) {
+        return problem->text();
+    }
+    activate(record);
+    return {};
+}
+
+void PipeRecords::load(const QString &path)
+{
+    const auto record = loadPipeRecord(path);
+    if (!record) {
+        m_guidance.notice(Guidance::Error, record.problem().text());
+        return;
+    }
+    activate(*record);
+    m_guidance.notice(Guidance::Information,
+                      tr("Pipe record: %1 %2.").arg(record->nominalSize).arg(record->unit));
 }
 
 } // namespace Drevon::Zalento

@@ -1,8 +1,11 @@
 #pragma once
 
-#include <QString>
+#include "Guidance.h"
 
-#include <optional>
+#include "measuring/Result.h"
+
+#include <QObject>
+#include <QString>
 
 namespace Drevon::Zalento {
 
@@ -15,15 +18,30 @@ struct PipeRecord
 
 /**
  * Reads a record file: a JSON object with the whole number "OBJ_Size1" and, unless it is in
- * millimetres, its "unit".
- * @param problem on failure: what is wrong, naming the file
+ * millimetres, its "unit". A problem names the file.
  */
-std::optional<PipeRecord> loadPipeRecord(const QString &path, QString &problem);
+Measuring::Result<PipeRecord> loadPipeRecord(const QString &path);
 
-/** What is wrong with a record; empty when nothing is. */
-QString recordProblem(const PipeRecord &record);
+/** What is wrong with a record. */
+Measuring::Outcome checkRecord(const PipeRecord &record);
 
 /** Makes the record the host's active structure; every measuring item takes its diameter. */
 void activate(const PipeRecord &record);
+
+/** The operator's way to a record: typed or from a file. */
+class PipeRecords : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PipeRecords(Guidance &guidance);
+
+    /** @return what is wrong with the record; empty when it was taken */
+    Q_INVOKABLE QString take(const QString &nominalSize, const QString &unit);
+    Q_INVOKABLE void load(const QString &path);
+
+private:
+    Guidance &m_guidance;
+};
 
 } // namespace Drevon::Zalento

@@ -4,7 +4,7 @@
 #include "PictureProvider.h"
 #include "StageGestures.h"
 #include "StageView.h"
-#include "ViewerController.h"
+#include "Viewer.h"
 
 #include <zalento/item/registerTypes.h>
 
@@ -24,14 +24,14 @@ namespace Drevon::Zalento {
 
 namespace {
 
-// Under this name the engine knows the controller.
-const char *const controllerProperty = "viewerController";
+// Under this name the engine knows the viewer.
+const char *const viewerProperty = "viewer";
 
-QObject *controllerOf(QQmlEngine *engine, QJSEngine *)
+QObject *viewerOf(QQmlEngine *engine, QJSEngine *)
 {
-    auto *controller = engine->property(controllerProperty).value<QObject *>();
-    QQmlEngine::setObjectOwnership(controller, QQmlEngine::CppOwnership);
-    return controller;
+    auto *viewer = engine->property(viewerProperty).value<QObject *>();
+    QQmlEngine::setObjectOwnership(viewer, QQmlEngine::CppOwnership);
+    return viewer;
 }
 
 // For the first window of the process.
@@ -44,20 +44,30 @@ void prepareScene()
     qmlRegisterType<OverlayView>(module, 1, 0, "OverlayView");
     qmlRegisterType<StageGestures>(module, 1, 0, "StageGestures");
     qmlRegisterType<StageView>(module, 1, 0, "StageView");
-    qmlRegisterSingletonType<ViewerController>(module, 1, 0, "Viewer", controllerOf);
+    qmlRegisterSingletonType<Viewer>(module, 1, 0, "Viewer", viewerOf);
+    const QString reason = QStringLiteral("it is a part of Viewer");
+    qmlRegisterUncreatableType<Preferences>(module, 1, 0, "Preferences", reason);
+    qmlRegisterUncreatableType<Guidance>(module, 1, 0, "Guidance", reason);
+    qmlRegisterUncreatableType<DocumentList>(module, 1, 0, "DocumentList", reason);
+    qmlRegisterUncreatableType<MeasurementEditor>(module, 1, 0, "MeasurementEditor", reason);
+    qmlRegisterUncreatableType<PointModel>(module, 1, 0, "PointModel", reason);
+    qmlRegisterUncreatableType<KindModel>(module, 1, 0, "KindModel", reason);
+    qmlRegisterUncreatableType<FieldModel>(module, 1, 0, "FieldModel", reason);
+    qmlRegisterUncreatableType<Exporter>(module, 1, 0, "Exporter", reason);
+    qmlRegisterUncreatableType<PipeRecords>(module, 1, 0, "PipeRecords", reason);
 }
 
 } // namespace
 
-ViewerWindow::ViewerWindow(ViewerController &controller)
+ViewerWindow::ViewerWindow(Viewer &viewer)
 {
     static std::once_flag sceneIsPrepared;
     std::call_once(sceneIsPrepared, prepareScene);
 
     auto *provider = new PictureProvider;
-    controller.setPictureProvider(provider);
+    viewer.documents()->setPictureProvider(provider);
     m_engine.addImageProvider(QStringLiteral("picture"), provider);
-    m_engine.setProperty(controllerProperty, QVariant::fromValue<QObject *>(&controller));
+    m_engine.setProperty(viewerProperty, QVariant::fromValue<QObject *>(&viewer));
 }
 
 bool ViewerWindow::show()

@@ -6,13 +6,13 @@ class QQuickWindow;
 
 namespace Drevon::Zalento {
 
-class ViewerController;
+class Viewer;
 
 /** The viewer's window with its scene. The controller outlives it. */
 class ViewerWindow
 {
 public:
-    explicit ViewerWindow(ViewerController &controller);
+    explicit ViewerWindow(Viewer &viewer);
 
     /** @return false when the scene cannot be loaded; the reasons stand on stderr */
     bool show();

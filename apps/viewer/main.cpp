@@ -1,4 +1,4 @@
-#include "ViewerController.h"
+#include "Viewer.h"
 #include "ViewerWindow.h"
 
 #include <QByteArrayList>
@@ -80,12 +80,12 @@ int main(int argc, char *argv[])
                    stderr);
     }
     chooseRenderer();
-    ViewerController controller;
-    ViewerWindow window(controller);
+    Viewer viewer;
+    ViewerWindow window(viewer);
     if (!window.show()) {
         std::fputs("zalento-viewer: the window cannot be made\n", stderr);
         return exitNoWindow;
     }
-    controller.openPaths(parser.positionalArguments());
+    viewer.documents()->openPaths(parser.positionalArguments());
     return QGuiApplication::exec();
 }

@@ -131,9 +131,8 @@ void points(benchmark::State &state)
 {
     const auto count = static_cast<int>(state.range(0));
     const QTemporaryDir folder;
-    QString problem;
-    std::optional<Session> session = loadSession(QString(sample) + sessionSuffix, problem);
-    require(session.has_value(), qPrintable(problem));
+    Result<Session> session = loadSession(QString(sample) + sessionSuffix);
+    require(bool(session), "session of the sample");
     session->kind = "PipeDimension";
     session->points.clear();
     const QPointF middle(session->picture.size.width() / 2.0, session->picture.size.height() / 2.0);
@@ -144,7 +143,7 @@ void points(benchmark::State &state)
             {middle + radiusPx * QPointF(std::sin(angle), std::cos(angle)), {}, {}});
     }
     const QString path = folder.filePath("points.json");
-    require(saveSession(*session, path, Overwrite::Refuse).isEmpty(), "session");
+    require(!saveSession(*session, path, Overwrite::Refuse), "session");
     measureRuns(state, measureCommand({"--session", path.toStdString()}), "points_per_s", count);
 }
 
@@ -170,12 +169,11 @@ Arguments drawnByConvert(const PaintCall &call)
 // The floor of overlay: ImageMagick draws the overlay's polylines onto the same picture.
 void convert(benchmark::State &state)
 {
-    QString problem;
-    std::optional<Session> session = loadSession(QString(sample) + sessionSuffix, problem);
-    require(session.has_value(), qPrintable(problem));
+    Result<Session> session = loadSession(QString(sample) + sessionSuffix);
+    require(bool(session), "session of the sample");
     ZaItem item;
     layOutItem(item, session->picture.size);
-    applySession(*session, item);
+    showSession(*session, item);
     Test::PaintRecorder recorder(session->picture.size);
     QPainter painter(&recorder);
     item.paint(&painter);

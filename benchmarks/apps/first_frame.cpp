@@ -1,5 +1,5 @@
 // The viewer until its first frame with the picture: starts as zalento-viewer does, and ends there.
-#include "ViewerController.h"
+#include "Viewer.h"
 #include "ViewerWindow.h"
 
 #include <QGuiApplication>
@@ -14,13 +14,13 @@ int main(int argc, char **argv)
     const QGuiApplication app(argc, argv);
     QGuiApplication::setOrganizationName(QStringLiteral("Zalento"));
     QGuiApplication::setApplicationName(QStringLiteral("zalento-first-frame"));
-    ViewerController controller;
-    ViewerWindow window(controller);
+    Viewer viewer;
+    ViewerWindow window(viewer);
     if (!window.show()) {
         return EXIT_FAILURE;
     }
-    controller.openPaths(QGuiApplication::arguments().mid(1));
-    if (!controller.hasPicture()) {
+    viewer.documents()->openPaths(QGuiApplication::arguments().mid(1));
+    if (!viewer.documents()->hasPicture()) {
         return EXIT_FAILURE;
     }
     QObject::connect(window.window(), &QQuickWindow::frameSwapped, &app, &QCoreApplication::quit,

@@ -21,37 +21,26 @@ bool isRecord(const QString &line)
     return fields.size() == (isLaser ? laserFieldCount : scaleFieldCount);
 }
 
-QString readText(const QString &path, QString &text)
+} // namespace
+
+Result<QString> loadCalibration(const QString &path)
 {
     QFile file(path);
     if (QFileInfo(path).isDir()) {
-        return QStringLiteral("is a folder, not a calibration file");
+        return Problem{path, QStringLiteral("is a folder, not a calibration file")};
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("cannot be read: %1").arg(file.errorString());
+        return Problem{path, QStringLiteral("cannot be read: %1").arg(file.errorString())};
     }
     const QByteArray content = file.read(largestFileBytes + 1);
     if (content.size() > largestFileBytes) {
-        return QStringLiteral("is too large for a calibration file");
+        return Problem{path, QStringLiteral("is too large for a calibration file")};
     }
-    text = QString::fromUtf8(content); // without the byte order mark
+    const QString text = QString::fromUtf8(content); // without the byte order mark
     const QStringList lines = text.split(QLatin1Char('\n'));
     if (std::none_of(lines.begin(), lines.end(), isRecord)) {
-        return QStringLiteral("holds no calibration: expected lines LASER;;;MM or "
-                              "DIAMETER;PIXELS;MM");
-    }
-    return {};
-}
-
-} // namespace
-
-std::optional<QString> loadCalibration(const QString &path, QString &problem)
-{
-    QString text;
-    problem = readText(path, text);
-    if (!problem.isEmpty()) {
-        problem = QStringLiteral("%1: %2").arg(path, problem);
-        return std::nullopt;
+        return Problem{path, QStringLiteral("holds no calibration: expected lines LASER;;;MM or "
+                                            "DIAMETER;PIXELS;MM")};
     }
     return text;
 }

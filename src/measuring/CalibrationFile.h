@@ -1,18 +1,16 @@
 #pragma once
 
 #include "measuring/Export.h"
+#include "measuring/Result.h"
 
 #include <QString>
-
-#include <optional>
 
 namespace Drevon::Zalento::Measuring {
 
 /**
- * Reads a camera calibration file, see Pipe::parseIniFile(). A byte order mark is dropped.
- * @param problem on failure: what is wrong, naming the file
+ * Reads a camera calibration file, see Pipe::parseIniFile(). A byte order mark is dropped. A
+ * problem names the file.
  */
-ZALENTO_MEASURING_EXPORT std::optional<QString> loadCalibration(const QString &path,
-                                                                QString &problem);
+ZALENTO_MEASURING_EXPORT Result<QString> loadCalibration(const QString &path);
 
 } // namespace Drevon::Zalento::Measuring

@@ -1,115 +1,150 @@
 #include "measuring/Kind.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace Drevon::Zalento::Measuring {
 
 namespace {
 
-MeasurementKind crackWidth()
-{
-    MeasurementKind kind;
-    kind.name = QStringLiteral("CrackWidth");
-    kind.title = QStringLiteral("Crack width");
-    kind.description = QStringLiteral(
-        "Length of the line through the points, in the plane of the picture; needs a scale.");
-    kind.usesPoints = true;
-    kind.usesScale = true;
-    return kind;
-}
+const char *const lengthenLine = QT_TRANSLATE_NOOP(
+    "Kind", "A click lengthens the line. Drag a point, or nudge it with the arrow keys.");
 
-MeasurementKind pipeDimension()
-{
-    MeasurementKind kind;
-    kind.name = QStringLiteral("PipeDimension");
-    kind.title = QStringLiteral("Pipe dimension");
-    kind.description = QStringLiteral("Length of the line through points on the pipe's wall.");
-    kind.usesPoints = true;
-    return kind;
-}
+const KindInfo crackWidth{
+    Kind::CrackWidth,
+    "CrackWidth",
+    QT_TRANSLATE_NOOP("Kind", "Crack width"),
+    "Length of the line through the points, in the plane of the picture; needs a scale.",
+    ViewObject::StraightPipe,
+    MeasureMode::CrackWidth,
+    Uses::Points | Uses::Scale,
+    {},
+    {},
+    {QT_TRANSLATE_NOOP("Kind", "Click one edge of the crack. A drag pans the picture."),
+     QT_TRANSLATE_NOOP("Kind", "Click the other edge of the crack."), lengthenLine, lengthenLine}};
 
-MeasurementKind waterLevel()
-{
-    MeasurementKind kind;
-    kind.name = QStringLiteral("WaterLevel");
-    kind.title = QStringLiteral("Water level");
-    kind.description =
-        QStringLiteral("Depth of the water in percent of the diameter; set until it matches.");
-    kind.usesPercentage = true;
-    kind.initialPercentage = 20.0;
-    kind.percentageMeaning = QStringLiteral("water level in percent of the diameter");
-    return kind;
-}
+const KindInfo pipeDimension{
+    Kind::PipeDimension,
+    "PipeDimension",
+    QT_TRANSLATE_NOOP("Kind", "Pipe dimension"),
+    "Length of the line through points on the pipe's wall.",
+    ViewObject::StraightPipe,
+    MeasureMode::PipeDimension,
+    Uses::Points | Uses::Diameter | Uses::Model,
+    {},
+    {},
+    {QT_TRANSLATE_NOOP("Kind",
+                       "Drag the green pipe onto the picture's, then click one end on the wall."),
+     QT_TRANSLATE_NOOP("Kind", "Click the other end on the wall."), lengthenLine, lengthenLine}};
 
-MeasurementKind branchAngle()
-{
-    MeasurementKind kind;
-    kind.name = QStringLiteral("BranchAngle");
-    kind.title = QStringLiteral("Branch angle");
-    kind.description = QStringLiteral(
-        "Angle between a branch and the pipe's direction away from the camera; set until the curve "
-        "matches the branch's mouth.");
-    kind.usesPercentage = true;
-    kind.usesAngle = true;
-    kind.usesClock = true;
-    kind.initialPercentage = 50.0;
-    kind.smallestAngleDEG = 30.0;
-    kind.largestAngleDEG = 150.0;
-    kind.percentageMeaning = QStringLiteral("diameter of the branch in percent of the pipe's");
-    return kind;
-}
+const char *const setWater =
+    QT_TRANSLATE_NOOP("Kind", "Drag the pipe into place, then click where the water meets the "
+                              "wall.");
 
-MeasurementKind bendAngle()
-{
-    MeasurementKind kind;
-    kind.name = QStringLiteral("BendAngle");
-    kind.title = QStringLiteral("Bend angle");
-    kind.description = QStringLiteral(
-        "Angle of a bend, in steps of 5 degrees; set until the circles match. The joint of two "
-        "pipe lengths is measured alike.");
-    kind.usesPercentage = true;
-    kind.usesAngle = true;
-    kind.usesClock = true;
-    kind.usesDirection = true;
-    kind.initialPercentage = 50.0;
-    kind.initialAngleDEG = 45.0;
-    kind.largestAngleDEG = 90.0;
-    kind.percentageMeaning =
-        QStringLiteral("length of a joint's continuation in percent of the diameter");
-    return kind;
-}
+const KindInfo waterLevel{
+    Kind::WaterLevel,
+    "WaterLevel",
+    QT_TRANSLATE_NOOP("Kind", "Water level"),
+    "Depth of the water in percent of the diameter; set until it matches.",
+    ViewObject::StraightPipe,
+    MeasureMode::WaterLevel,
+    Uses::Percentage | Uses::Model,
+    {20.0, QT_TRANSLATE_NOOP("Kind", "Water level"), "water level in percent of the diameter"},
+    {},
+    {setWater, setWater, setWater, setWater}};
 
-MeasurementKind crossSection()
-{
-    MeasurementKind kind;
-    kind.name = QStringLiteral("CrossSection");
-    kind.title = QStringLiteral("Cross section");
-    kind.description = QStringLiteral(
-        "Area inside the points on a plane across the pipe, closed by a last point at the first; "
-        "two points measure a length and its share of the diameter.");
-    kind.usesPoints = true;
-    kind.usesPercentage = true;
-    kind.percentageMeaning =
-        QStringLiteral("place of the plane in percent of the modelled length of 10 diameters");
-    return kind;
-}
+const char *const setBranch =
+    QT_TRANSLATE_NOOP("Kind", "Drag the pipe into place; set angle, size and direction until the "
+                              "yellow curve meets the branch.");
+
+const KindInfo branchAngle{
+    Kind::BranchAngle,
+    "BranchAngle",
+    QT_TRANSLATE_NOOP("Kind", "Branch angle"),
+    "Angle between a branch and the pipe's direction away from the camera; set until the curve "
+    "matches the branch's mouth.",
+    ViewObject::Lateral,
+    MeasureMode::NoMeasure,
+    Uses::Percentage | Uses::Angle | Uses::Clock | Uses::Model,
+    {50.0, QT_TRANSLATE_NOOP("Kind", "Branch size"),
+     "diameter of the branch in percent of the pipe's"},
+    {90.0, 30.0, 150.0, 1.0},
+    {setBranch, setBranch, setBranch, setBranch}};
+
+const char *const setBend =
+    QT_TRANSLATE_NOOP("Kind", "Drag the pipe into place; set angle and direction until the circles "
+                              "follow the bend.");
+
+const KindInfo bendAngle{
+    Kind::BendAngle,
+    "BendAngle",
+    QT_TRANSLATE_NOOP("Kind", "Bend angle"),
+    "Angle of a bend, in steps of 5 degrees; set until the circles match. The joint of two pipe "
+    "lengths is measured alike.",
+    ViewObject::Bend,
+    MeasureMode::NoMeasure,
+    Uses::Percentage | Uses::Angle | Uses::Clock | Uses::Direction | Uses::Model,
+    {50.0, QT_TRANSLATE_NOOP("Kind", "Piece length"),
+     "length of a joint's continuation in percent of the diameter"},
+    {45.0, 0.0, 90.0, 5.0},
+    {setBend, setBend, setBend, setBend}};
+
+const KindInfo crossSection{
+    Kind::CrossSection,
+    "CrossSection",
+    QT_TRANSLATE_NOOP("Kind", "Cross section"),
+    "Area inside the points on a plane across the pipe, closed by a last point at the first; two "
+    "points measure a length and its share of the diameter.",
+    ViewObject::StraightPipe,
+    MeasureMode::CrossSection,
+    Uses::Points | Uses::Percentage | Uses::Diameter | Uses::Model,
+    {0.0, QT_TRANSLATE_NOOP("Kind", "Plane depth"),
+     "place of the plane in percent of the modelled length of 10 diameters"},
+    {},
+    {QT_TRANSLATE_NOOP("Kind", "Set the plane's depth, then click along the outline on the plane."),
+     QT_TRANSLATE_NOOP("Kind",
+                       "A click sets point %1 of the outline; two points measure a length."),
+     QT_TRANSLATE_NOOP("Kind",
+                       "A click sets point %1; one near the first point closes the outline."),
+     QT_TRANSLATE_NOOP("Kind", "Closed. Drag a point to correct it; a click starts a new "
+                               "outline.")}};
 
 } // namespace
 
-const QVector<MeasurementKind> &measurementKinds()
+const std::array<KindInfo, 6> &kinds()
 {
-    static const QVector<MeasurementKind> kinds{crackWidth(),  pipeDimension(), waterLevel(),
-                                                branchAngle(), bendAngle(),     crossSection()};
-    return kinds;
+    static const std::array<KindInfo, 6> table{crackWidth,  pipeDimension, waterLevel,
+                                               branchAngle, bendAngle,     crossSection};
+    return table;
 }
 
-const MeasurementKind *findMeasurementKind(const QString &name)
+const KindInfo &infoOf(Kind kind)
 {
-    const auto &kinds = measurementKinds();
-    const auto found =
-        std::find_if(kinds.begin(), kinds.end(),
-                     [&name](const MeasurementKind &kind) { return kind.name == name; });
-    return found == kinds.end() ? nullptr : &*found;
+    return kinds()[static_cast<std::size_t>(kind)];
+}
+
+std::optional<Kind> kindNamed(const QString &name)
+{
+    const auto &table = kinds();
+    const auto found = std::find_if(table.begin(), table.end(), [&name](const KindInfo &info) {
+        return name == QLatin1String(info.name);
+    });
+    return found == table.end() ? std::nullopt : std::optional<Kind>(found->kind);
+}
+
+QStringList kindNames()
+{
+    QStringList names;
+    for (const KindInfo &info : kinds()) {
+        names += info.nameText();
+    }
+    return names;
+}
+
+QString translated(const char *kindText)
+{
+    return QCoreApplication::translate("Kind", kindText);
 }
 
 } // namespace Drevon::Zalento::Measuring

@@ -2,34 +2,91 @@
 
 #include "measuring/Export.h"
 
+#include "zalento/measure/MeasureMode.h"
+#include "zalento/pipes/ViewObject.h"
+
+#include <QFlags>
 #include <QString>
-#include <QVector>
+#include <QStringList>
+
+#include <array>
+#include <optional>
 
 namespace Drevon::Zalento::Measuring {
 
-/** Something that can be measured, and what the operator sets for it. */
-struct MeasurementKind
-{
-    QString name;        ///< as the item knows it, for example "CrackWidth"
-    QString title;       ///< for people: "Crack width"
-    QString description; ///< one sentence: what is measured, and how
-    bool usesPoints = false;
-    bool usesScale = false; ///< millimetres per picture pixel
-    bool usesPercentage = false;
-    bool usesAngle = false;
-    bool usesClock = false;
-    bool usesDirection = false;
-    double initialPercentage = 0.0;
-    double initialAngleDEG = 90.0;
-    double smallestAngleDEG = 0.0;
-    double largestAngleDEG = 180.0;
-    QString percentageMeaning; ///< what the percentage sets; empty when it is not used
+/** What can be measured, in the order in which it is offered. */
+enum class Kind {
+    CrackWidth,
+    PipeDimension,
+    WaterLevel,
+    BranchAngle,
+    BendAngle,
+    CrossSection,
 };
 
-/** The six kinds, in the order in which they are offered. */
-ZALENTO_MEASURING_EXPORT const QVector<MeasurementKind> &measurementKinds();
+/** What the operator sets for a kind, beside the alignment. */
+enum class Uses {
+    Points = 0x01,
+    Scale = 0x02, ///< millimetres per picture pixel
+    Percentage = 0x04,
+    Angle = 0x08,
+    Clock = 0x10,
+    Direction = 0x20, ///< seen downstream or upstream, as a bend or a joint
+    Diameter = 0x40,  ///< the value grows with the nominal diameter
+    Model = 0x80,     ///< a pipe is laid over the picture
+};
+Q_DECLARE_FLAGS(UsesFlags, Uses)
+Q_DECLARE_OPERATORS_FOR_FLAGS(UsesFlags)
 
-/** The kind of this exact name; null for any other. */
-ZALENTO_MEASURING_EXPORT const MeasurementKind *findMeasurementKind(const QString &name);
+/** What a kind's percentage sets. */
+struct PercentageRow
+{
+    double initial = 0.0;
+    const char *label = "";   ///< "Water level"
+    const char *meaning = ""; ///< "water level in percent of the diameter"
+};
+
+/** The angles that a kind can have. */
+struct AngleRow
+{
+    double initialDEG = 90.0;
+    double smallestDEG = 0.0;
+    double largestDEG = 180.0;
+    double stepDEG = 1.0; ///< to which the item rounds, or by which a key moves
+};
+
+/** Everything that depends on the kind alone. Texts for people are translated by translated(). */
+struct KindInfo
+{
+    Kind kind;
+    const char *name;        ///< in files, on the command line and of the item
+    const char *title;       ///< for people: "Crack width"
+    const char *description; ///< one sentence: what is measured, and how
+    ViewObject object;       ///< on view
+    MeasureMode mode;        ///< of the straight pipe
+    UsesFlags uses;
+    PercentageRow percentage;
+    AngleRow angle;
+    /** What to do next: without points, with one, with more, and after a closed outline. */
+    std::array<const char *, 4> guidance;
+
+    QString nameText() const { return QLatin1String(name); }
+    bool has(Uses use) const { return uses.testFlag(use); }
+};
+
+/** The table of kinds. */
+ZALENTO_MEASURING_EXPORT const std::array<KindInfo, 6> &kinds();
+
+/** The row of a kind. */
+ZALENTO_MEASURING_EXPORT const KindInfo &infoOf(Kind kind);
+
+/** The kind of this exact name. */
+ZALENTO_MEASURING_EXPORT std::optional<Kind> kindNamed(const QString &name);
+
+/** The names of all kinds. */
+ZALENTO_MEASURING_EXPORT QStringList kindNames();
+
+/** A text of the table in the user's language. */
+ZALENTO_MEASURING_EXPORT QString translated(const char *kindText);
 
 } // namespace Drevon::Zalento::Measuring

@@ -1,134 +1,141 @@
 #include "measuring/Measurement.h"
 
-#include "measuring/Replay.h"
+#include "measuring/Editing.h"
+#include "measuring/PipeView.h"
 
-#include "zalento/settings/UnitConv.h"
+#include "zalento/measure/measureLine.h"
+#include "zalento/measure/valueTexts.h"
+#include "zalento/pipes/Pipe.h"
+#include "zalento/pipes/PipeBend.h"
 
-#include <cmath>
+#include <algorithm>
 
 namespace Drevon::Zalento::Measuring {
 
 namespace {
 
 constexpr double percentPerOne = 100.0;
+constexpr double fractionPerPercent = 0.01;
+constexpr double mmPerM = 1000.0;
 
-const Pipe *pipeOf(ZaItem &item)
-{
-    return dynamic_cast<const Pipe *>(&item.getCurrentViewObject());
-}
-
-QString fixed(double number, int decimals)
-{
-    return QString::number(number, 'f', decimals);
-}
-
-MeasuredValue percentValue(const QString &name, double percent, const QString &text)
-{
-    return {name, percent, QStringLiteral("%"), text + QStringLiteral(" %")};
-}
-
-MeasuredValue lengthValue(const QString &name, double mm, MeasureUnit unit)
-{
-    return {name, mm, QStringLiteral("mm"), UnitConv::lenStr(mm, unit)};
-}
-
-MeasuredValue angleValue(const QString &name, double deg)
-{
-    return {name, deg, QStringLiteral("deg"), QString::number(deg) + QStringLiteral("°")};
-}
-
-Measurement measured(const QVector<MeasuredValue> &values)
+Measurement measured(const QVector<Value> &values)
 {
     return {MeasureState::Measured, values, {}};
 }
 
-Measurement needsPoints(const QString &note)
+Measurement unmeasured(MeasureState state, const QString &note)
 {
-    return {MeasureState::NeedsPoints, {}, note};
+    return {state, {}, note};
 }
 
-Measurement noScale()
+QString unitOf(Quantity quantity)
 {
-    return {MeasureState::NoScale,
-            {},
-            QStringLiteral("no scale yet: give millimetres per pixel, a calibration file, or the "
-                           "two laser spots")};
+    switch (quantity) {
+    case Quantity::Length:
+        return QStringLiteral("mm");
+    case Quantity::Area:
+        return QStringLiteral("mm²");
+    case Quantity::Fraction:
+    case Quantity::Percent:
+        return QStringLiteral("%");
+    case Quantity::Angle:
+        break;
+    }
+    return QStringLiteral("deg");
 }
 
-Measurement waterLevel(const Pipe &pipe)
+// Fractions are told in percent.
+Value named(const char *name, const MeasuredValue &value, MeasureUnit unit)
 {
-    const double percent = pipe.measure1 * percentPerOne;
-    // Rounded as on the overlay.
-    const int shown = static_cast<int>(percent + 0.5);
-    return measured({percentValue(QStringLiteral("waterLevel"), percent, QString::number(shown))});
+    const double number =
+        value.quantity == Quantity::Fraction ? value.number * percentPerOne : value.number;
+    return {QLatin1String(name), number, unitOf(value.quantity), valueText(value, unit)};
 }
 
-Measurement area(const Pipe &pipe, MeasureUnit unit)
+Measurement waterLevel(const Session &session)
 {
-    const double share = pipe.measure2 * percentPerOne;
-    return measured({{QStringLiteral("area"), pipe.measure1, QStringLiteral("mm²"),
-                      UnitConv::areaStr(pipe.measure1, unit)},
-                     percentValue(QStringLiteral("areaShare"), share, fixed(share, 0))});
+    const double fraction = session.percentage * fractionPerPercent;
+    return measured({{QStringLiteral("waterLevel"), fraction * percentPerOne, QStringLiteral("%"),
+                      waterLevelText(fraction)}});
 }
 
-Measurement crossSectionLength(const Pipe &pipe, MeasureUnit unit)
+Measurement branchAngle(const Session &session)
 {
-    QVector<MeasuredValue> values{lengthValue(QStringLiteral("length"), pipe.measure1, unit)};
-    if (pipe.hitPoints.size() == 2) {
-        const double share = pipe.measure1 * percentPerOne / pipe.diameterMM;
-        values += percentValue(QStringLiteral("diameterShare"), share, fixed(share, 1));
+    const AngleRow &angles = infoOf(session.kind).angle;
+    const double angleDEG = std::clamp(session.angleDEG, angles.smallestDEG, angles.largestDEG);
+    return measured(
+        {named("branchAngle", {Quantity::Angle, angleDEG, NoValue::None}, session.unit)});
+}
+
+// The bend itself knows the steps that it is drawn in.
+Measurement bendAngle(const Session &session)
+{
+    const AngleRow &angles = infoOf(session.kind).angle;
+    PipeBend bend;
+    bend.setAngleDeg(std::clamp(session.angleDEG, angles.smallestDEG, angles.largestDEG));
+    return measured(
+        {named("bendAngle", {Quantity::Angle, bend.angleDeg, NoValue::None}, session.unit)});
+}
+
+LineMeasure lineMeasure(const Session &session)
+{
+    std::vector<Vec3> positions;
+    for (const SessionPoint &point : session.points) {
+        positions.push_back(point.position.value_or(Vec3()));
+    }
+    PipeView view(session);
+    const LineScale scale{view.pipe().cylinder.radiusM * mmPerM, view.drawingArea().width(),
+                          scaleOf(session).value_or(0.0)};
+    return measureLine(positions, infoOf(session.kind).mode, scale);
+}
+
+const char *lengthName(Kind kind)
+{
+    return kind == Kind::CrackWidth ? "crackWidth" : "length";
+}
+
+Measurement lineMeasurement(const Session &session)
+{
+    if (session.kind == Kind::CrackWidth && !scaleOf(session)) {
+        return unmeasured(MeasureState::NoScale,
+                          QStringLiteral("no scale yet: give millimetres per pixel, a calibration "
+                                         "file, or the two laser spots"));
+    }
+    if (session.points.size() < 2) {
+        return unmeasured(MeasureState::NeedsPoints, QStringLiteral("needs at least two points"));
+    }
+    const LineMeasure line = lineMeasure(session);
+    if (!line.value.isMeasured()) {
+        return unmeasured(MeasureState::NeedsPoints, QStringLiteral("the points lie on one place"));
+    }
+    if (line.observable == ObservableType::Area) {
+        return measured({named("area", line.value, session.unit),
+                         named("areaShare", line.share, session.unit)});
+    }
+    QVector<Value> values{named(lengthName(session.kind), line.value, session.unit)};
+    if (line.share.isMeasured()) {
+        values += named("diameterShare", line.share, session.unit);
     }
     return measured(values);
 }
 
-Measurement pipeMeasurement(const Pipe &pipe, MeasureUnit unit)
-{
-    if (pipe.measureMode == MeasureMode::WaterLevel) {
-        return waterLevel(pipe);
-    }
-    if (pipe.hitPoints.size() < 2) {
-        return needsPoints(QStringLiteral("needs at least two points"));
-    }
-    // The overlay keeps the last measure; only what it observes was measured just now.
-    if (pipe.observable == ObservableType::Area) {
-        return area(pipe, unit);
-    }
-    if (pipe.observable != ObservableType::Length || !std::isfinite(pipe.measure1)) {
-        return needsPoints(QStringLiteral("the points lie on one place"));
-    }
-    switch (pipe.measureMode) {
-    case MeasureMode::CrossSection:
-        return crossSectionLength(pipe, unit);
-    case MeasureMode::CrackWidth:
-        return measured({lengthValue(QStringLiteral("crackWidth"), pipe.measure1, unit)});
-    default:
-        return measured({lengthValue(QStringLiteral("length"), pipe.measure1, unit)});
-    }
-}
-
 } // namespace
 
-bool hasScale(ZaItem &item)
+Measurement measure(const Session &session)
 {
-    const Pipe *pipe = pipeOf(item);
-    return pipe && std::isfinite(pipe->laserScale) && pipe->laserScale > 0.0;
-}
-
-Measurement measure(ZaItem &item)
-{
-    settle(item);
-    PipeBase &object = item.getCurrentViewObject();
-    if (const auto *lateral = dynamic_cast<PipeLateral *>(&object)) {
-        return measured({angleValue(QStringLiteral("branchAngle"), lateral->getAngleDeg())});
+    switch (session.kind) {
+    case Kind::WaterLevel:
+        return waterLevel(session);
+    case Kind::BranchAngle:
+        return branchAngle(session);
+    case Kind::BendAngle:
+        return bendAngle(session);
+    default:
+        break;
     }
-    if (const auto *bend = dynamic_cast<PipeBendBase *>(&object)) {
-        return measured({angleValue(QStringLiteral("bendAngle"), bend->angleDeg)});
-    }
-    const Pipe &pipe = *pipeOf(item);
-    if (pipe.measureMode == MeasureMode::CrackWidth && !hasScale(item)) {
-        return noScale();
-    }
-    return pipeMeasurement(pipe, MeasureUnit(item.measureUnit()));
+    Session placed = session;
+    placePoints(placed);
+    return lineMeasurement(placed);
 }
 
 } // namespace Drevon::Zalento::Measuring

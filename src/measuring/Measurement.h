@@ -1,8 +1,7 @@
 #pragma once
 
 #include "measuring/Export.h"
-
-#include "zalento/item/ZaItem.h"
+#include "measuring/Session.h"
 
 #include <QString>
 #include <QVector>
@@ -10,7 +9,7 @@
 namespace Drevon::Zalento::Measuring {
 
 /** A measured value. */
-struct MeasuredValue
+struct Value
 {
     QString name;        ///< "crackWidth", "area", ... ; stable
     double number = 0.0; ///< in #unit
@@ -21,21 +20,19 @@ struct MeasuredValue
 /** Why there is a value, or none. */
 enum class MeasureState {
     Measured,
-    NeedsPoints, ///< too few points
+    NeedsPoints, ///< too few points, or all on one place
     NoScale,     ///< a crack in a picture whose millimetres per pixel are not known yet
 };
 
+/** What a session measures. */
 struct Measurement
 {
     MeasureState state = MeasureState::NeedsPoints;
-    QVector<MeasuredValue> values; ///< empty unless measured
-    QString note;                  ///< what to do when nothing is measured; else empty
+    QVector<Value> values; ///< empty unless measured
+    QString note;          ///< what to do when nothing is measured; else empty
 };
 
-/** Settles the item and reads what it measures. GUI thread only. */
-ZALENTO_MEASURING_EXPORT Measurement measure(ZaItem &item);
-
-/** True when the item knows how many millimetres a picture pixel has; for the kind CrackWidth. */
-ZALENTO_MEASURING_EXPORT bool hasScale(ZaItem &item);
+/** Measures a session; points without a position are looked up where they were clicked. */
+ZALENTO_MEASURING_EXPORT Measurement measure(const Session &session);
 
 } // namespace Drevon::Zalento::Measuring

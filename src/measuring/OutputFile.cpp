@@ -5,19 +5,19 @@
 
 namespace Drevon::Zalento::Measuring {
 
-QString writeFile(const QString &path, const QByteArray &content, Overwrite overwrite)
+Outcome writeFile(const QString &path, const QByteArray &content, Overwrite overwrite)
 {
     const QFileInfo existing(path);
     // A symbolic link that leads nowhere is something of the user's, too.
     if (overwrite == Overwrite::Refuse && (existing.exists() || existing.isSymLink())) {
-        return QStringLiteral("%1 exists already and was left as it is").arg(path);
+        return Problem{path, QStringLiteral("exists already and was left as it is")};
     }
     QSaveFile file(path);
     // What flush() reports of a full disk, commit() would not: it would replace the old file by
     // what fitted.
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
         !file.flush() || !file.commit()) {
-        return QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString());
+        return Problem{path, QStringLiteral("cannot be written: %1").arg(file.errorString())};
     }
     return {};
 }

@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QCryptographicHash>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -12,11 +13,14 @@ namespace Drevon::Zalento::Measuring {
 
 namespace {
 
+// How the names of pictures end that an overlay was painted over.
+const QLatin1String overlayMark(".overlay");
+
 constexpr qint64 pixelsPerMegapixel = 1'000'000;
 // A file beyond this is no picture of an inspection, and would not fit into memory twice.
 constexpr qint64 largestFileBytes = 512 * 1024 * 1024;
 
-QString fileProblem(const QFileInfo &info)
+std::optional<QString> fileProblem(const QFileInfo &info)
 {
     if (!info.exists()) {
         return QStringLiteral("there is no such file");
@@ -36,7 +40,7 @@ QString fileProblem(const QFileInfo &info)
     return {};
 }
 
-QString sizeProblem(const QSize &size)
+std::optional<QString> sizeProblem(const QSize &size)
 {
     const qint64 pixels = qint64(size.width()) * size.height();
     if (pixels > largestPictureMegapixels * pixelsPerMegapixel) {
@@ -50,7 +54,7 @@ QString sizeProblem(const QSize &size)
 }
 
 // The size stands at the start of a picture file: it is known without decoding.
-QString headerProblem(QImageReader &reader)
+std::optional<QString> headerProblem(QImageReader &reader)
 {
     if (!reader.canRead() || !pictureFormats().contains(reader.format())) {
         return QStringLiteral("is not a picture in a known format");
@@ -63,15 +67,14 @@ QString headerProblem(QImageReader &reader)
     return sizeProblem(size);
 }
 
-QString decode(const QByteArray &content, QImage &image)
+std::optional<QString> decode(const QByteArray &content, QImage &image)
 {
     QBuffer buffer;
     buffer.setData(content);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
     reader.setAutoTransform(true);
-    const QString problem = headerProblem(reader);
-    if (!problem.isEmpty()) {
+    if (const std::optional<QString> problem = headerProblem(reader)) {
         return problem;
     }
     if (!isCompletePicture(content, reader.format())) {
@@ -81,28 +84,6 @@ QString decode(const QByteArray &content, QImage &image)
         return QStringLiteral("the picture is damaged or cut off: %1").arg(reader.errorString());
     }
     return {};
-}
-
-QString load(const QString &path, Picture &picture)
-{
-    const QFileInfo info(path);
-    const QString problem = fileProblem(info);
-    if (!problem.isEmpty()) {
-        return problem;
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("cannot be read: %1").arg(file.errorString());
-    }
-    const QByteArray content = file.readAll();
-    if (content.size() != info.size()) {
-        return QStringLiteral("cannot be read to its end");
-    }
-    picture.identity.path = path;
-    picture.identity.sha256 = QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();
-    const QString decodeProblem = decode(content, picture.image);
-    picture.identity.size = picture.image.size();
-    return decodeProblem;
 }
 
 } // namespace
@@ -123,14 +104,60 @@ const QList<QByteArray> &pictureFormats()
     return formats;
 }
 
-std::optional<Picture> loadPicture(const QString &path, QString &problem)
+QStringList pictureNamePatterns()
 {
-    Picture picture;
-    problem = load(path, picture);
-    if (!problem.isEmpty()) {
-        problem = QStringLiteral("%1: %2").arg(path, problem);
-        return std::nullopt;
+    QStringList patterns;
+    for (const QByteArray &format : pictureFormats()) {
+        patterns += QStringLiteral("*.") + QString::fromLatin1(format);
     }
+    return patterns;
+}
+
+bool isPictureToMeasure(const QString &path)
+{
+    const QFileInfo info(path);
+    return pictureFormats().contains(info.suffix().toLower().toLatin1()) &&
+           !info.completeBaseName().endsWith(overlayMark);
+}
+
+QStringList picturesIn(const QString &folder, bool recursive)
+{
+    // A link that leads nowhere, or a name that is not UTF-8, is no file to Qt; it is listed to be
+    // told of.
+    QDirIterator files(folder, QDir::Files | QDir::System,
+                       recursive ? QDirIterator::Subdirectories : QDirIterator::NoIteratorFlags);
+    QStringList pictures;
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (isPictureToMeasure(path)) {
+            pictures += path;
+        }
+    }
+    pictures.sort();
+    return pictures;
+}
+
+Result<Picture> loadPicture(const QString &path)
+{
+    const QFileInfo info(path);
+    if (const std::optional<QString> problem = fileProblem(info)) {
+        return Problem{path, *problem};
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return Problem{path, QStringLiteral("cannot be read: %1").arg(file.errorString())};
+    }
+    const QByteArray content = file.readAll();
+    if (content.size() != info.size()) {
+        return Problem{path, QStringLiteral("cannot be read to its end")};
+    }
+    Picture picture;
+    if (const std::optional<QString> problem = decode(content, picture.image)) {
+        return Problem{path, *problem};
+    }
+    picture.identity.path = path;
+    picture.identity.sha256 = QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();
+    picture.identity.size = picture.image.size();
     return picture;
 }
 

@@ -7,8 +7,7 @@
 #include <QImage>
 #include <QList>
 #include <QString>
-
-#include <optional>
+#include <QStringList>
 
 namespace Drevon::Zalento::Measuring {
 
@@ -22,13 +21,22 @@ struct Picture
 /** More pixels than any inspection camera has; such a file is refused before it is decoded. */
 constexpr qint64 largestPictureMegapixels = 100;
 
-/** Formats of photographs that can be read, in lower case: "jpg", "png", ... */
+/** Formats of photographs that can be read here, in lower case: "jpg", "png", ... */
 ZALENTO_MEASURING_EXPORT const QList<QByteArray> &pictureFormats();
 
+/** The same as patterns of file names: "*.jpg", ... */
+ZALENTO_MEASURING_EXPORT QStringList pictureNamePatterns();
+
+/** False for what a program of this project wrote over a picture, and for other formats. */
+ZALENTO_MEASURING_EXPORT bool isPictureToMeasure(const QString &path);
+
 /**
- * Loads a picture.
- * @param problem on failure: what is wrong, naming the file
+ * The pictures in a folder, in the order of their names.
+ * @param recursive those of the folders in it, too, in the order of their paths
  */
-ZALENTO_MEASURING_EXPORT std::optional<Picture> loadPicture(const QString &path, QString &problem);
+ZALENTO_MEASURING_EXPORT QStringList picturesIn(const QString &folder, bool recursive);
+
+/** Loads a picture. A problem names the file. */
+ZALENTO_MEASURING_EXPORT Result<Picture> loadPicture(const QString &path);
 
 } // namespace Drevon::Zalento::Measuring

@@ -1,9 +1,5 @@
 #include "measuring/Session.h"
 
-#include "measuring/Kind.h"
-
-#include <QStringList>
-
 #include <cmath>
 #include <tuple>
 
@@ -76,26 +72,14 @@ auto choicesOf(const Session &s)
                     s.viewStyle, s.calibrationText, s.mmPerPixel, s.schemaMinor);
 }
 
-QString kindProblem(const QString &kind)
-{
-    if (findMeasurementKind(kind)) {
-        return {};
-    }
-    QStringList names;
-    for (const MeasurementKind &known : measurementKinds()) {
-        names += known.name;
-    }
-    return QStringLiteral("kind: expected one of %1, found \"%2\"")
-        .arg(names.join(QStringLiteral(", ")), kind);
-}
-
-QString pointProblem(const SessionPoint &point, int index)
+Outcome checkPoint(const SessionPoint &point, int index)
 {
     const Vec3 position = point.position.value_or(Vec3());
     const double numbers[] = {point.pixel.x(), point.pixel.y(), position.x, position.y, position.z};
     for (const double number : numbers) {
         if (!std::isfinite(number)) {
-            return QStringLiteral("points[%1]: expected finite numbers").arg(index);
+            return Problem{QStringLiteral("points[%1]").arg(index),
+                           QStringLiteral("expected finite numbers")};
         }
     }
     return {};
@@ -172,40 +156,41 @@ std::optional<ViewStyle> viewStyleNamed(const QString &name)
     return valueIn(viewStyles, name);
 }
 
-QString numberProblem(const QString &name, double value, double smallest, double largest)
+Outcome checkNumber(const QString &name, double value, double smallest, double largest)
 {
     if (value >= smallest && value <= largest) {
         return {};
     }
-    return QStringLiteral("%1: expected a number from %2 to %3, found %4")
-        .arg(name)
-        .arg(smallest)
-        .arg(largest)
-        .arg(value);
+    return Problem{name, QStringLiteral("expected a number from %1 to %2, found %3")
+                             .arg(smallest)
+                             .arg(largest)
+                             .arg(value)};
 }
 
-QString sessionProblem(const Session &session)
+Outcome checkSession(const Session &session)
 {
     for (const SessionNumber &number : sessionNumbers()) {
-        const QString problem = numberProblem(QLatin1String(number.name), session.*number.member,
-                                              number.smallest, number.largest);
-        if (!problem.isEmpty()) {
+        if (const Outcome problem = checkNumber(QLatin1String(number.name), session.*number.member,
+                                                number.smallest, number.largest)) {
             return problem;
         }
     }
-    QString problem = kindProblem(session.kind);
-    if (problem.isEmpty()) {
-        problem = numberProblem(QStringLiteral("clockDEG"), session.clockDEG, -largestClockDEG,
-                                largestClockDEG);
+    if (const Outcome problem = checkNumber(QStringLiteral("clockDEG"), session.clockDEG,
+                                            -largestClockDEG, largestClockDEG)) {
+        return problem;
     }
-    if (problem.isEmpty() && session.mmPerPixel) {
-        problem = numberProblem(QStringLiteral("mmPerPixel"), *session.mmPerPixel,
-                                smallestMMPerPixel, largestMMPerPixel);
+    if (session.mmPerPixel) {
+        if (const Outcome problem = checkNumber(QStringLiteral("mmPerPixel"), *session.mmPerPixel,
+                                                smallestMMPerPixel, largestMMPerPixel)) {
+            return problem;
+        }
     }
-    for (int i = 0; i < session.points.size() && problem.isEmpty(); ++i) {
-        problem = pointProblem(session.points[i], i);
+    for (int i = 0; i < session.points.size(); ++i) {
+        if (const Outcome problem = checkPoint(session.points[i], i)) {
+            return problem;
+        }
     }
-    return problem;
+    return {};
 }
 
 } // namespace Drevon::Zalento::Measuring

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "measuring/Export.h"
+#include "measuring/Kind.h"
+#include "measuring/Result.h"
 
 #include "zalento/math/Vec3.h"
 #include "zalento/pipes/ViewStyle.h"
@@ -53,18 +55,18 @@ ZALENTO_MEASURING_EXPORT bool operator==(const SessionPoint &a, const SessionPoi
 struct Session
 {
     PictureIdentity picture;
-    QString kind = QStringLiteral("PipeDimension"); ///< name of a MeasurementKind
-    MeasureUnit unit = MeasureUnit::Metric;         ///< of the texts; numbers stay metric
-    double diameterMM = 300.0;                      ///< nominal
-    double offset = 0.0;                            ///< of the model to the left, in gesture units
-    double rollDEG = 0.0;                           ///< about the view axis
-    double cameraHeightPercent = 50.0;              ///< across the diameter; 50 is the axis
-    double fovYDEG = 37.5;         ///< vertical field of view of the item's square area
-    bool rearCircleActive = false; ///< gestures move the rear circle instead of the model
-    double rearCircleX = 0.0;      ///< of the pipe's far end to the left, in gesture units
-    double rearCircleY = 0.0;      ///< the same, down
-    double percentage = 0.0;       ///< MeasurementKind::percentageMeaning says of what
-    double angleDEG = 90.0;        ///< of a branch, a bend or a joint
+    Kind kind = Kind::PipeDimension;
+    MeasureUnit unit = MeasureUnit::Metric; ///< of the texts; numbers stay metric
+    double diameterMM = 300.0;              ///< nominal
+    double offset = 0.0;                    ///< of the model to the left, in gesture units
+    double rollDEG = 0.0;                   ///< about the view axis
+    double cameraHeightPercent = 50.0;      ///< across the diameter; 50 is the axis
+    double fovYDEG = 37.5;                  ///< vertical field of view of the item's square area
+    bool rearCircleActive = false;          ///< gestures move the rear circle instead of the model
+    double rearCircleX = 0.0;               ///< of the pipe's far end to the left, in gesture units
+    double rearCircleY = 0.0;               ///< the same, down
+    double percentage = 0.0;                ///< KindInfo::percentage says of what
+    double angleDEG = 90.0;                 ///< of a branch, a bend or a joint
     int clockDEG = 0; ///< where a branch, a bend or a joint points, clockwise from the top
     bool viewDownstream = true; ///< a bend is seen from the straight pipe
     bool jointShown = false;    ///< in the kind BendAngle: a joint instead of a bend
@@ -112,11 +114,11 @@ ZALENTO_MEASURING_EXPORT QString viewStyleName(ViewStyle style);
 ZALENTO_MEASURING_EXPORT std::optional<ViewStyle>
 viewStyleNamed(const QString &name); ///< "measure", "ends", "full"
 
-/** What is wrong with the session: names the field and what was expected; empty when valid. */
-ZALENTO_MEASURING_EXPORT QString sessionProblem(const Session &session);
+/** What is wrong with the session: names the field and what was expected. */
+ZALENTO_MEASURING_EXPORT Outcome checkSession(const Session &session);
 
 /** The same for one number: "<name>: expected a number from .. to .., found ..". */
-ZALENTO_MEASURING_EXPORT QString numberProblem(const QString &name, double value, double smallest,
-                                               double largest);
+ZALENTO_MEASURING_EXPORT Outcome checkNumber(const QString &name, double value, double smallest,
+                                             double largest);
 
 } // namespace Drevon::Zalento::Measuring

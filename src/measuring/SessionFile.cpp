@@ -13,24 +13,23 @@ namespace {
 // Sessions have some kilobytes.
 constexpr qint64 largestSessionBytes = 16 * 1024 * 1024;
 
-QString readSessionFile(const QString &path, QByteArray &content)
+Result<QByteArray> readSessionFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        return QStringLiteral("there is no such file");
+        return Problem{path, QStringLiteral("there is no such file")};
     }
     if (!info.isFile()) {
-        return QStringLiteral("is not a regular file");
+        return Problem{path, QStringLiteral("is not a regular file")};
     }
     if (info.size() > largestSessionBytes) {
-        return QStringLiteral("is too large for a session");
+        return Problem{path, QStringLiteral("is too large for a session")};
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("cannot be read: %1").arg(file.errorString());
+        return Problem{path, QStringLiteral("cannot be read: %1").arg(file.errorString())};
     }
-    content = file.readAll();
-    return {};
+    return file.readAll();
 }
 
 // Keeps short relative paths short.
@@ -61,34 +60,32 @@ QString sessionPathOf(const QString &picturePath)
     return picturePath + QLatin1String(sessionSuffix);
 }
 
-std::optional<Session> loadSession(const QString &path, QString &problem)
+Result<Session> loadSession(const QString &path)
 {
-    QByteArray content;
-    problem = readSessionFile(path, content);
-    std::optional<Session> session;
-    if (problem.isEmpty()) {
-        session = sessionFromJson(content, problem);
+    const Result<QByteArray> content = readSessionFile(path);
+    if (!content) {
+        return content.problem();
     }
+    Result<Session> session = sessionFromJson(*content);
     if (!session) {
-        problem = QStringLiteral("%1: %2").arg(path, problem);
-        return std::nullopt;
+        return session.problem().in(path);
     }
     session->picture.path = pathFromSessionFolder(path, session->picture.path);
     return session;
 }
 
-QString saveSession(const Session &session, const QString &path, Overwrite overwrite)
+Outcome saveSession(const Session &session, const QString &path, Overwrite overwrite)
 {
-    const QString problem = sessionProblem(session);
-    if (!problem.isEmpty()) {
-        return QStringLiteral("%1: %2").arg(path, problem);
+    if (const Outcome problem = checkSession(session)) {
+        return problem->in(path);
     }
     Session stored = session;
     stored.picture.path = pathFromFolderOf(path, session.picture.path);
     return writeFile(path, sessionToJson(stored), overwrite);
 }
 
-QString pictureDifference(const PictureIdentity &expected, const PictureIdentity &found)
+std::optional<QString> pictureDifference(const PictureIdentity &expected,
+                                         const PictureIdentity &found)
 {
     if (!expected.size.isEmpty() && expected.size != found.size) {
         return QStringLiteral("the session was made on a picture of %1 x %2 pixels, this one has "

@@ -17,24 +17,23 @@ extern ZALENTO_MEASURING_EXPORT const char *const sessionSuffix;
 ZALENTO_MEASURING_EXPORT QString sessionPathOf(const QString &picturePath);
 
 /**
- * Loads a session file. The path of its picture becomes one from the working folder, or absolute.
- * @param problem on failure: what is wrong, naming the file
+ * Loads a session file. The path of its picture becomes one from the working folder, or absolute. A
+ * problem names the file.
  */
-ZALENTO_MEASURING_EXPORT std::optional<Session> loadSession(const QString &path, QString &problem);
+ZALENTO_MEASURING_EXPORT Result<Session> loadSession(const QString &path);
 
 /**
  * Saves a session; its picture's path is written relative to the session's folder. Either the whole
  * file is written or the old one stays. The picture is not touched.
- * @return what went wrong; empty on success
  */
-ZALENTO_MEASURING_EXPORT QString saveSession(const Session &session, const QString &path,
+ZALENTO_MEASURING_EXPORT Outcome saveSession(const Session &session, const QString &path,
                                              Overwrite overwrite);
 
 /**
  * Compares the picture that a session was made on with the one at hand.
- * @return what differs, for a warning; empty when they are the same or the session names none
+ * @return what differs, for a warning; nothing when they are the same or the session names none
  */
-ZALENTO_MEASURING_EXPORT QString pictureDifference(const PictureIdentity &expected,
-                                                   const PictureIdentity &found);
+ZALENTO_MEASURING_EXPORT std::optional<QString> pictureDifference(const PictureIdentity &expected,
+                                                                  const PictureIdentity &found);
 
 } // namespace Drevon::Zalento::Measuring

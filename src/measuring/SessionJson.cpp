@@ -41,7 +41,7 @@ QString typeName(const QJsonValue &value)
 class FieldReader
 {
 public:
-    FieldReader(const QJsonObject &object, const QString &prefix, QString &problem)
+    FieldReader(const QJsonObject &object, const QString &prefix, Outcome &problem)
         : m_rest(object)
         , m_prefix(prefix)
         , m_problem(problem)
@@ -116,10 +116,10 @@ public:
         if (value.isUndefined()) {
             return false;
         }
-        if (!isExpected && m_problem.isEmpty()) {
-            m_problem =
-                QStringLiteral("%1%2: expected %3, found %4")
-                    .arg(m_prefix, QLatin1String(name), QLatin1String(expected), typeName(value));
+        if (!isExpected && !m_problem) {
+            m_problem = Problem{m_prefix + QLatin1String(name),
+                                QStringLiteral("expected %1, found %2")
+                                    .arg(QLatin1String(expected), typeName(value))};
         }
         return isExpected;
     }
@@ -129,7 +129,7 @@ public:
 private:
     QJsonObject m_rest;
     QString m_prefix;
-    QString &m_problem;
+    Outcome &m_problem;
 };
 
 // Picture
@@ -171,7 +171,7 @@ std::optional<QSize> sizeOf(const QVector<double> &numbers)
     return QSize(static_cast<int>(numbers[0]), static_cast<int>(numbers[1]));
 }
 
-PictureIdentity pictureFromJson(const QJsonObject &object, QString &problem)
+PictureIdentity pictureFromJson(const QJsonObject &object, Outcome &problem)
 {
     const QString prefix = QStringLiteral("picture.");
     PictureIdentity picture;
@@ -205,7 +205,7 @@ QByteArray pointToJson(const SessionPoint &point)
     return json.toLine();
 }
 
-SessionPoint pointFromJson(const QJsonObject &object, const QString &prefix, QString &problem)
+SessionPoint pointFromJson(const QJsonObject &object, const QString &prefix, Outcome &problem)
 {
     SessionPoint point;
     FieldReader reader(object, prefix + QLatin1Char('.'), problem);
@@ -218,8 +218,8 @@ SessionPoint pointFromJson(const QJsonObject &object, const QString &prefix, QSt
     if (!position.isEmpty()) {
         point.position = Vec3(position[0], position[1], position[2]);
     }
-    if (pixel.isEmpty() && position.isEmpty() && problem.isEmpty()) {
-        problem = QStringLiteral("%1: expected a pixel or a position").arg(prefix);
+    if (pixel.isEmpty() && position.isEmpty() && !problem) {
+        problem = Problem{prefix, QStringLiteral("expected a pixel or a position")};
     }
     point.unknownFields = reader.rest();
     return point;
@@ -234,16 +234,16 @@ QByteArray pointsToJson(const QVector<SessionPoint> &points)
     return jsonLines(lines, "  ");
 }
 
-QVector<SessionPoint> pointsFromJson(const QJsonArray &list, QString &problem)
+QVector<SessionPoint> pointsFromJson(const QJsonArray &list, Outcome &problem)
 {
     QVector<SessionPoint> points;
-    for (int i = 0; i < list.size() && problem.isEmpty(); ++i) {
+    for (int i = 0; i < list.size() && !problem; ++i) {
         const QString name = QStringLiteral("points[%1]").arg(i);
         if (list[i].isObject()) {
             points += pointFromJson(list[i].toObject(), name, problem);
         } else {
-            problem =
-                QStringLiteral("%1: expected an object, found %2").arg(name, typeName(list[i]));
+            problem = Problem{
+                name, QStringLiteral("expected an object, found %1").arg(typeName(list[i]))};
         }
     }
     return points;
@@ -259,20 +259,22 @@ QString schemaText(int minor)
         .arg(std::max(minor, sessionSchemaMinor));
 }
 
-void readSchema(FieldReader &reader, Session &session, QString &problem)
+void readSchema(FieldReader &reader, Session &session, Outcome &problem)
 {
     static const QRegularExpression pattern(
         QStringLiteral("\\A%1 ([1-9][0-9]{0,3})\\.([0-9]{1,4})\\z").arg(QLatin1String(schemaName)));
     const QJsonValue value = reader.take("schema");
     const auto match = pattern.match(value.toString());
     if (!match.hasMatch()) {
-        problem =
-            QStringLiteral("schema: expected \"%1\", found %2").arg(schemaText(0), typeName(value));
+        problem = Problem{
+            QStringLiteral("schema"),
+            QStringLiteral("expected \"%1\", found %2").arg(schemaText(0), typeName(value))};
     } else if (match.captured(1).toInt() > sessionSchemaMajor) {
-        problem = QStringLiteral("schema: the session has version %1.%2, this program reads up to "
-                                 "version %3; please use a newer Zalento")
-                      .arg(match.captured(1), match.captured(2))
-                      .arg(sessionSchemaMajor);
+        problem = Problem{QStringLiteral("schema"),
+                          QStringLiteral("the session has version %1.%2, this program reads up to "
+                                         "version %3; please use a newer Zalento")
+                              .arg(match.captured(1), match.captured(2))
+                              .arg(sessionSchemaMajor)};
     }
     session.schemaMinor = match.captured(2).toInt();
 }
@@ -281,7 +283,8 @@ void readSchema(FieldReader &reader, Session &session, QString &problem)
 
 void readChoices(FieldReader &reader, Session &session)
 {
-    reader.read("kind", session.kind);
+    const QByteArray expectedKind = "one of " + kindNames().join(QStringLiteral(", ")).toLatin1();
+    reader.readChoice("kind", session.kind, kindNamed, expectedKind.constData());
     reader.readChoice("unit", session.unit, unitNamed, "\"metric\" or \"imperial\"");
     reader.read("rearCircleActive", session.rearCircleActive);
     reader.read("clockDEG", session.clockDEG);
@@ -300,7 +303,7 @@ void readChoices(FieldReader &reader, Session &session)
 
 void addChoices(OrderedJson &json, const Session &session)
 {
-    json.add(QStringLiteral("kind"), session.kind);
+    json.add(QStringLiteral("kind"), infoOf(session.kind).nameText());
     json.add(QStringLiteral("unit"), unitName(session.unit));
     json.add(QStringLiteral("rearCircleActive"), session.rearCircleActive);
     json.add(QStringLiteral("clockDEG"), session.clockDEG);
@@ -313,7 +316,7 @@ void addChoices(OrderedJson &json, const Session &session)
     }
 }
 
-void readFields(FieldReader &reader, Session &session, QString &problem)
+void readFields(FieldReader &reader, Session &session, Outcome &problem)
 {
     const QJsonValue picture = reader.take("picture");
     if (reader.expect("picture", picture, picture.isObject(), "an object")) {
@@ -330,10 +333,11 @@ void readFields(FieldReader &reader, Session &session, QString &problem)
     session.unknownFields = reader.rest();
 }
 
-QString parseProblem(const QByteArray &json, const QJsonParseError &error)
+Problem parseProblem(const QByteArray &json, const QJsonParseError &error)
 {
     const int line = json.left(error.offset).count('\n') + 1;
-    return QStringLiteral("not a JSON object: %1 in line %2").arg(error.errorString()).arg(line);
+    return {{},
+            QStringLiteral("not a JSON object: %1 in line %2").arg(error.errorString()).arg(line)};
 }
 
 } // namespace
@@ -352,29 +356,27 @@ QByteArray sessionToJson(const Session &session)
     return json.toLines("") + "\n";
 }
 
-std::optional<Session> sessionFromJson(const QByteArray &json, QString &problem)
+Result<Session> sessionFromJson(const QByteArray &json)
 {
-    problem.clear();
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
-        problem = parseProblem(json, error);
-        return std::nullopt;
+        return parseProblem(json, error);
     }
     if (!document.isObject()) {
-        problem = QStringLiteral("not a JSON object: found a list");
-        return std::nullopt;
+        return Problem{{}, QStringLiteral("not a JSON object: found a list")};
     }
     Session session;
+    Outcome problem;
     FieldReader reader(document.object(), QString(), problem);
     readSchema(reader, session, problem);
-    if (problem.isEmpty()) {
+    if (!problem) {
         readFields(reader, session, problem);
     }
-    if (problem.isEmpty()) {
-        problem = sessionProblem(session);
+    if (!problem) {
+        problem = checkSession(session);
     }
-    return problem.isEmpty() ? std::optional<Session>(session) : std::nullopt;
+    return problem ? Result<Session>(*problem) : Result<Session>(session);
 }
 
 } // namespace Drevon::Zalento::Measuring

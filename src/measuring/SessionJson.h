@@ -18,10 +18,9 @@ constexpr int sessionSchemaMinor = 0;
 ZALENTO_MEASURING_EXPORT QByteArray sessionToJson(const Session &session);
 
 /**
- * Reads a session. Missing fields have their defaults, unknown ones are kept.
- * @param problem on failure: what is wrong, naming the field and what was expected there
+ * Reads a session. Missing fields have their defaults, unknown ones are kept. A problem names the
+ * field and what was expected there.
  */
-ZALENTO_MEASURING_EXPORT std::optional<Session> sessionFromJson(const QByteArray &json,
-                                                                QString &problem);
+ZALENTO_MEASURING_EXPORT Result<Session> sessionFromJson(const QByteArray &json);
 
 } // namespace Drevon::Zalento::Measuring

@@ -10,7 +10,7 @@
 namespace Drevon::Zalento::Test {
 
 /** What a run of zalento-measure gave. */
-struct Outcome
+struct Run
 {
     int code = -1;
     QByteArray output;
@@ -18,7 +18,7 @@ struct Outcome
 };
 
 /** Runs the program in this process; @p list is on its standard input. */
-inline Outcome runProgram(const QStringList &arguments, const QByteArray &list = {})
+inline Run runProgram(const QStringList &arguments, const QByteArray &list = {})
 {
     QBuffer streams[3];
     streams[0].setData(list);

@@ -1,5 +1,5 @@
-#include "PictureFiles.h"
 #include "RunProgram.h"
+#include "support/PictureFiles.h"
 
 #include "measure/CommandLine.h"
 #include "measuring/SessionJson.h"
@@ -119,14 +119,12 @@ void TestCommandLine::optionsReachTheSession()
                    "--offset -12.5 --roll -5 --percentage 45 --angle 60 --rear-circle -3.5,4 "
                    "--rear-circle-active --clock -90 --direction upstream --joint "
                    "--view-style measure --unit imperial a");
-    QString problem;
     const auto expected = sessionFromJson(R"({"schema": "zalento-session 1.0",
         "kind": "BendAngle", "diameterMM": 217.5, "fovYDEG": 40.25, "cameraHeightPercent": 30,
         "offset": -12.5, "rollDEG": -5, "percentage": 45, "angleDEG": 60, "rearCircleX": -3.5,
         "rearCircleY": 4, "rearCircleActive": true, "clockDEG": -90, "direction": "upstream",
-        "jointShown": true, "viewStyle": "measure", "unit": "imperial"})",
-                                          problem);
-    QCOMPARE(sessionToJson(bend), sessionToJson(expected.value()));
+        "jointShown": true, "viewStyle": "measure", "unit": "imperial"})");
+    QCOMPARE(sessionToJson(bend), sessionToJson(*expected));
 
     const Session crack = appliedTo(
         Session(), "measure --kind CrackWidth --mm-per-pixel 0.25 --click 1.5,2 --click=-3,4 a");
@@ -139,7 +137,7 @@ void TestCommandLine::optionsReachTheSession()
 void TestCommandLine::whatIsLeftOutStays()
 {
     Session session;
-    session.kind = QStringLiteral("CrackWidth");
+    session.kind = Kind::CrackWidth;
     session.rollDEG = 12;
     session.unit = MeasureUnit::Imperial;
     session.mmPerPixel = 3;
@@ -192,7 +190,7 @@ void TestCommandLine::examplesAreUnderstood()
 {
     QString text = parseCommandLine({QStringLiteral("--help")}).text;
     text = text.mid(text.indexOf(QLatin1String("Examples:"))).replace("\\\n", " ");
-    QStringList kinds;
+    QVector<Kind> seen;
     for (const QString &line : text.split(QLatin1Char('\n')).mid(1)) {
         if (line.isEmpty()) {
             continue;
@@ -200,10 +198,10 @@ void TestCommandLine::examplesAreUnderstood()
         const auto outcome =
             parseCommandLine(line.split(QLatin1Char(' '), Qt::SkipEmptyParts).mid(1));
         QVERIFY2(outcome.command, qPrintable(line + ": " + outcome.text));
-        kinds += *outcome.command->session.kind;
+        seen += *outcome.command->session.kind;
     }
-    for (const MeasurementKind &kind : measurementKinds()) {
-        QVERIFY2(kinds.contains(kind.name), qPrintable(kind.name));
+    for (const KindInfo &info : kinds()) {
+        QVERIFY2(seen.contains(info.kind), info.name);
     }
 }
 

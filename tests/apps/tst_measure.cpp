@@ -1,11 +1,8 @@
-#include "PictureFiles.h"
 #include "RunProgram.h"
+#include "support/PictureFiles.h"
 
-#include "measuring/Measurement.h"
-#include "measuring/Replay.h"
 #include "measuring/SessionFile.h"
 #include "support/TestCase.h"
-#include "support/Tolerances.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -38,7 +35,6 @@ private slots:
     void answers_data();
     void answers();
     void writesOverlays();
-    void savedSessionMeasuresTheSame();
     void keepsWhatALaterVersionWrote();
     void anotherPictureIsNotOverwritten();
     void optionsMoveTheSessionsPlane();
@@ -75,9 +71,9 @@ void TestMeasure::printsEveryFormat_data()
     QTest::addColumn<QString>("format");
     QTest::addColumn<QByteArray>("expected"); // HASH stands for the picture's
     QTest::newRow("csv") << "csv"
-                         << QByteArray("picture,kind,status,name,number,unit,text,message\n"
-                                       "a.png,WaterLevel,measured,waterLevel,12.5,%,13 %,\n"
-                                       "none.png,,failed,,,,,none.png: there is no such file\n");
+                         << QByteArray("picture,kind,status,name,number,unit,text,message\r\n"
+                                       "a.png,WaterLevel,measured,waterLevel,12.5,%,13 %,\r\n"
+                                       "none.png,,failed,,,,,none.png: there is no such file\r\n");
     QTest::newRow("jsonl")
         << "jsonl"
         << QByteArray("{\"picture\": \"a.png\", \"size\": [64,48], \"sha256\": \"HASH\", "
@@ -93,14 +89,13 @@ void TestMeasure::printsEveryFormat()
 {
     QFETCH(QString, format);
     QFETCH(QByteArray, expected);
-    const Outcome outcome =
-        runProgram(water + QStringList{"--format", format, "a.png", "none.png"});
+    const Run outcome = runProgram(water + QStringList{"--format", format, "a.png", "none.png"});
     QCOMPARE(outcome.code, int(SomeNotMeasured));
     QCOMPARE(outcome.output, expected.replace("HASH", sha256Of(path("a.png"))));
     QCOMPARE(outcome.messages, QByteArray("zalento-measure: none.png: there is no such file\n"));
 
     // The lists of JSON have the same objects as its lines.
-    const Outcome list = runProgram(water + QStringList{"--format", "json", "a.png", "none.png"});
+    const Run list = runProgram(water + QStringList{"--format", "json", "a.png", "none.png"});
     const QJsonArray array = QJsonDocument::fromJson(list.output).array();
     QCOMPARE(array.size(), 2);
     if (format == QLatin1String("jsonl")) {
@@ -159,7 +154,7 @@ void TestMeasure::answers_data()
     row("output is a file", "measure --overlay png --output bad.zalento.json w.png",
         CannotReadOrWrite, "", "cannot be made");
     row("overlay of the user's", "measure --overlay png w.png", CannotReadOrWrite, "13 %",
-        "w.overlay.png exists already");
+        "w.overlay.png: exists already");
     row("two pictures of one name",
         "measure --overlay png --output out --session w.png.zalento.json w.png w.bmp",
         CannotReadOrWrite, "w.bmp: waterLevel 13 %", "was written for another picture of this run");
@@ -173,14 +168,14 @@ void TestMeasure::answers()
     QFETCH(QString, output);
     QFETCH(QString, messages);
     Session session;
-    session.kind = QStringLiteral("WaterLevel");
+    session.kind = Kind::WaterLevel;
     session.percentage = 12.5;
-    QCOMPARE(saveSession(session, path("w.png.zalento.json"), Overwrite::Refuse), QString());
+    QVERIFY(!saveSession(session, path("w.png.zalento.json"), Overwrite::Refuse));
     QVERIFY(addPicture("w.png") && addPicture("w.bmp", QSize(10, 10)));
     QVERIFY(writeBytes(path("bad.zalento.json"), "bad"));
     QVERIFY(writeBytes(path("w.overlay.png"), "mine"));
     const QByteArray before = folderState(m_dir->path());
-    const Outcome outcome = runProgram(words(qPrintable(arguments)));
+    const Run outcome = runProgram(words(qPrintable(arguments)));
     QCOMPARE(outcome.code, code);
     QVERIFY2(outcome.output.contains(output.toUtf8()), outcome.output);
     QCOMPARE(outcome.output.isEmpty(), output.isEmpty());
@@ -193,7 +188,7 @@ void TestMeasure::answers()
 void TestMeasure::writesOverlays()
 {
     const QByteArray before = readBytes(path("a.png"));
-    const Outcome outcome = runProgram(
+    const Run outcome = runProgram(
         {"render", "--kind", "WaterLevel", "--overlay", "both", "--output", "out/x", "a.png"});
     QCOMPARE(outcome.code, int(AllMeasured));
     QVERIFY(outcome.output.isEmpty());
@@ -205,27 +200,6 @@ void TestMeasure::writesOverlays()
     QCOMPARE(overlay.pixelColor(0, 0), original.pixelColor(0, 0)); // the model leaves the corners
     QVERIFY(readBytes(path("out/x/a.overlay.svg")).contains("viewBox=\"0 0 64 48\""));
     QCOMPARE(readBytes(path("a.png")), before);
-}
-
-void TestMeasure::savedSessionMeasuresTheSame()
-{
-    const Outcome first = runProgram(
-        words("measure --save-session a.png --kind PipeDimension --diameter 217.3 --fov 41.1 "
-              "--roll 3.3 --offset 7 --click 20.5,10.25 --click 40,33.75 --format jsonl"));
-    QCOMPARE(first.code, int(AllMeasured));
-    QString problem;
-    std::optional<Session> session = loadSession(path("a.png.zalento.json"), problem);
-    QVERIFY2(session, qPrintable(problem));
-    ZaItem item;
-    layOutItem(item, QSize(64, 48));
-    applySession(*session, item);
-    COMPARE_EXACT(valuesOf(first.output)[0].toObject()["number"].toDouble(),
-                  measure(item).values[0].number);
-    // Points have their place in the scene: the alignment does not change what was measured.
-    for (const char *line : {"measure --format jsonl a.png.zalento.json",
-                             "measure --format jsonl --session a.png.zalento.json --roll 90"}) {
-        QCOMPARE(valuesOf(runProgram(words(line)).output), valuesOf(first.output));
-    }
 }
 
 void TestMeasure::keepsWhatALaterVersionWrote()
@@ -245,7 +219,7 @@ void TestMeasure::keepsWhatALaterVersionWrote()
 
     QVERIFY(writeBytes(path("a.png.zalento.json"), "{\"schema\": \"zalento-session 2.0\"}"));
     const QByteArray before = folderState(m_dir->path());
-    const Outcome refused = runProgram(save);
+    const Run refused = runProgram(save);
     QCOMPARE(refused.code, int(CannotReadOrWrite));
     QVERIFY(refused.messages.contains("please use a newer Zalento"));
     QCOMPARE(folderState(m_dir->path()), before);
@@ -261,7 +235,7 @@ void TestMeasure::anotherPictureIsNotOverwritten()
 
     QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("out")));
     const QStringList arguments{"measure", "--save-session", "--output", "out", "a.png"};
-    Outcome outcome = runProgram(arguments);
+    Run outcome = runProgram(arguments);
     QCOMPARE(outcome.code, int(CannotReadOrWrite));
     QVERIFY(outcome.output.contains("waterLevel 13 %"));
     QVERIFY(outcome.messages.contains("warning: the picture's content is not the one"));
@@ -279,12 +253,11 @@ void TestMeasure::optionsMoveTheSessionsPlane()
                               "--percentage 10 --click 25,20 --click 40,20"))
                  .code,
              0);
-    const Outcome moved =
+    const Run moved =
         runProgram(words("measure --percentage 20 --save-session --output out a.png"));
     QCOMPARE(moved.code, int(AllMeasured));
-    QString problem;
-    const auto session = loadSession(path("out/a.png.zalento.json"), problem);
-    QVERIFY2(session, qPrintable(problem));
+    const auto session = loadSession(path("out/a.png.zalento.json"));
+    QVERIFY(session);
     QCOMPARE(session->points[1].position->z, -0.4);
 }
 
@@ -298,7 +271,7 @@ void TestMeasure::foldersAreSorted()
     QVERIFY(writeBytes(path("d/bad.png"), "no picture"));
     QVERIFY(QFile::link(QStringLiteral("nowhere"), path("d/gone.png")));
     QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("none")));
-    const Outcome outcome = runProgram(water + QStringList{"--recursive", "d", "none"});
+    const Run outcome = runProgram(water + QStringList{"--recursive", "d", "none"});
     QCOMPARE(outcome.code, int(SomeNotMeasured));
     const QByteArrayList starts{"d/a.PNG: waterLevel",     "d/b.png: waterLevel",
                                 "d/bad.png: failed",       "d/gone.png: failed",
@@ -312,7 +285,7 @@ void TestMeasure::foldersAreSorted()
 
 void TestMeasure::namesComeFromTheInput()
 {
-    const Outcome outcome = runProgram(water + QStringList{"-"}, "a.png\r\n\nnone ä.png");
+    const Run outcome = runProgram(water + QStringList{"-"}, "a.png\r\n\nnone ä.png");
     QCOMPARE(outcome.code, int(SomeNotMeasured));
     QVERIFY(outcome.output.startsWith("a.png: waterLevel"));
     QVERIFY(outcome.output.contains("none ä.png: failed"));

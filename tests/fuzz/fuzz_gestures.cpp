@@ -4,7 +4,6 @@
 #include "zalento/item/ZaItem.h"
 #include "zalento/render/ModelViewScope.h"
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -351,15 +350,6 @@ void paintSomehow(ZaItem &item, int how, FuzzInput &input)
 }
 
 } // namespace
-
-int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Kept until the process ends: some of Qt's own statics are gone before ours.
-    static const auto *application = new QGuiApplication(*argc, *argv);
-    Q_UNUSED(application)
-    return 0;
-}
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

@@ -21,37 +21,37 @@ Column {
             width: parent.keyWidth
             text: qsTr("Pipe")
             hint: qsTr("A drag moves the pipe")
-            checked: !Viewer.rearCircleActive
-            onClicked: Viewer.rearCircleActive = false
+            checked: !Viewer.editor.rearCircleActive
+            onClicked: Viewer.editor.rearCircleActive = false
         }
         ToolKey {
             objectName: "farEndKey"
             width: parent.keyWidth
             text: qsTr("Far end")
             hint: qsTr("A drag moves the pipe's far end")
-            checked: Viewer.rearCircleActive
-            onClicked: Viewer.rearCircleActive = !Viewer.rearCircleActive
+            checked: Viewer.editor.rearCircleActive
+            onClicked: Viewer.editor.rearCircleActive = !Viewer.editor.rearCircleActive
         }
         ToolKey {
             objectName: "resetKey"
             width: parent.keyWidth
             text: qsTr("Reset")
             hint: qsTr("Reset the alignment")
-            onClicked: Viewer.resetAlignment()
+            onClicked: Viewer.editor.resetAlignment()
         }
     }
     Repeater {
         model: Viewer.alignmentFields
         NumberField {
             width: panel.width
-            name: modelData
+            fields: Viewer.alignmentFields
         }
     }
     Choice {
         width: parent.width
         label: qsTr("Rings")
         choices: [qsTr("all"), qsTr("ends"), qsTr("none")]
-        current: 2 - Viewer.viewStyle
-        onChosen: Viewer.viewStyle = 2 - index
+        current: 2 - Viewer.editor.viewStyle
+        onChosen: Viewer.editor.viewStyle = 2 - index
     }
 }

@@ -20,41 +20,18 @@ ViewerDialog {
     width: Math.min(parent.width - 40, 820)
     height: Math.min(parent.height - 40, 620)
 
-    function openPictures() {
-        show(qsTr("Open pictures"), ["*.jpg", "*.jpeg", "*.png", "*.bmp", "*.gif", "*.ppm", "*.pgm",
-                                     "*.tif", "*.tiff", "*.webp", "*.zalento.json"],
-             paths => Viewer.openPaths(paths))
-        takesSeveral = true
-    }
-    function openCalibration() {
-        show(qsTr("Load a camera calibration"), ["*.ini", "*.txt", "*.csv", "*.cal"],
-             paths => Viewer.loadCalibration(paths[0]))
-    }
-    function openRecord() {
-        show(qsTr("Load a pipe record"), ["*.json"], paths => Viewer.loadRecord(paths[0]))
-    }
-    function exportTo(what) {
-        const path = Viewer.suggestedPath(what)
-        show(qsTr("Save as"), ["*." + (what === "session" ? "json" : what)],
-             paths => Viewer.exportTo(what, paths[0]))
-        isSaving = true
-        folder = above(path)
-        nameField.text = path.substring(path.lastIndexOf("/") + 1)
-    }
-
-    function show(text, patterns, action) {
+    // Files to open or, with a suggested path, one to save; `action` gets their paths.
+    function ask(text, patterns, suggested, action, several) {
         title = text
         list.nameFilters = patterns
         run = action
-        isSaving = false
-        takesSeveral = false
+        isSaving = suggested !== ""
+        takesSeveral = several
         asksToReplace = false
         chosen = []
-        folder = Viewer.startFolder()
+        folder = isSaving ? above(suggested) : Viewer.preferences.folder
+        nameField.text = suggested.substring(suggested.lastIndexOf("/") + 1)
         open()
-    }
-    function urlOf(path) {
-        return "file://" + path.split("/").map(encodeURIComponent).join("/")
     }
     function above(path) {
         return path.substring(0, path.lastIndexOf("/")) || "/"
@@ -79,7 +56,7 @@ ViewerDialog {
     }
     function finish() {
         const target = folder + "/" + nameField.text
-        if (isSaving && Viewer.exists(target) && !mayReplace())
+        if (isSaving && Viewer.exporter.exists(target) && !mayReplace())
             return
         close()
         run(isSaving ? [target] : chosen)
@@ -87,7 +64,7 @@ ViewerDialog {
 
     FolderListModel {
         id: list
-        folder: picker.urlOf(picker.folder)
+        folder: Viewer.urlOf(picker.folder)
         showDirsFirst: true
         showDotAndDotDot: false
         caseSensitive: false

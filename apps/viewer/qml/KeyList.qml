@@ -4,7 +4,8 @@ import QtQuick.Controls 2.15
 ViewerDialog {
     id: dialog
 
-    property var keys: []
+    // [keys, what they do]
+    property var rows: []
 
     title: qsTr("Keys")
     width: Math.min(parent.width - 40, 940)
@@ -17,22 +18,22 @@ ViewerDialog {
             columnSpacing: 24
             rowSpacing: 2
             flow: Grid.TopToBottom
-            rows: Math.ceil(dialog.keys.length / 2)
+            rows: Math.ceil(dialog.rows.length / 2)
             Repeater {
-                model: dialog.keys
+                model: dialog.rows
                 Row {
                     height: 30
                     spacing: 12
                     Text {
                         width: 176
                         anchors.verticalCenter: parent.verticalCenter
-                        text: modelData.keys.join(", ")
+                        text: modelData[0]
                         color: Theme.accent
                         font { family: Theme.family; pixelSize: Theme.small; bold: true }
                     }
                     Text {
                         anchors.verticalCenter: parent.verticalCenter
-                        text: modelData.label
+                        text: modelData[1]
                         color: Theme.text
                         font { family: Theme.family; pixelSize: Theme.small }
                     }

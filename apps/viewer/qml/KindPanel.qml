@@ -5,15 +5,13 @@ import Drevon.Zalento.Viewer 1.0
 Column {
     id: panel
 
-    readonly property bool isCrack: Viewer.kind === "CrackWidth"
-    readonly property bool isBend: Viewer.kind === "BendAngle"
     signal calibrationRequested()
     signal recordRequested()
 
     spacing: 6
 
     Row {
-        visible: panel.isCrack
+        visible: Viewer.editor.usesScale
         width: parent.width
         spacing: 6
         ToolKey {
@@ -22,9 +20,9 @@ Column {
             text: qsTr("Laser spots")
             hint: qsTr("Set the scale with two clicks on the laser spots")
             checkable: false
-            checked: Viewer.isCalibrating
-            emphasized: !Viewer.hasScale
-            onClicked: Viewer.isCalibrating ? Viewer.cancel() : Viewer.startCalibration()
+            checked: Viewer.editor.isCalibrating
+            emphasized: !Viewer.editor.hasScale
+            onClicked: Viewer.editor.isCalibrating ? Viewer.editor.cancel() : Viewer.editor.startCalibration()
         }
         ToolKey {
             objectName: "calibrationKey"
@@ -38,23 +36,23 @@ Column {
         model: Viewer.kindFields
         NumberField {
             width: panel.width
-            name: modelData
+            fields: Viewer.kindFields
         }
     }
     Choice {
-        visible: panel.isBend
+        visible: Viewer.editor.usesDirection
         width: parent.width
         label: qsTr("Seen")
         choices: [qsTr("downstream"), qsTr("upstream")]
-        current: Viewer.viewDownstream ? 0 : 1
-        onChosen: Viewer.viewDownstream = index === 0
+        current: Viewer.editor.viewDownstream ? 0 : 1
+        onChosen: Viewer.editor.viewDownstream = index === 0
     }
     Choice {
-        visible: panel.isBend
+        visible: Viewer.editor.usesDirection
         width: parent.width
         label: qsTr("Shows")
         choices: [qsTr("bend"), qsTr("joint")]
-        current: Viewer.jointShown ? 1 : 0
-        onChosen: Viewer.jointShown = index === 1
+        current: Viewer.editor.jointShown ? 1 : 0
+        onChosen: Viewer.editor.jointShown = index === 1
     }
 }

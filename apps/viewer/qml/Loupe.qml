@@ -19,7 +19,7 @@ Rectangle {
     readonly property real lensWidth: lens.width / magnification
     readonly property real lensHeight: lens.height / magnification
 
-    visible: aim !== null && Viewer.hasPicture
+    visible: aim !== null && Viewer.documents.hasPicture
     width: 220
     height: 220
     radius: 8
@@ -32,10 +32,10 @@ Rectangle {
         id: lens
         objectName: "lens"
         anchors { fill: parent; margins: 4 }
-        picture: Viewer.picture
+        picture: Viewer.documents.picture
         contentsScale: loupe.magnification
         origin: Qt.point(loupe.pixel.x - loupe.lensWidth / 2, loupe.pixel.y - loupe.lensHeight / 2)
-        marks: Viewer.points
+        marks: Viewer.editor.points.pixels
     }
     Repeater {
         model: [[0.5, 0.36, 2, 0.2], [0.5, 0.64, 2, 0.2], [0.36, 0.5, 0.2, 2], [0.64, 0.5, 0.2, 2]]
@@ -48,7 +48,7 @@ Rectangle {
         }
     }
     Connections {
-        target: Viewer
-        function onChanged() { lens.update() }
+        target: Viewer.editor
+        function onSessionChanged() { lens.update() }
     }
 }

@@ -11,11 +11,11 @@ ApplicationWindow {
     readonly property bool isLow: height < 700
 
     visible: true
-    width: Math.min(Viewer.windowSize.width, Screen.desktopAvailableWidth)
-    height: Math.min(Viewer.windowSize.height, Screen.desktopAvailableHeight)
+    width: Math.min(Viewer.preferences.windowSize.width, Screen.desktopAvailableWidth)
+    height: Math.min(Viewer.preferences.windowSize.height, Screen.desktopAvailableHeight)
     minimumWidth: 800
     minimumHeight: 480
-    title: (Viewer.pictureName ? Viewer.pictureName + (Viewer.isModified ? " *" : "") + " – " : "")
+    title: (Viewer.documents.pictureName ? Viewer.documents.pictureName + (Viewer.editor.isModified ? " *" : "") + " – " : "")
            + "Zalento"
     color: Theme.window
     palette {
@@ -34,32 +34,31 @@ ApplicationWindow {
         light: Theme.control
     }
     onClosing: {
-        Viewer.windowSize = Qt.size(width, height)
-        if (Viewer.unsavedCount > 0) {
+        Viewer.preferences.windowSize = Qt.size(width, height)
+        if (Viewer.documents.unsavedCount > 0) {
             close.accepted = false
             unsavedDialog.open()
         }
     }
 
     function leave() {
-        Viewer.windowSize = Qt.size(width, height)
+        Viewer.preferences.windowSize = Qt.size(width, height)
         Qt.quit()
     }
 
     TopBar {
         id: topBar
         width: parent.width
-        onOpenRequested: filePicker.openPictures()
-        onExportRequested: filePicker.exportTo(what)
+        commands: commands
+        onExportRequested: fileChooser.exportTo(what)
         onRecordRequested: recordDialog.open()
-        onKeysRequested: keyList.open()
     }
     PictureStage {
         id: stage
         anchors { left: parent.left; right: side.left; top: topBar.bottom; bottom: statusLine.top }
-        isBehindDialog: [filePicker, recordDialog, keyList, saveDialog, unsavedDialog]
-                        .some(dialog => dialog.visible)
-        onOpenRequested: filePicker.openPictures()
+        commands: commands
+        isBehindDialog: fileChooser.isOpen || [recordDialog, keyList, saveDialog, unsavedDialog]
+                                              .some(dialog => dialog.visible)
     }
     StatusLine {
         id: statusLine
@@ -70,14 +69,15 @@ ApplicationWindow {
         anchors { right: parent.right; top: topBar.bottom; bottom: parent.bottom }
         width: 344
         isLow: window.isLow
-        onCalibrationRequested: filePicker.openCalibration()
+        commands: commands
+        onCalibrationRequested: fileChooser.openCalibration()
         onRecordRequested: recordDialog.open()
     }
 
     DropArea {
         anchors.fill: parent
         onEntered: drag.accepted = drag.hasUrls
-        onDropped: Viewer.openUrls(drop.urls)
+        onDropped: Viewer.documents.openUrls(drop.urls)
         Rectangle {
             anchors.fill: parent
             visible: parent.containsDrag
@@ -86,26 +86,25 @@ ApplicationWindow {
         }
     }
 
-    FilePicker {
-        id: filePicker
-        objectName: "filePicker"
+    FileChooser {
+        id: fileChooser
     }
     RecordDialog {
         id: recordDialog
         objectName: "recordDialog"
-        onFileRequested: filePicker.openRecord()
+        onFileRequested: fileChooser.openRecord()
     }
     KeyList {
         id: keyList
         objectName: "keyList"
-        keys: keyTable.rows
+        rows: commands.keyRows
     }
     ConfirmDialog {
         id: saveDialog
         objectName: "saveDialog"
         title: qsTr("Save all the same?")
         acceptText: qsTr("Save")
-        onAccepted: if (Viewer.saveAnyway() && window.closesAfterSaving)
+        onAccepted: if (Viewer.exporter.saveAnyway() && window.closesAfterSaving)
             unsavedDialog.saveAndLeave()
         onRejected: window.closesAfterSaving = false
     }
@@ -113,29 +112,29 @@ ApplicationWindow {
         id: unsavedDialog
         objectName: "unsavedDialog"
         title: qsTr("Save before closing?")
-        text: qsTr("%n measurement(s) are not saved.", "", Viewer.unsavedCount)
+        text: qsTr("%n measurement(s) are not saved.", "", Viewer.documents.unsavedCount)
         acceptText: qsTr("Save")
         discardText: qsTr("Discard")
         onAccepted: saveAndLeave()
         onDiscarded: window.leave()
 
         function saveAndLeave() {
-            if (Viewer.saveAll())
+            if (Viewer.exporter.saveAll())
                 window.leave()
             window.closesAfterSaving = saveDialog.visible
         }
     }
     Connections {
-        target: Viewer
+        target: Viewer.exporter
         function onConfirmationNeeded(question) {
             saveDialog.text = question
             saveDialog.open()
         }
     }
-    KeyTable {
-        id: keyTable
+    Commands {
+        id: commands
         stage: stage
-        onOpenRequested: filePicker.openPictures()
+        onOpenRequested: fileChooser.openPictures()
         onKeysRequested: keyList.open()
     }
 }

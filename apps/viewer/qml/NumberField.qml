@@ -7,33 +7,43 @@ import Drevon.Zalento.Viewer 1.0
 FocusScope {
     id: root
 
-    property string name
-    readonly property var info: Viewer.fieldInfo(name)
-    readonly property string current: Viewer.revision >= 0 ? Viewer.fieldText(name) : ""
+    // The model, and its row.
+    required property var fields
+    required property int index
+    required property string name
+    required property string label
+    required property string unit
+    required property string text
+    required property double value
+    required property double smallest
+    required property double largest
+    required property double step
+    required property bool hasSlider
+
     property string problem: ""
 
     implicitHeight: column.implicitHeight
-    onCurrentChanged: if (!problem) field.text = current
-    Component.onCompleted: field.text = current
+    onTextChanged: if (!problem) field.text = text
+    Component.onCompleted: field.text = text
 
     function commit() {
-        if (field.text === current) {
+        if (field.text === text) {
             problem = ""
             return
         }
-        problem = Viewer.commitField(name, field.text)
+        problem = fields.commit(index, field.text)
         if (!problem)
-            field.text = current
+            field.text = text
     }
     function giveUp() {
         problem = ""
-        field.text = current
+        field.text = text
         Viewer.focusStage()
     }
-    function step(count) {
+    function stepBy(count) {
         problem = ""
-        Viewer.stepField(name, count)
-        field.text = current
+        fields.stepBy(index, count)
+        field.text = text
     }
 
     Column {
@@ -50,16 +60,16 @@ FocusScope {
                 height: Theme.touch
                 verticalAlignment: Text.AlignVCenter
                 wrapMode: Text.WordWrap
-                text: root.info.label
+                text: root.label
                 color: Theme.text
                 font { family: Theme.family; pixelSize: Theme.normal }
             }
             ToolKey {
                 text: "−"
                 font.pixelSize: 22
-                hint: qsTr("%1 down").arg(root.info.label)
+                hint: qsTr("%1 down").arg(root.label)
                 autoRepeat: true
-                onClicked: root.step(-1)
+                onClicked: root.stepBy(-1)
             }
             Rectangle {
                 id: input
@@ -74,7 +84,7 @@ FocusScope {
                 TextField {
                     id: field
                     objectName: "field." + root.name
-                    anchors { fill: parent; rightMargin: unit.width ? unit.width + 8 : 0 }
+                    anchors { fill: parent; rightMargin: unitText.width ? unitText.width + 8 : 0 }
                     focus: true
                     selectByMouse: true
                     leftPadding: 3
@@ -84,7 +94,7 @@ FocusScope {
                     horizontalAlignment: TextInput.AlignRight
                     inputMethodHints: Qt.ImhFormattedNumbersOnly
                     font { family: Theme.family; pixelSize: Theme.normal }
-                    Accessible.name: root.info.label
+                    Accessible.name: root.label
                     Accessible.description: root.problem
                     onActiveFocusChanged: activeFocus ? selectAll() : root.commit()
                     Keys.onEscapePressed: root.giveUp()
@@ -98,9 +108,9 @@ FocusScope {
                     }
                 }
                 Text {
-                    id: unit
+                    id: unitText
                     anchors { right: parent.right; rightMargin: 6; verticalCenter: parent.verticalCenter }
-                    text: root.info.unit
+                    text: root.unit
                     color: Theme.quiet
                     font { family: Theme.family; pixelSize: Theme.small }
                 }
@@ -108,9 +118,9 @@ FocusScope {
             ToolKey {
                 text: "+"
                 font.pixelSize: 22
-                hint: qsTr("%1 up").arg(root.info.label)
+                hint: qsTr("%1 up").arg(root.label)
                 autoRepeat: true
-                onClicked: root.step(1)
+                onClicked: root.stepBy(1)
             }
         }
         Text {
@@ -125,24 +135,24 @@ FocusScope {
         Slider {
             id: slider
             objectName: "slider." + root.name
-            visible: root.info.hasSlider
+            visible: root.hasSlider
             width: parent.width
             height: Theme.touch
-            from: root.info.smallest
-            to: root.info.largest
-            stepSize: root.info.step
+            from: root.smallest
+            to: root.largest
+            stepSize: root.step
             snapMode: Slider.SnapAlways
-            value: Viewer.revision >= 0 ? Viewer.fieldValue(root.name) : 0
+            value: root.value
             focusPolicy: Qt.TabFocus
-            Accessible.name: root.info.label
-            onMoved: Viewer.dragField(root.name, value)
+            Accessible.name: root.label
+            onMoved: root.fields.drag(root.index, value)
             onPressedChanged: {
                 if (pressed) {
                     Viewer.focusStage()
                     return
                 }
-                Viewer.endFieldDrag()
-                value = Qt.binding(() => Viewer.revision >= 0 ? Viewer.fieldValue(root.name) : 0)
+                root.fields.endDrag()
+                value = Qt.binding(() => root.value)
             }
             background: Rectangle {
                 y: (slider.height - height) / 2

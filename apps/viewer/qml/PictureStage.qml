@@ -10,7 +10,7 @@ FocusScope {
     property bool isOverlayHidden: false
     property bool isBehindDialog: false
     readonly property alias view: stageView
-    signal openRequested()
+    required property var commands
 
     // How near to a point a press takes hold of it, in stage pixels.
     readonly property int mouseReach: 12
@@ -27,13 +27,16 @@ FocusScope {
     function cancel() {
         gestures.cancel()
         loupe.aim = null
-        Viewer.cancel()
+        Viewer.editor.cancel()
     }
 
     Connections {
         target: Viewer
         function onStageFocusRequested() { if (!stage.isBehindDialog) stage.forceActiveFocus() }
-        function onChanged() { overlay.update() }
+    }
+    Connections {
+        target: Viewer.editor
+        function onSessionChanged() { overlay.update() }
     }
     Keys.onPressed: {
         const length = event.modifiers & Qt.ShiftModifier ? 10 : 1
@@ -45,7 +48,7 @@ FocusScope {
         const arrow = arrows[event.key]
         if (arrow) {
             event.accepted = true
-            if (!Viewer.nudge(arrow[0] * length, arrow[1] * length, event.isAutoRepeat))
+            if (!Viewer.editor.nudge(arrow[0] * length, arrow[1] * length, event.isAutoRepeat))
                 stageView.panBy(-40 * arrow[0], -40 * arrow[1])
         } else if (event.key === Qt.Key_H) {
             event.accepted = true
@@ -59,7 +62,7 @@ FocusScope {
     StageView {
         id: stageView
         viewSize: Qt.size(stage.width, stage.height)
-        pictureSize: Viewer.pictureSize
+        pictureSize: Viewer.documents.pictureSize
     }
 
     Rectangle {
@@ -69,11 +72,11 @@ FocusScope {
     Image {
         x: stageView.offset.x
         y: stageView.offset.y
-        width: Viewer.pictureSize.width
-        height: Viewer.pictureSize.height
+        width: Viewer.documents.pictureSize.width
+        height: Viewer.documents.pictureSize.height
         scale: stageView.scale
         transformOrigin: Item.TopLeft
-        source: Viewer.pictureSource
+        source: Viewer.documents.pictureSource
         cache: false
         asynchronous: false
         // From here on the picture's own pixels are what the operator wants to see.
@@ -85,13 +88,13 @@ FocusScope {
         id: item
         objectName: "item"
         visible: false
-        Component.onCompleted: Viewer.item = item
+        Component.onCompleted: Viewer.editor.item = item
     }
     OverlayView {
         id: overlay
         objectName: "overlay"
         anchors.fill: parent
-        visible: Viewer.hasPicture && !stage.isOverlayHidden
+        visible: Viewer.documents.hasPicture && !stage.isOverlayHidden
         // Its lines grow with the picture: zoomed in, what lies below them shines through.
         opacity: Math.max(0.3, Math.min(1, 2 / stageView.scale))
         item: item
@@ -99,16 +102,17 @@ FocusScope {
         origin: stageView.origin
     }
     Repeater {
-        model: stage.isOverlayHidden ? [] : Viewer.points
+        model: Viewer.editor.points
         PointHandle {
-            x: modelData.x * stageView.scale + stageView.offset.x
-            y: modelData.y * stageView.scale + stageView.offset.y
-            isSelected: index === Viewer.selectedPoint
+            x: model.pixel.x * stageView.scale + stageView.offset.x
+            y: model.pixel.y * stageView.scale + stageView.offset.y
+            visible: !stage.isOverlayHidden
+            isSelected: index === Viewer.editor.selectedPoint
             number: index + 1
         }
     }
     Repeater {
-        model: Viewer.laserSpots
+        model: Viewer.editor.laserSpots
         PointHandle {
             x: modelData.x * stageView.scale + stageView.offset.x
             y: modelData.y * stageView.scale + stageView.offset.y
@@ -121,9 +125,9 @@ FocusScope {
         id: gestures
         objectName: "gestures"
         anchors.fill: parent
-        panOnly: Viewer.isPanning
+        panOnly: Viewer.editor.isPanning
         Accessible.role: Accessible.Graphic
-        Accessible.name: qsTr("Picture %1").arg(Viewer.pictureName)
+        Accessible.name: qsTr("Picture %1").arg(Viewer.documents.pictureName)
 
         property bool pans: false
         property point lastPoint
@@ -138,20 +142,20 @@ FocusScope {
             stage.forceActiveFocus()
             const pixel = stageView.toPicture(point)
             const near = stage.pointAt(point, isTouch)
-            near >= 0 ? Viewer.selectedPoint = near : Viewer.click(pixel)
+            near >= 0 ? Viewer.editor.selectedPoint = near : Viewer.editor.click(pixel)
         }
         onDragBegan: {
             stage.forceActiveFocus()
             const reach = isTouch ? stage.fingerReach : stage.mouseReach
-            pans = !Viewer.beginDrag(stageView.toPicture(point), reach / stageView.scale)
+            pans = !Viewer.editor.beginDrag(stageView.toPicture(point), reach / stageView.scale)
             lastPoint = point
-            loupe.isWanted = isTouch && Viewer.isDraggingPoint()
+            loupe.isWanted = isTouch && Viewer.editor.isDraggingPoint()
         }
         onDragged: {
             if (pans)
                 stageView.panBy(point.x - lastPoint.x, point.y - lastPoint.y)
             else
-                Viewer.dragTo(stageView.toPicture(point))
+                Viewer.editor.dragTo(stageView.toPicture(point))
             lastPoint = point
             if (loupe.isWanted)
                 loupe.aim = point
@@ -159,18 +163,18 @@ FocusScope {
         onDragEnded: {
             loupe.aim = null
             if (!pans)
-                Viewer.endDrag()
+                Viewer.editor.endDrag()
         }
         onPanned: stageView.panBy(dx, dy)
         onAimed: loupe.aim = point
         onAimEnded: {
             loupe.aim = null
-            Viewer.click(stageView.toPicture(point))
+            Viewer.editor.click(stageView.toPicture(point))
         }
         onPinchBegan: {
             lastFactor = 1
             lastMoved = Qt.point(0, 0)
-            Viewer.beginPinch()
+            Viewer.editor.beginPinch()
         }
         onPinched: {
             stageView.panBy(moved.x - lastMoved.x, moved.y - lastMoved.y)
@@ -179,21 +183,21 @@ FocusScope {
             lastFactor = factor
             lastMoved = moved
             const turn = Math.abs(turnDeg) - twistSlack
-            Viewer.pinch(turn > 0 ? Math.sign(turnDeg) * turn : 0, stageView.scale)
+            Viewer.editor.pinch(turn > 0 ? Math.sign(turnDeg) * turn : 0)
         }
-        onPinchEnded: Viewer.endPinch()
+        onPinchEnded: Viewer.editor.endPinch()
         onCancelled: {
             loupe.aim = null
-            Viewer.cancel()
+            Viewer.editor.cancel()
         }
         onWheelTurned: stageView.zoomAt(point, Math.pow(stage.zoomStep, notches))
     }
 
     // The handle under a tap, or -1.
     function pointAt(viewPoint, isTouch) {
-        if (Viewer.isCalibrating)
+        if (Viewer.editor.isCalibrating)
             return -1
-        const points = Viewer.points
+        const points = Viewer.editor.points.pixels
         for (let i = points.length - 1; i >= 0; --i) {
             const p = stageView.toView(points[i])
             if (Math.hypot(p.x - viewPoint.x, p.y - viewPoint.y) <= selectReach)
@@ -206,7 +210,7 @@ FocusScope {
 
     // In an open outline a tap on the first point closes it.
     function isClosing(index) {
-        return index === 0 && Viewer.kind === "CrossSection" && Viewer.points.length > 2
+        return index === 0 && Viewer.editor.closesOutline && Viewer.editor.points.count > 2
     }
 
     Loupe {
@@ -217,30 +221,31 @@ FocusScope {
     }
     ZoomStrip {
         anchors { right: parent.right; bottom: parent.bottom; margins: 10 }
-        visible: Viewer.hasPicture
+        visible: Viewer.documents.hasPicture
         stage: stage
+        commands: stage.commands
     }
 
     Column {
         anchors.centerIn: parent
         width: parent.width * 0.7
         spacing: 20
-        visible: !Viewer.hasPicture
+        visible: !Viewer.documents.hasPicture
         Text {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WordWrap
-            text: Viewer.pictureProblem || qsTr("Drop pictures from inside a pipe here")
-            color: Viewer.pictureProblem ? Theme.error : Theme.quiet
+            text: Viewer.documents.pictureProblem || qsTr("Drop pictures from inside a pipe here")
+            color: Viewer.documents.pictureProblem ? Theme.error : Theme.quiet
             font { family: Theme.family; pixelSize: 22 }
         }
         ToolKey {
             anchors.horizontalCenter: parent.horizontalCenter
             width: 200
             height: 56
+            action: stage.commands.open
             text: qsTr("Open pictures")
             emphasized: true
-            onClicked: stage.openRequested()
         }
     }
 }

@@ -19,7 +19,7 @@ ViewerDialog {
     }
 
     function take() {
-        problem = Viewer.takeRecord(size.text, units[unit])
+        problem = Viewer.records.take(size.text, units[unit])
         if (!problem)
             close()
     }

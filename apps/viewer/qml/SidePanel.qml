@@ -7,6 +7,7 @@ Rectangle {
     id: panel
 
     property bool isLow: false
+    required property var commands
     signal calibrationRequested()
     signal recordRequested()
 
@@ -16,6 +17,7 @@ Rectangle {
         id: valuePanel
         width: parent.width
         isLow: panel.isLow
+        commands: panel.commands
     }
     Grid {
         id: kinds
@@ -25,17 +27,17 @@ Rectangle {
         Repeater {
             model: Viewer.kinds
             KindButton {
-                objectName: "kind." + modelData.name
+                objectName: "kind." + model.name
                 width: (panel.width - 2 * Theme.gap - 6 * (kinds.columns - 1)) / kinds.columns
                 isCompact: panel.isLow
                 height: panel.isLow ? 46 : 54
-                kind: modelData.name
+                kind: model.name
                 number: index + 1
-                text: modelData.title
-                enabled: Viewer.hasPicture
+                text: model.title
+                enabled: Viewer.documents.hasPicture
                 opacity: enabled ? 1 : 0.5
-                checked: Viewer.hasPicture && Viewer.kind === modelData.name
-                onClicked: Viewer.chooseKind(modelData.name)
+                checked: Viewer.documents.hasPicture && Viewer.editor.kind === model.name
+                onClicked: Viewer.editor.chooseKind(model.name)
             }
         }
     }
@@ -53,7 +55,7 @@ Rectangle {
         clip: true
         contentHeight: column.height + 2 * column.y
         boundsBehavior: Flickable.StopAtBounds
-        visible: Viewer.hasPicture
+        visible: Viewer.documents.hasPicture
         ScrollBar.vertical: ScrollBar {
             policy: controls.contentHeight > controls.height ? ScrollBar.AlwaysOn
                                                              : ScrollBar.AlwaysOff
@@ -72,7 +74,7 @@ Rectangle {
             }
             AlignPanel {
                 width: parent.width
-                visible: Viewer.hasModel
+                visible: Viewer.editor.hasModel
             }
         }
     }
@@ -83,32 +85,21 @@ Rectangle {
         readonly property real keyWidth: (panel.width - 2 * Theme.gap - 2 * spacing) / 3
         ToolKey {
             objectName: "undoKey"
+            action: panel.commands.undo
             width: bottomRow.keyWidth
             height: 50
-            text: qsTr("↶ Undo")
-            hint: Viewer.undoText ? qsTr("Undo: %1").arg(Viewer.undoText) : qsTr("Undo")
-            shortcut: "Ctrl+Z"
-            enabled: Viewer.canUndo
-            onClicked: Viewer.undo()
         }
         ToolKey {
             objectName: "redoKey"
+            action: panel.commands.redo
             width: bottomRow.keyWidth
             height: 50
-            text: qsTr("↷ Redo")
-            hint: Viewer.redoText ? qsTr("Redo: %1").arg(Viewer.redoText) : qsTr("Redo")
-            shortcut: "Ctrl+Shift+Z"
-            enabled: Viewer.canRedo
-            onClicked: Viewer.redo()
         }
         ToolKey {
             objectName: "clearKey"
+            action: panel.commands.clearPoints
             width: bottomRow.keyWidth
             height: 50
-            text: qsTr("✕ Points")
-            hint: qsTr("Clear all points")
-            enabled: Viewer.points.length > 0
-            onClicked: Viewer.clearPoints()
         }
     }
 }

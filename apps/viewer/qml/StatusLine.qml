@@ -2,12 +2,12 @@ import QtQuick 2.15
 import Drevon.Zalento.Viewer 1.0
 
 Rectangle {
-    readonly property color mark: [Theme.accent, Theme.warning, Theme.error][Viewer.statusLevel]
+    readonly property color mark: [Theme.accent, Theme.warning, Theme.error][Viewer.guidance.level]
 
     height: Math.max(52, label.implicitHeight + 14)
     color: Theme.panel
     Accessible.role: Accessible.StaticText
-    Accessible.name: Viewer.status
+    Accessible.name: Viewer.guidance.text
 
     Rectangle {
         width: 5
@@ -23,8 +23,8 @@ Rectangle {
             verticalCenter: parent.verticalCenter
         }
         wrapMode: Text.WordWrap
-        text: Viewer.status
-        color: Viewer.statusLevel ? parent.mark : Theme.text
+        text: Viewer.guidance.text
+        color: Viewer.guidance.level ? parent.mark : Theme.text
         font { family: Theme.family; pixelSize: 17 }
     }
 }

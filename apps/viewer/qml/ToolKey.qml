@@ -2,12 +2,13 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import Drevon.Zalento.Viewer 1.0
 
-// A button that a finger hits; `hint` names it for the tool tip and for those who cannot see it.
+// A button that a finger hits; `hint` names it for the tool tip and for those who cannot see it. One
+// with a command as its action takes text, hint and key from there.
 Button {
     id: key
 
-    property string hint: text
-    property string shortcut: ""
+    property string hint: action ? action.hint : text
+    readonly property string keyText: action ? action.keyText : ""
     property bool emphasized: false
 
     implicitHeight: Theme.touch
@@ -20,8 +21,8 @@ Button {
     // Whatever was typed into a field is committed before the button acts.
     onPressed: Viewer.focusStage()
     // Qt tells the second of two quick presses apart; here it is a press like any other.
-    onDoubleClicked: clicked()
-    ToolTip.text: shortcut ? hint + "  (" + shortcut + ")" : hint
+    onDoubleClicked: action ? action.trigger(key) : clicked()
+    ToolTip.text: keyText ? hint + "  (" + keyText + ")" : hint
     ToolTip.visible: hovered && !down && ToolTip.text !== text
     ToolTip.delay: 600
 

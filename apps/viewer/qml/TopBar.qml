@@ -5,10 +5,9 @@ import Drevon.Zalento.Viewer 1.0
 Rectangle {
     id: bar
 
-    signal openRequested()
+    required property var commands
     signal exportRequested(string what)
     signal recordRequested()
-    signal keysRequested()
 
     height: 54
     color: Theme.panel
@@ -19,42 +18,36 @@ Rectangle {
         spacing: 6
         ToolKey {
             objectName: "openKey"
-            text: qsTr("Open")
-            shortcut: "Ctrl+O"
-            emphasized: !Viewer.hasPicture
-            onClicked: bar.openRequested()
+            action: bar.commands.open
+            emphasized: !Viewer.documents.hasPicture
         }
         ToolKey {
             text: qsTr("Recent")
             hint: qsTr("Pictures opened lately")
-            enabled: Viewer.recentFiles.length > 0
+            enabled: Viewer.preferences.recentFiles.length > 0
             onClicked: recentMenu.open()
             ViewerMenu {
                 id: recentMenu
                 y: parent.height + 4
                 width: 460
                 Repeater {
-                    model: Viewer.recentFiles
+                    model: Viewer.preferences.recentFiles
                     ViewerMenuItem {
                         text: modelData
-                        onTriggered: Viewer.openPaths([modelData])
+                        onTriggered: Viewer.documents.openPaths([modelData])
                     }
                 }
             }
         }
         ToolKey {
             objectName: "saveKey"
-            text: Viewer.isModified ? qsTr("Save •") : qsTr("Save")
-            hint: qsTr("Save the session beside the picture")
-            shortcut: "Ctrl+S"
-            enabled: Viewer.hasPicture
-            onClicked: Viewer.save()
+            action: bar.commands.save
         }
         ToolKey {
             objectName: "exportKey"
             text: qsTr("Export")
             hint: qsTr("Save the picture with its overlay, or the values")
-            enabled: Viewer.hasPicture
+            enabled: Viewer.documents.hasPicture
             onClicked: exportMenu.open()
             ViewerMenu {
                 id: exportMenu
@@ -87,7 +80,7 @@ Rectangle {
             objectName: "recordKey"
             text: qsTr("Pipe size")
             hint: qsTr("Pipe record: type or load the nominal size")
-            enabled: Viewer.hasPicture
+            enabled: Viewer.documents.hasPicture
             onClicked: bar.recordRequested()
         }
     }
@@ -97,50 +90,39 @@ Rectangle {
         spacing: 6
         ToolKey {
             objectName: "previousKey"
-            text: "‹"
+            action: bar.commands.previous
             font.pixelSize: 26
-            hint: qsTr("Previous picture")
-            shortcut: "PgUp"
-            enabled: Viewer.pictureIndex > 0
-            onClicked: Viewer.previousPicture()
         }
         Column {
             width: Math.min(240, bar.width - left.width - 3 * Theme.touch - 60)
             anchors.verticalCenter: parent.verticalCenter
-            visible: Viewer.pictureCount > 0
+            visible: Viewer.documents.count > 0
             Text {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 elide: Text.ElideMiddle
-                text: Viewer.pictureName
+                text: Viewer.documents.pictureName
                 color: Theme.text
                 font { family: Theme.family; pixelSize: Theme.normal }
             }
             Text {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                text: qsTr("%1 of %2").arg(Viewer.pictureIndex + 1).arg(Viewer.pictureCount)
-                      + (Viewer.hasPicture ? qsTr(" · %1 × %2").arg(Viewer.pictureSize.width)
-                                             .arg(Viewer.pictureSize.height) : "")
+                text: qsTr("%1 of %2").arg(Viewer.documents.currentIndex + 1).arg(Viewer.documents.count)
+                      + (Viewer.documents.hasPicture ? qsTr(" · %1 × %2").arg(Viewer.documents.pictureSize.width)
+                                             .arg(Viewer.documents.pictureSize.height) : "")
                 color: Theme.quiet
                 font { family: Theme.family; pixelSize: 12 }
             }
         }
         ToolKey {
             objectName: "nextKey"
-            text: "›"
+            action: bar.commands.next
             font.pixelSize: 26
-            hint: qsTr("Next picture")
-            shortcut: "PgDown"
-            enabled: Viewer.pictureIndex + 1 < Viewer.pictureCount
-            onClicked: Viewer.nextPicture()
         }
         ToolKey {
             objectName: "keysKey"
-            text: "?"
-            hint: qsTr("List of keys")
-            shortcut: "F1"
-            onClicked: bar.keysRequested()
+            action: bar.commands.keys
         }
     }
 }

@@ -6,6 +6,7 @@ Item {
     id: panel
 
     property bool isLow: false
+    required property var commands
 
     height: isLow ? 80 : 92
 
@@ -16,13 +17,13 @@ Item {
         y: panel.isLow ? 4 : 8
         height: 50
         verticalAlignment: Text.AlignVCenter
-        text: Viewer.value || (Viewer.hasPicture && Viewer.kind === "CrackWidth"
-                               && !Viewer.hasScale ? qsTr("no scale yet") : "–")
-        color: Viewer.value ? Theme.accent : Theme.quiet
+        text: Viewer.editor.value || (Viewer.documents.hasPicture && Viewer.editor.usesScale
+                               && !Viewer.editor.hasScale ? qsTr("no scale yet") : "–")
+        color: Viewer.editor.value ? Theme.accent : Theme.quiet
         font {
             family: Theme.family
-            pixelSize: Viewer.value || text === "–" ? Theme.large : 24
-            bold: Viewer.value
+            pixelSize: Viewer.editor.value || text === "–" ? Theme.large : 24
+            bold: Viewer.editor.value
         }
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 20
@@ -32,15 +33,15 @@ Item {
     Text {
         objectName: "secondValueText"
         anchors { left: label.left; right: label.right; top: label.bottom }
-        text: Viewer.secondValue ? Viewer.secondValue + shareOf : note
+        text: Viewer.editor.secondValue ? Viewer.editor.secondValue + shareOf : note
         color: Theme.text
         elide: Text.ElideRight
         font { family: Theme.family; pixelSize: Theme.normal }
 
-        readonly property string shareOf: Viewer.points.length > 2 ? qsTr(" of the section")
+        readonly property string shareOf: Viewer.editor.points.count > 2 ? qsTr(" of the section")
                                                                    : qsTr(" of the diameter")
-        readonly property string note: Viewer.kind === "CrackWidth" && Viewer.hasScale
-                                       ? Viewer.scaleText : ""
+        readonly property string note: Viewer.editor.usesScale && Viewer.editor.hasScale
+                                       ? Viewer.editor.scaleText : ""
     }
     Row {
         id: keys
@@ -49,21 +50,12 @@ Item {
         spacing: 6
         ToolKey {
             objectName: "copyKey"
-            text: qsTr("Copy")
-            hint: qsTr("Copy the value")
-            shortcut: "Ctrl+C"
-            enabled: Viewer.value
-            onClicked: Viewer.copyValue()
+            action: panel.commands.copy
         }
         ToolKey {
             objectName: "unitKey"
+            action: panel.commands.unit
             width: 56
-            text: Viewer.isImperial ? qsTr("in") : qsTr("mm")
-            hint: Viewer.isImperial ? qsTr("Imperial units; switch to metric")
-                                    : qsTr("Metric units; switch to imperial")
-            shortcut: "U"
-            enabled: Viewer.hasPicture
-            onClicked: Viewer.toggleUnit()
         }
     }
 }

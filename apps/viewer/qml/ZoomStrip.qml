@@ -3,6 +3,7 @@ import Drevon.Zalento.Viewer 1.0
 
 Rectangle {
     required property var stage
+    required property var commands
 
     width: column.width + 8
     height: column.height + 8
@@ -16,13 +17,10 @@ Rectangle {
         spacing: 4
         ToolKey {
             objectName: "zoomInKey"
+            action: commands.zoomIn
             width: 56
-            text: "+"
             font.pixelSize: 22
-            hint: qsTr("Zoom in")
-            shortcut: "+"
             autoRepeat: true
-            onClicked: stage.zoom(1)
         }
         Text {
             objectName: "zoomText"
@@ -34,28 +32,19 @@ Rectangle {
         }
         ToolKey {
             objectName: "zoomOutKey"
+            action: commands.zoomOut
             width: 56
-            text: "−"
             font.pixelSize: 22
-            hint: qsTr("Zoom out")
-            shortcut: "-"
             autoRepeat: true
-            onClicked: stage.zoom(-1)
         }
         ToolKey {
             objectName: "fitKey"
+            action: commands.fit
             width: 56
-            text: qsTr("Fit")
-            hint: qsTr("Whole picture")
-            shortcut: "Ctrl+0"
-            onClicked: stage.fit()
         }
         ToolKey {
+            action: commands.actualSize
             width: 56
-            text: "1:1"
-            hint: qsTr("Picture pixels")
-            shortcut: "Ctrl+1"
-            onClicked: stage.actualSize()
         }
         ToolKey {
             objectName: "panKey"
@@ -63,8 +52,8 @@ Rectangle {
             text: qsTr("Pan")
             font.pixelSize: Theme.small
             hint: qsTr("Drag pans the picture")
-            checked: Viewer.isPanning
-            onClicked: Viewer.isPanning = !Viewer.isPanning
+            checked: Viewer.editor.isPanning
+            onClicked: Viewer.editor.isPanning = !Viewer.editor.isPanning
         }
     }
 }

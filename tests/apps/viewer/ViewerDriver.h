@@ -1,7 +1,7 @@
 #pragma once
 
 #include "StageView.h"
-#include "ViewerController.h"
+#include "Viewer.h"
 #include "ViewerWindow.h"
 
 #include <QDir>
@@ -25,7 +25,7 @@ public:
     explicit ViewerDriver(const QSize &windowSize = QSize(1280, 800))
     {
         QSettings().clear();
-        viewer.setWindowSize(windowSize);
+        viewer.preferences()->setWindowSize(windowSize);
         if (!scene.show() || !QTest::qWaitForWindowExposed(window())) {
             qFatal("the viewer's window does not appear");
         }
@@ -35,7 +35,11 @@ public:
         }
     }
 
-    ViewerController viewer;
+    Viewer viewer;
+    MeasurementEditor &editor = *viewer.editor();
+    DocumentList &documents = *viewer.documents();
+    Exporter &exporter = *viewer.exporter();
+    Guidance &guidance = *viewer.guidance();
     ViewerWindow scene{viewer};
     QTemporaryDir folder;
 
@@ -81,7 +85,7 @@ public:
     }
     QString openSample(const QString &name)
     {
-        viewer.openPaths({copySample(name)});
+        documents.openPaths({copySample(name)});
         return copySample(name);
     }
 

@@ -1,11 +1,10 @@
 // What the viewer computes without a window.
 #include "FieldCatalogue.h"
 #include "ModelDrag.h"
+#include "Preferences.h"
 #include "StageView.h"
-#include "ValueTable.h"
-#include "ViewerStore.h"
 
-#include "measuring/Replay.h"
+#include "measuring/PipeView.h"
 #include "support/TestCase.h"
 
 #include <QSettings>
@@ -26,8 +25,7 @@ private slots:
     void modelFollowsThePointer();
     void viewKeepsThePictureInSight();
     void fieldsReadBackWhatTheyShow();
-    void csvKeepsFieldsApart();
-    void storeRemembers();
+    void preferencesLast();
 };
 
 namespace {
@@ -36,16 +34,9 @@ namespace {
 QVector<QPointF> seenAxis(Measuring::Session session, const QSize &pictureSize)
 {
     constexpr double farEndM = -3.0;
-    session.points = {{{}, Vec3(0, 0, 0), {}}, {{}, Vec3(0, 0, farEndM), {}}};
-    ZaItem item;
-    Measuring::layOutItem(item, pictureSize);
-    Measuring::applySession(session, item);
-    Measuring::settle(item);
-    QVector<QPointF> seen;
-    for (const HitPoint &point : static_cast<Pipe &>(item.getCurrentViewObject()).hitPoints) {
-        seen.append(QPointF(point.screenPos.x, point.screenPos.y));
-    }
-    return seen;
+    session.picture.size = pictureSize;
+    const Measuring::PipeView view(session);
+    return {view.project(Vec3(0, 0, 0)), view.project(Vec3(0, 0, farEndM))};
 }
 
 } // namespace
@@ -112,16 +103,16 @@ void TestViewerParts::fieldsReadBackWhatTheyShow()
     session.calibrationText = QStringLiteral("LASER;;;12.5");
     for (const MeasureUnit unit : {MeasureUnit::Metric, MeasureUnit::Imperial}) {
         session.unit = unit;
-        for (const char *kind : {"CrackWidth", "PipeDimension", "BranchAngle", "BendAngle"}) {
-            session.kind = QLatin1String(kind);
+        for (const Measuring::KindInfo &info : Measuring::kinds()) {
+            session.kind = info.kind;
             const QStringList names = kindFields(session) + alignmentFields(session);
             for (const QString &name : names) {
                 const Field field = fieldNamed(name, session);
-                QString problem;
-                const auto value = readField(field, fieldText(field, session), problem);
+                const auto value = readField(field, fieldText(field, session));
+                QVERIFY2(value, qPrintable(name));
                 Measuring::Session again = session;
-                field.set(again, value);
-                QVERIFY2(problem.isEmpty() && again == session, qPrintable(name + problem));
+                field.set(again, *value);
+                QVERIFY2(again == session, qPrintable(name));
             }
         }
     }
@@ -129,20 +120,7 @@ void TestViewerParts::fieldsReadBackWhatTheyShow()
              QStringLiteral("9.5"));
 }
 
-void TestViewerParts::csvKeepsFieldsApart()
-{
-    Measuring::Measurement measurement;
-    measurement.values = {
-        {QStringLiteral("crackWidth"), 0.1, QStringLiteral("mm"), QStringLiteral("0,10\"")}};
-    const QByteArray csv =
-        valuesAsCsv({{QStringLiteral("a \"b\",\nc.jpg"), QStringLiteral("CrackWidth"), measurement},
-                     {QStringLiteral("none.jpg"), QStringLiteral("CrackWidth"), {}}});
-    QCOMPARE(csv,
-             QByteArray("picture,kind,name,number,unit,text\r\n"
-                        "\"a \"\"b\"\",\nc.jpg\",CrackWidth,crackWidth,0.1,mm,\"0,10\"\"\"\r\n"));
-}
-
-void TestViewerParts::storeRemembers()
+void TestViewerParts::preferencesLast()
 {
     const QTemporaryDir folder;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
@@ -151,18 +129,18 @@ void TestViewerParts::storeRemembers()
     const QString gone = folder.filePath(QStringLiteral("gone.jpg"));
     for (const QString &path : {lasting, gone, lasting}) {
         QVERIFY(QFile(path).open(QIODevice::WriteOnly));
-        ViewerStore().addRecentFile(path);
+        Preferences().addRecentFile(path);
     }
-    ViewerStore().setWindowSize({1024, 600});
-    ZASettings display = ViewerStore().displaySettings();
+    Preferences().setWindowSize({1024, 600});
+    ZASettings display = Preferences().displaySettings();
     display.MeasureUnit = MeasureUnit::Imperial;
-    ViewerStore().setDisplaySettings(display);
+    Preferences().setDisplaySettings(display);
 
-    QCOMPARE(ViewerStore().recentFiles(), (QStringList{lasting, gone}));
+    QCOMPARE(Preferences().recentFiles(), (QStringList{lasting, gone}));
     QVERIFY(QFile::remove(gone));
-    QCOMPARE(ViewerStore().recentFiles(), QStringList{lasting});
-    QCOMPARE(ViewerStore().windowSize(), QSize(1024, 600));
-    QCOMPARE(ViewerStore().displaySettings().MeasureUnit, MeasureUnit::Imperial);
+    QCOMPARE(Preferences().recentFiles(), QStringList{lasting});
+    QCOMPARE(Preferences().windowSize(), QSize(1024, 600));
+    QCOMPARE(Preferences().displaySettings().MeasureUnit, MeasureUnit::Imperial);
 }
 
 } // namespace Drevon::Zalento::Test

@@ -1,0 +1,307 @@
+#include "DocumentList.h"
+
+#include "measuring/Editing.h"
+#include "measuring/Kind.h"
+#include "measuring/SessionFile.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace Drevon::Zalento {
+
+using Measuring::Session;
+
+namespace {
+
+const QLatin1String sessionEnd(".json");
+
+} // namespace
+
+QDateTime stampOf(const QString &path)
+{
+    return QFileInfo(path).lastModified();
+}
+
+QString shortName(const QString &path)
+{
+    return QFileInfo(path).fileName();
+}
+
+DocumentList::DocumentList(Preferences &preferences, Guidance &guidance)
+    : m_preferences(preferences)
+    , m_guidance(guidance)
+{}
+
+DocumentList::~DocumentList() = default;
+
+// What is on view
+
+Document *DocumentList::current() const
+{
+    return m_index < 0 ? nullptr : m_documents[static_cast<std::size_t>(m_index)].get();
+}
+
+QString DocumentList::pictureSource() const
+{
+    return m_picture ? QStringLiteral("image://picture/%1").arg(m_pictureNumber) : QString();
+}
+
+QString DocumentList::pictureName() const
+{
+    return current() ? shortName(current()->picturePath) : QString();
+}
+
+QString DocumentList::pictureProblem() const
+{
+    return current() ? current()->problem : QString();
+}
+
+// Opening
+
+void DocumentList::openUrls(const QList<QUrl> &urls)
+{
+    QStringList paths;
+    for (const QUrl &url : urls) {
+        if (url.isLocalFile()) {
+            paths.append(url.toLocalFile());
+        }
+    }
+    openPaths(paths);
+}
+
+QStringList DocumentList::namePatterns() const
+{
+    return Measuring::pictureNamePatterns() +
+           QStringList{QLatin1Char('*') + QLatin1String(Measuring::sessionSuffix)};
+}
+
+void DocumentList::openPaths(const QStringList &paths)
+{
+    int firstShown = -1;
+    for (const QString &path : paths) {
+        const QStringList pictures =
+            QFileInfo(path).isDir() ? Measuring::picturesIn(path, false) : QStringList{path};
+        for (const QString &picture : pictures) {
+            append(picture, firstShown);
+        }
+    }
+    if (firstShown >= 0) {
+        show(firstShown);
+    } else if (!paths.isEmpty() && m_guidance.level() != Guidance::Error) {
+        m_guidance.notice(Guidance::Warning,
+                          tr("There are no pictures in %1.").arg(shortName(paths.first())));
+    }
+}
+
+// A session stands for its picture.
+void DocumentList::append(const QString &path, int &firstShown)
+{
+    QString picturePath = path;
+    QString sessionPath;
+    if (path.endsWith(sessionEnd, Qt::CaseInsensitive)) {
+        const auto session = Measuring::loadSession(path);
+        if (!session || session->picture.path.isEmpty()) {
+            m_guidance.notice(Guidance::Error, session ? tr("%1 names no picture.").arg(path)
+                                                       : session.problem().text());
+            return;
+        }
+        picturePath = session->picture.path;
+        sessionPath = path;
+    }
+    int index = indexOf(picturePath);
+    if (index < 0) {
+        index = count();
+        beginInsertRows({}, index, index);
+        m_documents.push_back(std::make_unique<Document>(picturePath));
+        if (!sessionPath.isEmpty()) {
+            m_documents.back()->sessionPath = sessionPath;
+        }
+        endInsertRows();
+        Q_EMIT countChanged();
+    }
+    if (firstShown < 0) {
+        firstShown = index;
+    }
+}
+
+int DocumentList::indexOf(const QString &picturePath) const
+{
+    const QString wanted = QFileInfo(picturePath).absoluteFilePath();
+    const auto found =
+        std::find_if(m_documents.begin(), m_documents.end(), [&wanted](const auto &document) {
+            return QFileInfo(document->picturePath).absoluteFilePath() == wanted;
+        });
+    return found == m_documents.end() ? -1 : static_cast<int>(found - m_documents.begin());
+}
+
+// Showing
+
+void DocumentList::show(int index)
+{
+    if (index < 0 || index >= count()) {
+        return;
+    }
+    Q_EMIT currentAboutToChange();
+    m_guidance.clearNotice();
+    const Session fresh = newSession();
+    m_index = index;
+    Document &document = *current();
+    loadPicture(document);
+    if (m_picture) {
+        startSession(document, fresh);
+    }
+    Q_EMIT currentChanged();
+    Q_EMIT dataChanged(this->index(m_index), this->index(m_index));
+}
+
+void DocumentList::loadPicture(Document &document)
+{
+    const auto picture = Measuring::loadPicture(document.picturePath);
+    m_picture.reset();
+    document.problem = picture ? QString() : picture.problem().text();
+    if (picture) {
+        m_picture = *picture;
+    }
+    ++m_pictureNumber;
+    if (m_provider) {
+        m_provider->setPicture(this->picture());
+    }
+    if (!m_picture) {
+        m_guidance.notice(Guidance::Error, document.problem);
+        return;
+    }
+    document.pictureStamp = stampOf(document.picturePath);
+    m_preferences.addRecentFile(document.picturePath);
+    m_preferences.setFolder(QFileInfo(document.picturePath).absolutePath());
+}
+
+void DocumentList::startSession(Document &document, const Session &fresh)
+{
+    if (!document.session) {
+        document.session = fresh;
+        document.session->picture = m_picture->identity;
+        loadSession(document);
+    } else {
+        takeOverPicture(document);
+    }
+    placePoints(document);
+}
+
+// Saved measurements are taken up; what cannot be read, or belongs to another picture, is not
+// overwritten without a question.
+void DocumentList::loadSession(Document &document)
+{
+    if (!QFileInfo::exists(document.sessionPath)) {
+        return;
+    }
+    const auto saved = Measuring::loadSession(document.sessionPath);
+    if (!saved) {
+        const QString problem = saved.problem().text();
+        document.overwriteWarning =
+            tr("The session that is there cannot be read (%1). Saving replaces it.").arg(problem);
+        m_guidance.notice(Guidance::Error, tr("The saved session cannot be read: %1").arg(problem));
+        return;
+    }
+    document.session = *saved;
+    document.sessionStamp = stampOf(document.sessionPath);
+    takeOverPicture(document);
+}
+
+// What was measured on another picture is taken over to the one on view.
+void DocumentList::takeOverPicture(Document &document)
+{
+    Session &session = *document.session;
+    const auto difference = Measuring::pictureDifference(session.picture, m_picture->identity);
+    if (difference) {
+        document.overwriteWarning = tr("The measurement in %1 was made on another picture: %2. "
+                                       "Saving takes it over to this one.")
+                                        .arg(shortName(document.sessionPath), *difference);
+        m_guidance.notice(
+            Guidance::Warning,
+            tr("Careful, %1. Nothing is overwritten until you confirm it.").arg(*difference));
+    }
+    session.picture = m_picture->identity;
+}
+
+void DocumentList::placePoints(Document &document)
+{
+    const int missed = Measuring::placePoints(*document.session).size();
+    if (missed > 0) {
+        m_guidance.notice(
+            Guidance::Warning,
+            tr("%n point(s) of the session meet no wall and were left out.", nullptr, missed));
+    }
+}
+
+Session DocumentList::newSession() const
+{
+    Session fresh;
+    if (current() && current()->session) {
+        const Session &last = *current()->session;
+        fresh.kind = last.kind;
+        fresh.unit = last.unit;
+        fresh.diameterMM = last.diameterMM;
+        fresh.fovYDEG = last.fovYDEG;
+        fresh.calibrationText = last.calibrationText;
+        fresh.percentage = Measuring::infoOf(fresh.kind).percentage.initial;
+        fresh.angleDEG = Measuring::infoOf(fresh.kind).angle.initialDEG;
+        return fresh;
+    }
+    const ZASettings display = m_preferences.displaySettings();
+    fresh.unit = display.MeasureUnit;
+    fresh.fovYDEG = display.fovYDEG;
+    fresh.diameterMM = display.pipeDiameterMM;
+    return Measuring::checkSession(fresh) ? Session() : fresh;
+}
+
+// The list
+
+void DocumentList::noteModified()
+{
+    const auto unsaved = static_cast<int>(
+        std::count_if(m_documents.begin(), m_documents.end(),
+                      [](const auto &document) { return document->isModified(); }));
+    if (m_index >= 0) {
+        Q_EMIT dataChanged(index(m_index), index(m_index), {ModifiedRole});
+    }
+    if (unsaved != m_unsavedCount) {
+        m_unsavedCount = unsaved;
+        Q_EMIT unsavedCountChanged();
+    }
+}
+
+int DocumentList::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : count();
+}
+
+QVariant DocumentList::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    const Document &document = *m_documents[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case NameRole:
+        return shortName(document.picturePath);
+    case PathRole:
+        return document.picturePath;
+    case ModifiedRole:
+        return document.isModified();
+    case ProblemRole:
+        return document.problem;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> DocumentList::roleNames() const
+{
+    return {{NameRole, "name"},
+            {PathRole, "path"},
+            {ModifiedRole, "isModified"},
+            {ProblemRole, "problem"}};
+}
+
+} // namespace Drevon::Zalento

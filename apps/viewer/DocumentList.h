@@ -1,0 +1,117 @@
+#pragma once
+
+#include "Document.h"
+#include "Guidance.h"
+#include "PictureProvider.h"
+#include "Preferences.h"
+
+#include "measuring/Picture.h"
+
+#include <QAbstractListModel>
+#include <QImage>
+#include <QSize>
+#include <QStringList>
+#include <QUrl>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace Drevon::Zalento {
+
+/**
+ * The pictures that are opened, each with its measurement, and which of them is on view.
+ *
+ * Showing a picture loads it and the session beside it. What cannot be read is told to the guidance
+ * and is not overwritten without a question.
+ */
+class DocumentList : public QAbstractListModel
+{
+    Q_OBJECT
+
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+    Q_PROPERTY(int unsavedCount READ unsavedCount NOTIFY unsavedCountChanged)
+    /** Index of the picture on view, -1 for none. The picture's properties change with it. */
+    Q_PROPERTY(int currentIndex READ currentIndex NOTIFY currentChanged)
+    Q_PROPERTY(bool hasPicture READ hasPicture NOTIFY currentChanged)
+    Q_PROPERTY(QImage picture READ picture NOTIFY currentChanged)
+    Q_PROPERTY(QSize pictureSize READ pictureSize NOTIFY currentChanged)
+    Q_PROPERTY(QString pictureSource READ pictureSource NOTIFY currentChanged)
+    Q_PROPERTY(QString pictureName READ pictureName NOTIFY currentChanged)
+    Q_PROPERTY(QString pictureProblem READ pictureProblem NOTIFY currentChanged)
+
+public:
+    enum Role { NameRole = Qt::UserRole, PathRole, ModifiedRole, ProblemRole };
+
+    DocumentList(Preferences &preferences, Guidance &guidance);
+    ~DocumentList() override;
+
+    /** Hands the picture to the scene; the engine owns it. */
+    void setPictureProvider(PictureProvider *provider) { m_provider = provider; }
+
+    int count() const { return static_cast<int>(m_documents.size()); }
+    int unsavedCount() const { return m_unsavedCount; }
+    int currentIndex() const { return m_index; }
+    bool hasPicture() const { return m_picture.has_value(); }
+    QImage picture() const { return m_picture ? m_picture->image : QImage(); }
+    QSize pictureSize() const { return picture().size(); }
+    QString pictureSource() const;
+    QString pictureName() const;
+    QString pictureProblem() const;
+
+    /** Null without one. */
+    Document *current() const;
+    Document &at(int index) { return *m_documents[static_cast<std::size_t>(index)]; }
+
+    /** A session that goes on with what the one on view knows of camera and pipe. */
+    Measuring::Session newSession() const;
+
+    /** Opens pictures, session files, and the pictures in folders; shows the first of them. */
+    Q_INVOKABLE void openPaths(const QStringList &paths);
+    Q_INVOKABLE void openUrls(const QList<QUrl> &urls);
+    Q_INVOKABLE void show(int index);
+    /** Of files that can be opened: "*.jpg", ... */
+    Q_INVOKABLE QStringList namePatterns() const;
+    Q_INVOKABLE void showNext() { show(m_index + 1); }
+    Q_INVOKABLE void showPrevious() { show(m_index - 1); }
+
+    /** To be called when a document was changed or saved. */
+    void noteModified();
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void countChanged();
+    void unsavedCountChanged();
+    /** Another picture is about to be shown: what is under way ends. */
+    void currentAboutToChange();
+    void currentChanged();
+
+private:
+    void append(const QString &path, int &firstShown);
+    int indexOf(const QString &picturePath) const;
+    void loadPicture(Document &document);
+    void startSession(Document &document, const Measuring::Session &fresh);
+    void loadSession(Document &document);
+    void takeOverPicture(Document &document);
+    void placePoints(Document &document);
+
+    Preferences &m_preferences;
+    Guidance &m_guidance;
+    PictureProvider *m_provider = nullptr;
+    std::vector<std::unique_ptr<Document>> m_documents;
+    int m_index = -1;
+    int m_unsavedCount = 0;
+    std::optional<Measuring::Picture> m_picture;
+    int m_pictureNumber = 0;
+};
+
+/** When a file was last changed; invalid for one that is not there. */
+QDateTime stampOf(const QString &path);
+
+/** A path without its folders, for messages. */
+QString shortName(const QString &path);
+
+} // namespace Drevon::Zalento

@@ -1,0 +1,217 @@
+// The editor's gestures: points, the model, calibration.
+#include "MeasurementEditor.h"
+#include "ModelDrag.h"
+
+#include "measuring/Editing.h"
+
+#include <zalento/geometry/Cylinder.h>
+
+namespace Drevon::Zalento {
+
+using Measuring::Session;
+using Measuring::Uses;
+
+namespace {
+
+constexpr int laserSpotCount = 2;
+constexpr double mmPerMetre = 1000.0;
+
+// Beyond the modelled pipe one pixel is more than a diameter.
+bool isBeyondModel(const Session &session)
+{
+    const double depthMM = -session.points.last().position->z * mmPerMetre;
+    return infoOf(session.kind).has(Uses::Diameter) &&
+           depthMM > Cylinder::lengthInDiameters * session.diameterMM;
+}
+
+} // namespace
+
+void MeasurementEditor::click(const QPointF &pixel)
+{
+    if (!isReady()) {
+        return;
+    }
+    if (!QRectF(QPointF(), QSizeF(m_documents.pictureSize())).contains(pixel)) {
+        m_guidance.notice(Guidance::Warning, tr("That is beside the picture."));
+    } else if (m_laserSpotsExpected > 0) {
+        addLaserSpot(pixel);
+    } else if (infoOf(session()->kind).has(Uses::Points)) {
+        setPointAt(pixel);
+    } else if (session()->kind == Measuring::Kind::WaterLevel) {
+        setWaterLineAt(pixel);
+    } else {
+        m_guidance.notice(Guidance::Information,
+                          tr("No points here: drag the pipe, and set the angle."));
+    }
+}
+
+void MeasurementEditor::setPointAt(const QPointF &pixel)
+{
+    Session session = sessionCopy();
+    if (Measuring::clickPoint(session, pixel) == Measuring::ClickResult::Missed) {
+        m_guidance.notice(Guidance::Warning, tr("The pipe's wall is not there: no point was set."));
+        return;
+    }
+    change(tr("Set point"), session, Moves::Nothing);
+    selectPoint(m_points.count() - 1);
+    if (isBeyondModel(session)) {
+        m_guidance.notice(Guidance::Warning,
+                          tr("That point lies beyond the pipe's modelled end: a pixel there is "
+                             "metres of pipe. Backspace drops it."));
+    }
+}
+
+void MeasurementEditor::setWaterLineAt(const QPointF &pixel)
+{
+    const auto level = Measuring::waterLevelAt(*session(), pixel);
+    if (!level) {
+        m_guidance.notice(Guidance::Warning, tr("The pipe's wall is not there: the level stays."));
+        return;
+    }
+    Session session = sessionCopy();
+    session.percentage = *level;
+    change(tr("Water level"), session, Moves::Nothing);
+}
+
+bool MeasurementEditor::beginDrag(const QPointF &pixel, double radius)
+{
+    if (!isReady()) {
+        return false;
+    }
+    m_draggedPoint = m_points.nearest(pixel, radius);
+    if (m_draggedPoint < 0 && !hasModel()) {
+        return false;
+    }
+    m_gestureStart = sessionCopy();
+    m_dragStart = pixel;
+    if (m_draggedPoint >= 0) {
+        // The point keeps its distance from the pointer.
+        m_dragAnchor = m_points.at(m_draggedPoint);
+        selectPoint(m_draggedPoint);
+    }
+    return true;
+}
+
+void MeasurementEditor::dragTo(const QPointF &pixel)
+{
+    if (!m_gestureStart || !isReady()) {
+        return;
+    }
+    const QPointF moved = pixel - m_dragStart;
+    if (m_draggedPoint < 0) {
+        preview(modelDragged(*m_gestureStart, moved, m_documents.pictureSize()), Moves::Model);
+        return;
+    }
+    Session session = sessionCopy();
+    if (Measuring::movePoint(session, m_draggedPoint, m_dragAnchor + moved)) {
+        preview(session, Moves::Nothing);
+    }
+}
+
+void MeasurementEditor::endDrag()
+{
+    const bool wasPoint = m_draggedPoint >= 0;
+    m_draggedPoint = -1;
+    finishGesture(wasPoint ? tr("Move point") : tr("Move model"));
+}
+
+void MeasurementEditor::cancel()
+{
+    m_guidance.clearNotice();
+    if (m_gestureStart) {
+        m_draggedPoint = -1;
+        const Session start = *m_gestureStart;
+        m_gestureStart.reset();
+        show(start);
+        return;
+    }
+    expectLaserSpots(0, {});
+    selectPoint(-1);
+}
+
+void MeasurementEditor::beginPinch()
+{
+    if (isReady()) {
+        m_gestureStart = sessionCopy();
+    }
+}
+
+void MeasurementEditor::pinch(double turnDeg)
+{
+    if (!m_gestureStart || !isReady() || !hasModel()) {
+        return;
+    }
+    Session session = sessionCopy();
+    session.rollDEG = m_gestureStart->rollDEG - turnDeg; // a positive roll turns to the right
+    if (session.rollDEG != sessionCopy().rollDEG) {
+        preview(session, Moves::Model);
+    }
+}
+
+void MeasurementEditor::endPinch()
+{
+    finishGesture(tr("Roll"));
+}
+
+bool MeasurementEditor::nudge(double dx, double dy, bool isRepeated)
+{
+    if (!isReady() || m_selectedPoint < 0) {
+        return false;
+    }
+    if (!isRepeated) {
+        ++m_nudgeNumber;
+    }
+    Session session = sessionCopy();
+    const QPointF pixel = session.points.at(m_selectedPoint).pixel + QPointF(dx, dy);
+    if (Measuring::movePoint(session, m_selectedPoint, pixel)) {
+        change(tr("Nudge point"), session, Moves::Nothing, m_nudgeNumber);
+    } else {
+        m_guidance.notice(Guidance::Warning, tr("The pipe's wall ends there."));
+    }
+    return true;
+}
+
+void MeasurementEditor::startCalibration()
+{
+    if (!isReady()) {
+        return;
+    }
+    chooseKind(infoOf(Measuring::Kind::CrackWidth).nameText());
+    m_guidance.clearNotice();
+    expectLaserSpots(laserSpotCount, {});
+}
+
+void MeasurementEditor::expectLaserSpots(int count, const QVariantList &spots)
+{
+    const bool wasCalibrating = isCalibrating();
+    m_laserSpotsExpected = count;
+    if (spots != m_laserSpots) {
+        m_laserSpots = spots;
+        Q_EMIT laserSpotsChanged();
+    }
+    if (isCalibrating() != wasCalibrating) {
+        Q_EMIT isCalibratingChanged();
+    }
+    showGuidance();
+}
+
+void MeasurementEditor::addLaserSpot(const QPointF &pixel)
+{
+    const QVariantList spots = m_laserSpots + QVariantList{pixel};
+    if (spots.size() < laserSpotCount) {
+        expectLaserSpots(laserSpotCount - spots.size(), spots);
+        return;
+    }
+    expectLaserSpots(0, {});
+    const auto scale =
+        Measuring::laserScale(*session(), spots.first().toPointF(), spots.last().toPointF());
+    if (!scale) {
+        m_guidance.notice(Guidance::Error, tr("No scale: %1.").arg(scale.problem().text()));
+        return;
+    }
+    Session session = sessionCopy();
+    session.mmPerPixel = *scale;
+    change(tr("Calibrate"), session, Moves::Nothing);
+}
+
+} // namespace Drevon::Zalento

@@ -1,0 +1,224 @@
+#include "Exporter.h"
+
+#include "measuring/Measurement.h"
+#include "measuring/OutputFile.h"
+#include "measuring/OverlayExport.h"
+#include "measuring/SessionFile.h"
+#include "measuring/ValueTable.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+namespace Drevon::Zalento {
+
+namespace {
+
+const QLatin1String session("session");
+const QLatin1String png("png");
+const QLatin1String svg("svg");
+const QLatin1String csv("csv");
+
+QVector<Measuring::PictureValues> measuredValues(DocumentList &documents)
+{
+    QVector<Measuring::PictureValues> pictures;
+    for (int i = 0; i < documents.count(); ++i) {
+        const Document &document = documents.at(i);
+        if (!document.session) {
+            continue;
+        }
+        const Measuring::Measurement measured = Measuring::measure(*document.session);
+        if (!measured.values.isEmpty()) {
+            pictures.append({document.picturePath,
+                             document.session->picture,
+                             document.session->kind,
+                             Measuring::Status::Measured,
+                             measured.values,
+                             {},
+                             {}});
+        }
+    }
+    return pictures;
+}
+
+QByteArray valuesAsCsv(const QVector<Measuring::PictureValues> &pictures)
+{
+    QByteArray table = Measuring::csvHeader();
+    for (const Measuring::PictureValues &picture : pictures) {
+        table += Measuring::csvRecords(picture);
+    }
+    return table;
+}
+
+} // namespace
+
+Exporter::Exporter(DocumentList &documents, MeasurementEditor &editor, Guidance &guidance)
+    : m_documents(documents)
+    , m_editor(editor)
+    , m_guidance(guidance)
+{}
+
+// Saving
+
+QString Exporter::saveQuestion(const Document &document) const
+{
+    if (!document.overwriteWarning.isEmpty()) {
+        return document.overwriteWarning;
+    }
+    if (!QFileInfo::exists(document.picturePath)) {
+        return tr("%1 is no longer there. The measurement is saved all the same.")
+            .arg(shortName(document.picturePath));
+    }
+    if (stampOf(document.picturePath) != document.pictureStamp) {
+        return tr("%1 has changed since it was opened; the measurement was made before.")
+            .arg(shortName(document.picturePath));
+    }
+    const QDateTime stamp = stampOf(document.sessionPath);
+    if (stamp.isValid() && stamp != document.sessionStamp) {
+        return document.sessionStamp.isValid()
+                   ? tr("%1 was changed by somebody else. Saving replaces it.")
+                         .arg(shortName(document.sessionPath))
+                   : tr("%1 is there already. Saving replaces it.")
+                         .arg(shortName(document.sessionPath));
+    }
+    return {};
+}
+
+bool Exporter::save()
+{
+    Document *document = m_documents.current();
+    if (!document || !document->session) {
+        return false;
+    }
+    const QString question = saveQuestion(*document);
+    if (!question.isEmpty()) {
+        Q_EMIT confirmationNeeded(question);
+        return false;
+    }
+    return write(*document);
+}
+
+bool Exporter::saveAnyway()
+{
+    Document *document = m_documents.current();
+    return document && document->session && write(*document);
+}
+
+bool Exporter::saveAs(const QString &path)
+{
+    Document *document = m_documents.current();
+    if (!document || !document->session) {
+        return false;
+    }
+    const QString before = document->sessionPath;
+    document->sessionPath = path;
+    const bool isWritten = write(*document);
+    if (!isWritten) {
+        document->sessionPath = before;
+    }
+    return isWritten;
+}
+
+bool Exporter::write(Document &document)
+{
+    const Measuring::Outcome problem = Measuring::saveSession(
+        *document.session, document.sessionPath, Measuring::Overwrite::Allow);
+    if (!problem) {
+        document.overwriteWarning.clear();
+        document.sessionStamp = stampOf(document.sessionPath);
+        document.pictureStamp = stampOf(document.picturePath);
+        document.history().setClean();
+        m_editor.noteSaved();
+    }
+    return report(problem, tr("Saved as %1.").arg(shortName(document.sessionPath)));
+}
+
+bool Exporter::saveAll()
+{
+    for (int i = 0; i < m_documents.count(); ++i) {
+        Document &document = m_documents.at(i);
+        if (!document.isModified()) {
+            continue;
+        }
+        const QString question = saveQuestion(document);
+        if (!question.isEmpty()) {
+            m_documents.show(i);
+            Q_EMIT confirmationNeeded(question);
+            return false;
+        }
+        if (!write(document)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Exporting
+
+QString Exporter::suggestedPath(const QString &what) const
+{
+    const Document *document = m_documents.current();
+    if (!document) {
+        return {};
+    }
+    if (what == session) {
+        return QFileInfo(document->sessionPath).absoluteFilePath();
+    }
+    if (what == png || what == svg) {
+        return QFileInfo(Measuring::overlayPathOf(document->picturePath, QString(), what))
+            .absoluteFilePath();
+    }
+    return QFileInfo(document->picturePath)
+        .absoluteDir()
+        .filePath(QStringLiteral("measurements.") + what);
+}
+
+bool Exporter::exportTo(const QString &what, const QString &path)
+{
+    if (what == session) {
+        return saveAs(path);
+    }
+    if (!m_editor.isReady()) {
+        return false;
+    }
+    return report(Measuring::writeFile(path, exported(what), Measuring::Overwrite::Allow),
+                  tr("Written: %1").arg(path));
+}
+
+QByteArray Exporter::exported(const QString &what) const
+{
+    if (what == png) {
+        return Measuring::overlayPng(*m_editor.item(), m_documents.picture());
+    }
+    if (what == svg) {
+        return Measuring::overlaySvg(*m_editor.item(), m_documents.pictureSize());
+    }
+    const auto values = measuredValues(m_documents);
+    return what == csv ? valuesAsCsv(values) : Measuring::jsonDocument(values);
+}
+
+bool Exporter::exists(const QString &path) const
+{
+    return QFileInfo::exists(path);
+}
+
+bool Exporter::report(const Measuring::Outcome &problem, const QString &done)
+{
+    m_guidance.notice(problem ? Guidance::Error : Guidance::Information,
+                      problem ? problem->text() : done);
+    return !problem;
+}
+
+void Exporter::copyValue()
+{
+    const QString value = m_editor.value();
+    if (value.isEmpty()) {
+        m_guidance.notice(Guidance::Warning, tr("There is no value to copy yet."));
+        return;
+    }
+    QGuiApplication::clipboard()->setText(value);
+    m_guidance.notice(Guidance::Information, tr("Copied: %1").arg(value));
+}
+
+} // namespace Drevon::Zalento

@@ -1,0 +1,426 @@
+// Showing and changing the session; gestures stand in EditorGestures.cpp.
+#include "MeasurementEditor.h"
+
+#include "measuring/CalibrationFile.h"
+#include "measuring/Editing.h"
+#include "measuring/PipeView.h"
+#include "measuring/Replay.h"
+
+#include <drevon/AppState.h>
+
+namespace Drevon::Zalento {
+
+using Measuring::Session;
+using Measuring::Uses;
+
+namespace {
+
+constexpr int scaleDigits = 4;
+
+} // namespace
+
+MeasurementEditor::MeasurementEditor(DocumentList &documents, Preferences &preferences,
+                                     Guidance &guidance)
+    : m_documents(documents)
+    , m_preferences(preferences)
+    , m_guidance(guidance)
+{
+    connect(&documents, &DocumentList::currentAboutToChange, this,
+            &MeasurementEditor::leaveCurrent);
+    connect(&documents, &DocumentList::currentChanged, this, &MeasurementEditor::showCurrent);
+    refresh();
+}
+
+void MeasurementEditor::setItem(ZaItem *item)
+{
+    if (item == m_item) {
+        return;
+    }
+    m_item = item;
+    // The item was connected before: it has the record's diameter already.
+    connect(AppState::instance(), &AppState::activeStructureChanged, this,
+            &MeasurementEditor::takeItemDiameter, Qt::UniqueConnection);
+    Q_EMIT itemChanged();
+    showCurrent();
+}
+
+const Session *MeasurementEditor::session() const
+{
+    const Document *document = m_documents.current();
+    return document && document->session ? &*document->session : nullptr;
+}
+
+Session MeasurementEditor::sessionCopy() const
+{
+    return session() ? *session() : Session();
+}
+
+bool MeasurementEditor::usesDirection() const
+{
+    return infoOf(sessionCopy().kind).has(Uses::Direction);
+}
+
+bool MeasurementEditor::usesScale() const
+{
+    return infoOf(sessionCopy().kind).has(Uses::Scale);
+}
+
+bool MeasurementEditor::closesOutline() const
+{
+    return infoOf(sessionCopy().kind).mode == MeasureMode::CrossSection;
+}
+
+// Showing
+
+void MeasurementEditor::leaveCurrent()
+{
+    if (m_gestureStart) {
+        cancel();
+    }
+    selectPoint(-1);
+    expectLaserSpots(0, {});
+}
+
+void MeasurementEditor::showCurrent()
+{
+    if (m_item && m_documents.hasPicture()) {
+        Measuring::layOutItem(*m_item, m_documents.pictureSize());
+    }
+    if (session()) {
+        show(sessionCopy());
+    } else {
+        refresh();
+    }
+}
+
+void MeasurementEditor::show(const Session &session)
+{
+    m_documents.current()->session = session;
+    if (isReady()) {
+        Measuring::showSession(session, *m_item);
+    }
+    m_measurement = Measuring::measure(session);
+    refresh();
+    Q_EMIT sessionChanged();
+}
+
+void MeasurementEditor::refresh()
+{
+    tell(shownNow());
+    showPoints();
+    showGuidance();
+    m_documents.noteModified();
+}
+
+MeasurementEditor::Shown MeasurementEditor::shownNow() const
+{
+    Shown now;
+    now.scaleText = tr("no scale yet");
+    Document *document = m_documents.current();
+    if (!session()) {
+        return now;
+    }
+    const Session &s = *session();
+    const auto &values = m_measurement.values;
+    now.kind = infoOf(s.kind).nameText();
+    now.hasModel = infoOf(s.kind).has(Uses::Model);
+    now.value = values.isEmpty() ? QString() : values.first().text;
+    now.secondValue = values.size() > 1 ? values.at(1).text : QString();
+    now.isImperial = s.unit != MeasureUnit::Metric;
+    if (const auto scale = Measuring::scaleOf(s)) {
+        now.hasScale = true;
+        now.scaleText = tr("%1 mm per pixel").arg(QString::number(*scale, 'g', scaleDigits));
+    }
+    now.rearCircleActive = s.rearCircleActive;
+    now.viewDownstream = s.viewDownstream;
+    now.jointShown = s.jointShown;
+    now.viewStyle = static_cast<int>(s.viewStyle);
+    const QUndoStack &history = document->history();
+    now.canUndo = history.canUndo();
+    now.canRedo = history.canRedo();
+    now.undoText = history.undoText();
+    now.redoText = history.redoText();
+    now.isModified = document->isModified();
+    return now;
+}
+
+void MeasurementEditor::tell(const Shown &now)
+{
+    const Shown before = m_shown;
+    m_shown = now;
+    const auto tellOf = [&](auto member, auto signal) {
+        if (before.*member != now.*member) {
+            Q_EMIT(this->*signal)();
+        }
+    };
+    tellOf(&Shown::kind, &MeasurementEditor::kindChanged);
+    tellOf(&Shown::hasModel, &MeasurementEditor::hasModelChanged);
+    tellOf(&Shown::value, &MeasurementEditor::valueChanged);
+    tellOf(&Shown::secondValue, &MeasurementEditor::secondValueChanged);
+    tellOf(&Shown::isImperial, &MeasurementEditor::isImperialChanged);
+    tellOf(&Shown::hasScale, &MeasurementEditor::hasScaleChanged);
+    tellOf(&Shown::scaleText, &MeasurementEditor::scaleTextChanged);
+    tellOf(&Shown::rearCircleActive, &MeasurementEditor::rearCircleActiveChanged);
+    tellOf(&Shown::viewDownstream, &MeasurementEditor::viewDownstreamChanged);
+    tellOf(&Shown::jointShown, &MeasurementEditor::jointShownChanged);
+    tellOf(&Shown::viewStyle, &MeasurementEditor::viewStyleChanged);
+    tellOf(&Shown::canUndo, &MeasurementEditor::canUndoChanged);
+    tellOf(&Shown::canRedo, &MeasurementEditor::canRedoChanged);
+    tellOf(&Shown::undoText, &MeasurementEditor::undoTextChanged);
+    tellOf(&Shown::redoText, &MeasurementEditor::redoTextChanged);
+    tellOf(&Shown::isModified, &MeasurementEditor::isModifiedChanged);
+}
+
+// The last point of a closed outline is its first.
+void MeasurementEditor::showPoints()
+{
+    QVector<QPointF> pixels;
+    if (isReady() && infoOf(session()->kind).has(Uses::Points)) {
+        const Measuring::PipeView view(*session());
+        for (const Measuring::SessionPoint &point : session()->points) {
+            pixels.append(view.project(point.position.value_or(Vec3())));
+        }
+        if (Measuring::isClosedOutline(*session())) {
+            pixels.removeLast();
+        }
+    }
+    m_points.setPoints(pixels);
+    if (m_selectedPoint >= pixels.size()) {
+        selectPoint(-1);
+    }
+}
+
+void MeasurementEditor::showGuidance()
+{
+    if (!isReady()) {
+        m_guidance.setSituation(std::nullopt);
+        return;
+    }
+    m_guidance.setSituation(Situation{*session(), m_measurement.state,
+                                      Measuring::isClosedOutline(*session()), m_laserSpotsExpected,
+                                      m_isPanning});
+}
+
+void MeasurementEditor::selectPoint(int index)
+{
+    const int selected = index >= 0 && index < m_points.count() ? index : -1;
+    if (selected != m_selectedPoint) {
+        m_selectedPoint = selected;
+        Q_EMIT selectedPointChanged();
+    }
+}
+
+void MeasurementEditor::setIsPanning(bool panning)
+{
+    m_guidance.clearNotice();
+    if (panning != m_isPanning) {
+        m_isPanning = panning;
+        Q_EMIT isPanningChanged();
+        showGuidance();
+    }
+}
+
+// Changing
+
+void MeasurementEditor::preview(Session next, Moves moves)
+{
+    if (!m_gestureStart) {
+        m_gestureStart = sessionCopy();
+    }
+    if (moves == Moves::Model) {
+        Measuring::pickPointsAnew(next);
+    }
+    m_guidance.clearNotice();
+    show(next);
+}
+
+void MeasurementEditor::finishGesture(const QString &name, int mergeNumber)
+{
+    if (!m_gestureStart) {
+        return;
+    }
+    const Session before = *m_gestureStart;
+    m_gestureStart.reset();
+    const Session after = sessionCopy();
+    if (before != after) {
+        const auto showAgain = [this](const Session &session) {
+            m_guidance.clearNotice();
+            show(session);
+        };
+        m_documents.current()->history().push(
+            new SessionStep(name, before, after, mergeNumber, showAgain));
+    }
+    refresh();
+}
+
+void MeasurementEditor::change(const QString &name, const Session &session, Moves moves,
+                               int mergeNumber)
+{
+    preview(session, moves);
+    finishGesture(name, mergeNumber);
+}
+
+// The host's active record has changed.
+void MeasurementEditor::takeItemDiameter()
+{
+    if (isReady()) {
+        Session session = sessionCopy();
+        session.diameterMM = m_item->diameter();
+        change(tr("Pipe record"), session, Moves::Model);
+    }
+}
+
+// Steps
+
+void MeasurementEditor::chooseKind(const QString &name)
+{
+    const auto kind = Measuring::kindNamed(name);
+    if (!isReady() || !kind || session()->kind == *kind) {
+        return;
+    }
+    expectLaserSpots(0, {});
+    const Measuring::KindInfo &info = infoOf(*kind);
+    Session session = sessionCopy();
+    session.kind = *kind;
+    session.points.clear();
+    session.percentage = info.percentage.initial;
+    session.angleDEG = info.angle.initialDEG;
+    session.jointShown = false;
+    change(Measuring::translated(info.title), session, Moves::Nothing);
+}
+
+void MeasurementEditor::chooseKindAt(int row)
+{
+    const auto &kinds = Measuring::kinds();
+    if (row >= 0 && row < static_cast<int>(kinds.size())) {
+        chooseKind(kinds[static_cast<std::size_t>(row)].nameText());
+    }
+}
+
+void MeasurementEditor::toggleUnit()
+{
+    if (!isReady()) {
+        return;
+    }
+    Session session = sessionCopy();
+    session.unit = isImperial() ? MeasureUnit::Metric : MeasureUnit::Imperial;
+    ZASettings display = m_preferences.displaySettings();
+    display.MeasureUnit = session.unit;
+    m_preferences.setDisplaySettings(display);
+    change(tr("Unit"), session, Moves::Nothing);
+}
+
+void MeasurementEditor::undo()
+{
+    if (m_gestureStart) {
+        cancel();
+    } else if (canUndo()) {
+        m_documents.current()->history().undo();
+        refresh();
+    }
+}
+
+void MeasurementEditor::redo()
+{
+    if (!m_gestureStart && canRedo()) {
+        m_documents.current()->history().redo();
+        refresh();
+    }
+}
+
+void MeasurementEditor::dropLastPoint()
+{
+    if (isReady() && !session()->points.isEmpty()) {
+        Session session = sessionCopy();
+        session.points.removeLast();
+        change(tr("Drop last point"), session, Moves::Nothing);
+    }
+}
+
+void MeasurementEditor::clearPoints()
+{
+    if (isReady() && !session()->points.isEmpty()) {
+        Session session = sessionCopy();
+        session.points.clear();
+        change(tr("Clear"), session, Moves::Nothing);
+    }
+}
+
+void MeasurementEditor::resetAlignment()
+{
+    if (!isReady()) {
+        return;
+    }
+    const Session fresh = m_documents.newSession();
+    Session session = sessionCopy();
+    session.offset = fresh.offset;
+    session.rollDEG = fresh.rollDEG;
+    session.cameraHeightPercent = fresh.cameraHeightPercent;
+    session.fovYDEG = fresh.fovYDEG;
+    session.rearCircleX = fresh.rearCircleX;
+    session.rearCircleY = fresh.rearCircleY;
+    change(tr("Reset alignment"), session, Moves::Model);
+}
+
+void MeasurementEditor::loadCalibration(const QString &path)
+{
+    const auto text = Measuring::loadCalibration(path);
+    if (!text) {
+        m_guidance.notice(Guidance::Error, text.problem().text());
+        return;
+    }
+    if (!isReady()) {
+        return;
+    }
+    chooseKind(infoOf(Measuring::Kind::CrackWidth).nameText());
+    Session session = sessionCopy();
+    session.calibrationText = *text;
+    session.mmPerPixel.reset();
+    change(tr("Calibration file"), session, Moves::Nothing);
+    if (!hasScale()) {
+        m_guidance.notice(Guidance::Warning, tr("%1 gives no scale for a diameter of %2 mm.")
+                                                 .arg(shortName(path))
+                                                 .arg(session.diameterMM));
+    }
+}
+
+// Choices
+
+void MeasurementEditor::setRearCircleActive(bool active)
+{
+    if (isReady()) {
+        Session session = sessionCopy();
+        session.rearCircleActive = active;
+        change(tr("Far end"), session, Moves::Nothing);
+    }
+}
+
+void MeasurementEditor::setViewDownstream(bool downstream)
+{
+    if (isReady()) {
+        Session session = sessionCopy();
+        session.viewDownstream = downstream;
+        change(tr("Viewing direction"), session, Moves::Nothing);
+    }
+}
+
+void MeasurementEditor::setJointShown(bool shown)
+{
+    if (isReady()) {
+        Session session = sessionCopy();
+        session.jointShown = shown;
+        change(tr("Bend or joint"), session, Moves::Nothing);
+    }
+}
+
+void MeasurementEditor::setViewStyle(int style)
+{
+    if (isReady() && style >= static_cast<int>(ViewStyle::MeasureOnly) &&
+        style <= static_cast<int>(ViewStyle::Full)) {
+        Session session = sessionCopy();
+        session.viewStyle = ViewStyle(style);
+        change(tr("View style"), session, Moves::Nothing);
+    }
+}
+
+} // namespace Drevon::Zalento

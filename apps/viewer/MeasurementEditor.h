@@ -1,0 +1,248 @@
+#pragma once
+
+#include "DocumentList.h"
+#include "Guidance.h"
+#include "PointModel.h"
+#include "Preferences.h"
+
+#include "measuring/Measurement.h"
+
+#include <zalento/item/ZaItem.h>
+
+#include <QObject>
+#include <QPointF>
+#include <QPointer>
+#include <QVariantList>
+
+#include <optional>
+
+namespace Drevon::Zalento {
+
+/**
+ * The measurement on view, being edited.
+ *
+ * The truth is the session of the document on view: an operation makes a new session, which is
+ * replayed on the item once, measured, and becomes one undo step when the gesture is finished.
+ * Nothing is painted for it. Points and lengths are in pixels of the upright picture.
+ */
+class MeasurementEditor : public QObject
+{
+    Q_OBJECT
+
+    /** Shows the session; as large as the picture. */
+    Q_PROPERTY(Drevon::Zalento::ZaItem *item READ item WRITE setItem NOTIFY itemChanged)
+
+    /** Name of the kind, in sessions and of the item. */
+    Q_PROPERTY(QString kind READ kind NOTIFY kindChanged)
+    /** The kind lays a pipe over the picture, which can be aligned. */
+    Q_PROPERTY(bool hasModel READ hasModel NOTIFY hasModelChanged)
+    Q_PROPERTY(bool usesDirection READ usesDirection NOTIFY kindChanged)
+    Q_PROPERTY(bool usesScale READ usesScale NOTIFY kindChanged)
+    Q_PROPERTY(bool closesOutline READ closesOutline NOTIFY kindChanged)
+
+    Q_PROPERTY(QString value READ value NOTIFY valueChanged)
+    Q_PROPERTY(QString secondValue READ secondValue NOTIFY secondValueChanged)
+    Q_PROPERTY(bool isImperial READ isImperial NOTIFY isImperialChanged)
+    Q_PROPERTY(bool hasScale READ hasScale NOTIFY hasScaleChanged)
+    Q_PROPERTY(QString scaleText READ scaleText NOTIFY scaleTextChanged)
+
+    Q_PROPERTY(Drevon::Zalento::PointModel *points READ points CONSTANT)
+    Q_PROPERTY(int selectedPoint READ selectedPoint WRITE selectPoint NOTIFY selectedPointChanged)
+    Q_PROPERTY(QVariantList laserSpots READ laserSpots NOTIFY laserSpotsChanged)
+    Q_PROPERTY(bool isCalibrating READ isCalibrating NOTIFY isCalibratingChanged)
+    /** A drag pans the picture instead of moving the model. */
+    Q_PROPERTY(bool isPanning READ isPanning WRITE setIsPanning NOTIFY isPanningChanged)
+
+    Q_PROPERTY(bool rearCircleActive READ rearCircleActive WRITE setRearCircleActive NOTIFY
+                   rearCircleActiveChanged)
+    Q_PROPERTY(bool viewDownstream READ viewDownstream WRITE setViewDownstream NOTIFY
+                   viewDownstreamChanged)
+    Q_PROPERTY(bool jointShown READ jointShown WRITE setJointShown NOTIFY jointShownChanged)
+    Q_PROPERTY(int viewStyle READ viewStyle WRITE setViewStyle NOTIFY viewStyleChanged)
+
+    Q_PROPERTY(bool canUndo READ canUndo NOTIFY canUndoChanged)
+    Q_PROPERTY(bool canRedo READ canRedo NOTIFY canRedoChanged)
+    Q_PROPERTY(QString undoText READ undoText NOTIFY undoTextChanged)
+    Q_PROPERTY(QString redoText READ redoText NOTIFY redoTextChanged)
+    Q_PROPERTY(bool isModified READ isModified NOTIFY isModifiedChanged)
+
+public:
+    MeasurementEditor(DocumentList &documents, Preferences &preferences, Guidance &guidance);
+
+    ZaItem *item() const { return m_item; }
+    void setItem(ZaItem *item);
+
+    QString kind() const { return m_shown.kind; }
+    bool hasModel() const { return m_shown.hasModel; }
+    bool usesDirection() const;
+    bool usesScale() const;
+    bool closesOutline() const;
+
+    QString value() const { return m_shown.value; }
+    QString secondValue() const { return m_shown.secondValue; }
+    bool isImperial() const { return m_shown.isImperial; }
+    bool hasScale() const { return m_shown.hasScale; }
+    QString scaleText() const { return m_shown.scaleText; }
+
+    PointModel *points() { return &m_points; }
+    int selectedPoint() const { return m_selectedPoint; }
+    void selectPoint(int index);
+    QVariantList laserSpots() const { return m_laserSpots; }
+    bool isCalibrating() const { return m_laserSpotsExpected > 0; }
+    bool isPanning() const { return m_isPanning; }
+    void setIsPanning(bool panning);
+
+    bool rearCircleActive() const { return m_shown.rearCircleActive; }
+    void setRearCircleActive(bool active);
+    bool viewDownstream() const { return m_shown.viewDownstream; }
+    void setViewDownstream(bool downstream);
+    bool jointShown() const { return m_shown.jointShown; }
+    void setJointShown(bool shown);
+    int viewStyle() const { return m_shown.viewStyle; }
+    void setViewStyle(int style);
+
+    bool canUndo() const { return m_shown.canUndo; }
+    bool canRedo() const { return m_shown.canRedo; }
+    QString undoText() const { return m_shown.undoText; }
+    QString redoText() const { return m_shown.redoText; }
+    bool isModified() const { return m_shown.isModified; }
+
+    /** Null without a picture. */
+    const Measuring::Session *session() const;
+    const Measuring::Measurement &measurement() const { return m_measurement; }
+
+    /** @name Gestures, in picture pixels */
+    /** @{ */
+    Q_INVOKABLE void click(const QPointF &pixel);
+    /**
+     * Takes hold of the point within @p radius, else of the model.
+     * @return false when there is nothing to move: the drag pans
+     */
+    Q_INVOKABLE bool beginDrag(const QPointF &pixel, double radius);
+    Q_INVOKABLE void dragTo(const QPointF &pixel);
+    Q_INVOKABLE void endDrag();
+    /** Gives up the drag or pinch under way, else the calibration, else the selection. */
+    Q_INVOKABLE void cancel();
+    Q_INVOKABLE bool isDraggingPoint() const { return m_draggedPoint >= 0; }
+    Q_INVOKABLE void beginPinch();
+    /** @param turnDeg to the left, since the begin */
+    Q_INVOKABLE void pinch(double turnDeg);
+    Q_INVOKABLE void endPinch();
+    /** Moves the selected point; steps of a held key are undone as one. */
+    Q_INVOKABLE bool nudge(double dx, double dy, bool isRepeated);
+    Q_INVOKABLE void startCalibration();
+    /** @} */
+
+    /** @name Steps */
+    /** @{ */
+    Q_INVOKABLE void chooseKind(const QString &kind);
+    /** The kind of this row of the list of kinds. */
+    Q_INVOKABLE void chooseKindAt(int row);
+    Q_INVOKABLE void toggleUnit();
+    Q_INVOKABLE void undo();
+    Q_INVOKABLE void redo();
+    Q_INVOKABLE void dropLastPoint();
+    Q_INVOKABLE void clearPoints();
+    Q_INVOKABLE void resetAlignment();
+    Q_INVOKABLE void loadCalibration(const QString &path);
+    /** @} */
+
+    /** Whether points have to be looked up anew. */
+    enum class Moves { Nothing, Model };
+
+    /** Makes @p session the one on view, as one undo step. */
+    void change(const QString &name, const Measuring::Session &session, Moves moves,
+                int mergeNumber = -1);
+    /** The same while a gesture lasts; finishGesture() makes the step. */
+    void preview(Measuring::Session session, Moves moves);
+    void finishGesture(const QString &name, int mergeNumber = -1);
+
+    /** A picture and its session are on view. */
+    bool isReady() const { return m_item && m_documents.hasPicture() && session(); }
+
+    /** To be called when the document on view was saved. */
+    void noteSaved() { refresh(); }
+
+Q_SIGNALS:
+    void itemChanged();
+    /** Another session is on view: everything that was read of it may be different. */
+    void sessionChanged();
+    void kindChanged();
+    void hasModelChanged();
+    void valueChanged();
+    void secondValueChanged();
+    void isImperialChanged();
+    void hasScaleChanged();
+    void scaleTextChanged();
+    void selectedPointChanged();
+    void laserSpotsChanged();
+    void isCalibratingChanged();
+    void isPanningChanged();
+    void rearCircleActiveChanged();
+    void viewDownstreamChanged();
+    void jointShownChanged();
+    void viewStyleChanged();
+    void canUndoChanged();
+    void canRedoChanged();
+    void undoTextChanged();
+    void redoTextChanged();
+    void isModifiedChanged();
+
+private:
+    // What the properties tell; a signal is sent for each that differs from what was told before.
+    struct Shown
+    {
+        QString kind = Measuring::infoOf(Measuring::Session().kind).nameText();
+        bool hasModel = false;
+        QString value;
+        QString secondValue;
+        bool isImperial = false;
+        bool hasScale = false;
+        QString scaleText;
+        bool rearCircleActive = false;
+        bool viewDownstream = true;
+        bool jointShown = false;
+        int viewStyle = 2;
+        bool canUndo = false;
+        bool canRedo = false;
+        QString undoText;
+        QString redoText;
+        bool isModified = false;
+    };
+
+    void show(const Measuring::Session &session);
+    void refresh();
+    Shown shownNow() const;
+    void tell(const Shown &now);
+    void showPoints();
+    void showGuidance();
+    Measuring::Session sessionCopy() const;
+
+    void showCurrent();
+    void leaveCurrent();
+    void takeItemDiameter();
+    void setPointAt(const QPointF &pixel);
+    void setWaterLineAt(const QPointF &pixel);
+    void addLaserSpot(const QPointF &pixel);
+    void expectLaserSpots(int count, const QVariantList &spots);
+
+    DocumentList &m_documents;
+    Preferences &m_preferences;
+    Guidance &m_guidance;
+    QPointer<ZaItem> m_item;
+    Measuring::Measurement m_measurement;
+    Shown m_shown;
+    PointModel m_points;
+    int m_selectedPoint = -1;
+
+    std::optional<Measuring::Session> m_gestureStart;
+    QPointF m_dragStart;
+    QPointF m_dragAnchor;
+    int m_draggedPoint = -1;
+    int m_laserSpotsExpected = 0;
+    QVariantList m_laserSpots;
+    bool m_isPanning = false;
+    int m_nudgeNumber = 0;
+};
+
+} // namespace Drevon::Zalento

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "DocumentList.h"
+#include "Exporter.h"
+#include "FieldModel.h"
+#include "Guidance.h"
+#include "KindModel.h"
+#include "MeasurementEditor.h"
+#include "PipeRecord.h"
+#include "Preferences.h"
+
+#include <QObject>
+#include <QUrl>
+
+namespace Drevon::Zalento {
+
+/** The parts of the viewer, each with a job of its own; the scene knows it as "Viewer". */
+class Viewer : public QObject
+{
+    Q_OBJECT
+
+    Q_PROPERTY(Drevon::Zalento::Preferences *preferences READ preferences CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::Guidance *guidance READ guidance CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::DocumentList *documents READ documents CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::MeasurementEditor *editor READ editor CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::KindModel *kinds READ kinds CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::FieldModel *kindFields READ kindFields CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::FieldModel *alignmentFields READ alignmentFields CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::Exporter *exporter READ exporter CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::PipeRecords *records READ records CONSTANT)
+    /** The platform has a file dialog of its own. */
+    Q_PROPERTY(bool hasPlatformDialogs READ hasPlatformDialogs CONSTANT)
+
+public:
+    Viewer();
+
+    Preferences *preferences() { return &m_preferences; }
+    Guidance *guidance() { return &m_guidance; }
+    DocumentList *documents() { return &m_documents; }
+    MeasurementEditor *editor() { return &m_editor; }
+    KindModel *kinds() { return &m_kinds; }
+    FieldModel *kindFields() { return &m_kindFields; }
+    FieldModel *alignmentFields() { return &m_alignmentFields; }
+    Exporter *exporter() { return &m_exporter; }
+    PipeRecords *records() { return &m_records; }
+
+    bool hasPlatformDialogs() const;
+
+    Q_INVOKABLE QUrl urlOf(const QString &path) const { return QUrl::fromLocalFile(path); }
+    Q_INVOKABLE QString pathOf(const QUrl &url) const { return url.toLocalFile(); }
+
+    /** Gives the keys back to the picture, and with it commits what was typed. */
+    Q_INVOKABLE void focusStage() { Q_EMIT stageFocusRequested(); }
+
+Q_SIGNALS:
+    void stageFocusRequested();
+
+private:
+    Preferences m_preferences;
+    Guidance m_guidance;
+    DocumentList m_documents{m_preferences, m_guidance};
+    MeasurementEditor m_editor{m_documents, m_preferences, m_guidance};
+    KindModel m_kinds;
+    FieldModel m_kindFields;
+    FieldModel m_alignmentFields;
+    Exporter m_exporter{m_documents, m_editor, m_guidance};
+    PipeRecords m_records{m_guidance};
+};
+
+} // namespace Drevon::Zalento

@@ -1,0 +1,154 @@
+import QtQuick 2.15
+import Drevon.Zalento.Viewer 1.0
+
+// Every command of the viewer: text, keys, and when it can be used stand here only.
+Item {
+    id: commands
+
+    required property var stage
+    signal openRequested()
+    signal keysRequested()
+
+    readonly property Command open: Command {
+        text: qsTr("Open")
+        hint: qsTr("Open pictures")
+        shortcut: "Ctrl+O"
+        onTriggered: commands.openRequested()
+    }
+    readonly property Command save: Command {
+        text: Viewer.editor.isModified ? qsTr("Save •") : qsTr("Save")
+        hint: qsTr("Save the session beside the picture")
+        shortcut: "Ctrl+S"
+        enabled: Viewer.documents.hasPicture
+        onTriggered: Viewer.exporter.save()
+    }
+    readonly property Command copy: Command {
+        text: qsTr("Copy")
+        hint: qsTr("Copy the value")
+        shortcut: "Ctrl+C"
+        enabled: Viewer.documents.hasPicture
+        onTriggered: Viewer.exporter.copyValue()
+    }
+    readonly property Command previous: Command {
+        text: "‹"
+        hint: qsTr("Previous picture")
+        shortcut: "PgUp"
+        enabled: Viewer.documents.currentIndex > 0
+        onTriggered: Viewer.documents.showPrevious()
+    }
+    readonly property Command next: Command {
+        text: "›"
+        hint: qsTr("Next picture")
+        shortcut: "PgDown"
+        enabled: Viewer.documents.currentIndex + 1 < Viewer.documents.count
+        onTriggered: Viewer.documents.showNext()
+    }
+    readonly property Command undo: Command {
+        text: qsTr("↶ Undo")
+        hint: Viewer.editor.undoText ? qsTr("Undo: %1").arg(Viewer.editor.undoText) : qsTr("Undo")
+        shortcut: "Ctrl+Z"
+        enabled: Viewer.editor.canUndo
+        onTriggered: Viewer.editor.undo()
+    }
+    readonly property Command redo: Command {
+        text: qsTr("↷ Redo")
+        hint: Viewer.editor.redoText ? qsTr("Redo: %1").arg(Viewer.editor.redoText) : qsTr("Redo")
+        shortcut: "Ctrl+Shift+Z"
+        otherKeys: ["Ctrl+Y"]
+        enabled: Viewer.editor.canRedo
+        onTriggered: Viewer.editor.redo()
+    }
+    readonly property Command giveUp: Command {
+        text: qsTr("Cancel")
+        hint: qsTr("Give up what is under way")
+        shortcut: "Esc"
+        onTriggered: commands.stage.cancel()
+    }
+    readonly property Command dropLastPoint: Command {
+        text: qsTr("Drop the last point")
+        shortcut: "Backspace"
+        onTriggered: Viewer.editor.dropLastPoint()
+    }
+    readonly property Command clearPoints: Command {
+        text: qsTr("✕ Points")
+        hint: qsTr("Clear all points")
+        enabled: Viewer.editor.points.count > 0
+        onTriggered: Viewer.editor.clearPoints()
+    }
+    readonly property Command unit: Command {
+        text: Viewer.editor.isImperial ? qsTr("in") : qsTr("mm")
+        hint: Viewer.editor.isImperial ? qsTr("Imperial units; switch to metric")
+                                       : qsTr("Metric units; switch to imperial")
+        shortcut: "U"
+        enabled: Viewer.documents.hasPicture
+        onTriggered: Viewer.editor.toggleUnit()
+    }
+    readonly property Command zoomIn: Command {
+        text: "+"
+        hint: qsTr("Zoom in")
+        shortcut: "+"
+        otherKeys: ["="]
+        onTriggered: commands.stage.zoom(1)
+    }
+    readonly property Command zoomOut: Command {
+        text: "−"
+        hint: qsTr("Zoom out")
+        shortcut: "-"
+        onTriggered: commands.stage.zoom(-1)
+    }
+    readonly property Command fit: Command {
+        text: qsTr("Fit")
+        hint: qsTr("Whole picture")
+        shortcut: "Ctrl+0"
+        onTriggered: commands.stage.fit()
+    }
+    readonly property Command actualSize: Command {
+        text: "1:1"
+        hint: qsTr("Picture pixels")
+        shortcut: "Ctrl+1"
+        onTriggered: commands.stage.actualSize()
+    }
+    readonly property Command keys: Command {
+        text: "?"
+        hint: qsTr("List of keys")
+        shortcut: "F1"
+        onTriggered: commands.keysRequested()
+    }
+
+    // In the order of the list of keys; the kinds follow, under their numbers.
+    readonly property var all: [open, save, copy, previous, next, undo, redo, giveUp, dropLastPoint,
+                                unit, zoomIn, zoomOut, fit, actualSize, keys]
+    // What the list of keys says: [keys, text].
+    readonly property var keyRows: {
+        const rows = all.map(command => [command.keyText, command.hint])
+        for (let i = 0; i < kindCommands.count; ++i) {
+            const command = kindCommands.objectAt(i)
+            if (command)
+                rows.push([command.keyText, command.text])
+        }
+        return rows.concat([
+            // The stage itself listens to these.
+            [qsTr("H"), qsTr("Hide the overlay while held")],
+            [qsTr("Arrows"), qsTr("Move the selected point by a pixel, or pan")],
+            [qsTr("Shift+Arrows"), qsTr("The same by ten")]
+        ])
+    }
+
+    Instantiator {
+        id: kindCommands
+        model: Viewer.kinds
+        Command {
+            text: model.title
+            shortcut: String(index + 1)
+            onTriggered: Viewer.editor.chooseKindAt(index)
+        }
+    }
+    Instantiator {
+        model: commands.all.filter(command => command.otherKeys.length > 0)
+        Shortcut {
+            sequences: modelData.otherKeys
+            enabled: modelData.enabled
+            onActivated: modelData.trigger()
+        }
+    }
+}

@@ -1,0 +1,204 @@
+#include "measuring/Editing.h"
+
+#include "measuring/PipeView.h"
+
+#include "zalento/measure/measureLine.h"
+#include "zalento/pipes/Pipe.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Drevon::Zalento::Measuring {
+
+namespace {
+
+constexpr double fractionPerPercent = 0.01;
+constexpr double percentPerOne = 100.0;
+constexpr double mmPerM = 1000.0;
+
+bool allHavePositions(const Session &session)
+{
+    return std::all_of(session.points.begin(), session.points.end(),
+                       [](const SessionPoint &point) { return point.position.has_value(); });
+}
+
+// As the item adds what was picked: on the plane near the first point the outline closes.
+void addPicked(Pipe &pipe, const Vec3 &picked)
+{
+    if (pipe.measureMode == MeasureMode::CrossSection) {
+        pipe.addPlanePoint(picked);
+    } else {
+        pipe.hitPoints.emplace_back(picked);
+    }
+}
+
+// Adds to the points of the view's pipe, which are the session's.
+ClickResult clickOn(PipeView &view, Session &session, const QPointF &pixel)
+{
+    const std::optional<Vec3> picked = view.pick(pixel);
+    if (!picked) {
+        return ClickResult::Missed;
+    }
+    Pipe &pipe = view.pipe();
+    const std::size_t before = pipe.hitPoints.size();
+    addPicked(pipe, *picked);
+    const bool isRestarted = pipe.hitPoints.size() < before;
+    if (isRestarted) {
+        session.points.clear();
+    }
+    session.points.append({pixel, pipe.hitPoints.back().position, {}});
+    return isRestarted ? ClickResult::Restarted : ClickResult::Added;
+}
+
+// The pipe with the scale that the session's calibration text has for its diameter.
+void readCalibration(const Session &session, Pipe &pipe)
+{
+    pipe.laserDistance = 0.0;
+    pipe.diameterMM = session.diameterMM;
+    pipe.setCameraCrackIni(session.calibrationText.toStdString());
+    pipe.parseIniFile();
+}
+
+} // namespace
+
+ClickResult clickPoint(Session &session, const QPointF &pixel)
+{
+    if (!infoOf(session.kind).has(Uses::Points)) {
+        return ClickResult::Missed;
+    }
+    PipeView view(session);
+    return clickOn(view, session, pixel);
+}
+
+QVector<QPointF> placePoints(Session &session)
+{
+    QVector<QPointF> missed;
+    if (!infoOf(session.kind).has(Uses::Points) || allHavePositions(session)) {
+        return missed;
+    }
+    const QVector<SessionPoint> points = session.points;
+    session.points.clear();
+    PipeView view(session);
+    for (const SessionPoint &point : points) {
+        if (point.position) {
+            view.pipe().hitPoints.emplace_back(*point.position);
+            session.points += point;
+        } else if (clickOn(view, session, point.pixel) == ClickResult::Missed) {
+            missed += point.pixel;
+        } else {
+            session.points.last().unknownFields = point.unknownFields;
+        }
+    }
+    return missed;
+}
+
+bool movePoint(Session &session, int index, const QPointF &pixel)
+{
+    if (index < 0 || index >= session.points.size()) {
+        return false;
+    }
+    const std::optional<Vec3> position = PipeView(session).pick(pixel);
+    if (!position) {
+        return false;
+    }
+    const int last = session.points.size() - 1;
+    const bool isSeam = isClosedOutline(session) && (index == 0 || index == last);
+    for (const int moved : {index, isSeam ? last - index : index}) {
+        session.points[moved].pixel = pixel;
+        session.points[moved].position = position;
+    }
+    return true;
+}
+
+void pickPointsAnew(Session &session)
+{
+    const bool isClosed = isClosedOutline(session);
+    const PipeView view(session);
+    for (SessionPoint &point : session.points) {
+        if (const std::optional<Vec3> position = view.pick(point.pixel)) {
+            point.position = position;
+        }
+    }
+    if (isClosed) {
+        session.points.last().pixel = session.points.first().pixel;
+        session.points.last().position = session.points.first().position;
+    }
+}
+
+void changePercentage(Session &session, double percent)
+{
+    session.percentage = percent;
+    if (session.kind != Kind::CrossSection || !allHavePositions(session)) {
+        return;
+    }
+    PipeView view(session);
+    view.pipe().setCrossSectDistancePercent(percent * fractionPerPercent);
+    for (int i = 0; i < session.points.size(); ++i) {
+        // The sign of zero is not kept in files.
+        session.points[i].position->z =
+            view.pipe().hitPoints[static_cast<std::size_t>(i)].position.z + 0.0;
+    }
+}
+
+std::optional<double> waterLevelAt(const Session &session, const QPointF &pixel)
+{
+    const std::optional<Vec3> surface = PipeView(session).pickWall(pixel);
+    if (!surface) {
+        return std::nullopt;
+    }
+    const double heightMM = surface->y * mmPerM;
+    return std::clamp((heightMM / session.diameterMM + 0.5) * percentPerOne, 0.0, percentPerOne);
+}
+
+Result<double> laserScale(const Session &session, const QPointF &first, const QPointF &second)
+{
+    Session calibration = session;
+    calibration.kind = Kind::CrackWidth;
+    calibration.points.clear();
+    PipeView view(calibration);
+    Pipe &pipe = view.pipe();
+    readCalibration(session, pipe);
+    pipe.laserScale = 0.0;
+    for (const QPointF &spot : {first, second}) {
+        if (const std::optional<Vec3> place = view.pick(spot)) {
+            pipe.hitPoints.emplace_back(*place);
+        }
+    }
+    const double distanceMM = pipe.laserDistance;
+    pipe.calibrateLaser(0.0);
+    if (!(distanceMM > 0.0)) {
+        return Problem{{}, QStringLiteral("the calibration names no distance of the laser spots")};
+    }
+    if (!(pipe.laserScale > 0.0)) {
+        return Problem{{}, QStringLiteral("the two laser spots are the same pixel")};
+    }
+    if (const Outcome problem = checkNumber(QStringLiteral("mmPerPixel"), pipe.laserScale,
+                                            smallestMMPerPixel, largestMMPerPixel)) {
+        return *problem;
+    }
+    return pipe.laserScale;
+}
+
+std::optional<double> scaleOf(const Session &session)
+{
+    if (session.mmPerPixel) {
+        return session.mmPerPixel;
+    }
+    Pipe pipe;
+    readCalibration(session, pipe);
+    return std::isfinite(pipe.laserScale) && pipe.laserScale > 0.0
+               ? std::optional<double>(pipe.laserScale)
+               : std::nullopt;
+}
+
+bool isClosedOutline(const Session &session)
+{
+    if (session.points.isEmpty() || !allHavePositions(session)) {
+        return false;
+    }
+    return isClosedPolygon(*session.points.first().position, *session.points.last().position,
+                           static_cast<std::size_t>(session.points.size()),
+                           infoOf(session.kind).mode);
+}
+
+} // namespace Drevon::Zalento::Measuring

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "measuring/Export.h"
+#include "measuring/Result.h"
+#include "measuring/Session.h"
+
+#include <QPointF>
+#include <QVector>
+
+#include <optional>
+
+/**
+ * @file
+ * What an operator does to a session: functions of the session alone, without an item. Pixels are
+ * those of the upright picture, whose size the session has to know.
+ */
+namespace Drevon::Zalento::Measuring {
+
+/** What a click did to the points. */
+enum class ClickResult {
+    Added,
+    Restarted, ///< the polygon was closed: the point starts a new one
+    Missed,    ///< nothing is there, or the kind takes no points
+};
+
+/** Adds the point that a click means; a cross-section closes when it lies near the first one. */
+ZALENTO_MEASURING_EXPORT ClickResult clickPoint(Session &session, const QPointF &pixel);
+
+/**
+ * Clicks the points that have no position yet, in their order.
+ * @return the pixels of those that met nothing; they are no longer in the session
+ */
+ZALENTO_MEASURING_EXPORT QVector<QPointF> placePoints(Session &session);
+
+/**
+ * Moves a point to where a click at @p pixel lies; the point where a polygon starts and ends moves
+ * as one.
+ * @return false, and nothing changed, when there is no such point or nothing at the pixel
+ */
+ZALENTO_MEASURING_EXPORT bool movePoint(Session &session, int index, const QPointF &pixel);
+
+/**
+ * Looks the points up where they were clicked, for a session whose alignment has changed. One that
+ * meets nothing there keeps its place on the model.
+ */
+ZALENTO_MEASURING_EXPORT void pickPointsAnew(Session &session);
+
+/** Sets the percentage; a cross-section's points move with its plane. */
+ZALENTO_MEASURING_EXPORT void changePercentage(Session &session, double percent);
+
+/** The water level in percent whose surface meets the wall at @p pixel; nothing on a miss. */
+ZALENTO_MEASURING_EXPORT std::optional<double> waterLevelAt(const Session &session,
+                                                            const QPointF &pixel);
+
+/**
+ * The scale that two clicks on the camera's laser spots give, in mm per pixel, with the distance
+ * that the session's calibration text names.
+ */
+ZALENTO_MEASURING_EXPORT Result<double> laserScale(const Session &session, const QPointF &first,
+                                                   const QPointF &second);
+
+/** Millimetres per picture pixel: those of the session, else those of its calibration text. */
+ZALENTO_MEASURING_EXPORT std::optional<double> scaleOf(const Session &session);
+
+/** True when the points are a closed outline. */
+ZALENTO_MEASURING_EXPORT bool isClosedOutline(const Session &session);
+
+} // namespace Drevon::Zalento::Measuring
