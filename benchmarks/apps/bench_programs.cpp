@@ -133,7 +133,7 @@ void points(benchmark::State &state)
     const QTemporaryDir folder;
     Result<Session> session = loadSession(QString(sample) + sessionSuffix);
     require(bool(session), "session of the sample");
-    session->kind = "PipeDimension";
+    session->kind = Kind::PipeDimension;
     session->points.clear();
     const QPointF middle(session->picture.size.width() / 2.0, session->picture.size.height() / 2.0);
     for (int i = 0; i < count; ++i) {

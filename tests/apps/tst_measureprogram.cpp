@@ -64,7 +64,7 @@ struct Run
 
 // The redirection is the shell's: ">&-" closes the output.
 Run start(const QStringList &arguments, const QStringList &environment = {},
-              const QString &redirection = {}, const Fault &fault = {})
+          const QString &redirection = {}, const Fault &fault = {})
 {
     Program process(fault);
     QStringList variables = QProcess::systemEnvironment();
@@ -165,8 +165,7 @@ void TestMeasureProgram::failedSavesKeepTheOldFiles()
     const QFile::Permissions readable(0x5555); // everybody enters and reads
     QVERIFY(QFile::setPermissions(dir.path(),
                                   fault.isReadOnly ? readable : readable | QFile::WriteOwner));
-    const Run outcome =
-        start(water + QStringList{"--roll", "9", "--force"} + files, {}, {}, fault);
+    const Run outcome = start(water + QStringList{"--roll", "9", "--force"} + files, {}, {}, fault);
     QVERIFY(QFile::setPermissions(dir.path(), readable | QFile::WriteOwner));
     QCOMPARE(outcome.code, 3);
     QCOMPARE(outcome.output, picture.toUtf8() + ": waterLevel 13 % (12.5 %)\n");

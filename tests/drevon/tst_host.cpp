@@ -62,19 +62,6 @@ private slots:
         QCOMPARE(announced, QVector<Record>({record, record, {}}));
         disconnect(connection);
     }
-
-    void fieldsAndColumns()
-    {
-        CDomainObject record;
-        QVERIFY(!record.readValue("OBJ_Size1").isValid());
-        record.writeValue("OBJ_Size1", 300);
-        record.writeValue("OBJ_Size1", "12");
-        QCOMPARE(record.readValue("OBJ_Size1"), QVariant("12"));
-        QVERIFY(!record.readValue("obj_size1").isValid());
-        QVERIFY(CLocaleSupport::catalogTemplateColumnUnit("OBJ_Size1").isEmpty());
-        CLocaleSupport::setCatalogTemplateColumnUnit("OBJ_Size1", "inch");
-        QCOMPARE(CLocaleSupport::catalogTemplateColumnUnit("OBJ_Size1"), QString("inch"));
-    }
 };
 
 QTEST_APPLESS_MAIN(TestHost)

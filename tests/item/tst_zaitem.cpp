@@ -65,18 +65,6 @@ Record recordOf(const QVariant &size)
     return record;
 }
 
-using View = std::function<void(ZaItem &)>;
-
-/** A click travels through single precision: 2e-6 m, at up to 2000 pixels a metre. */
-constexpr Tolerance clickTolerance{0.05, "px"};
-
-void paintOnce(ZaItem &item)
-{
-    QImage image(item.size().toSize(), QImage::Format_ARGB32_Premultiplied);
-    QPainter painter(&image);
-    item.paint(&painter);
-}
-
 /** Every signal of an item's own, by declaration, with its arguments. */
 class SignalLog
 {
@@ -126,8 +114,6 @@ QString described(const QMetaProperty &property)
 
 } // namespace
 
-Q_DECLARE_METATYPE(View)
-
 class TestZaItem : public TestCase
 {
     Q_OBJECT
@@ -155,15 +141,9 @@ private slots:
     void record();
     void itemsShareTheDiameter();
 
-    void layout();
-    void clickedPixel_data();
-    void clickedPixel();
-    void pointIsDrawnWhereItWasClicked_data();
-    void pointIsDrawnWhereItWasClicked();
     void pointListIsReported();
     void clicksReachTheStraightPipeOnly();
     void unresolvableClicksAreMisses();
-    void calibration();
     void pictureUrl();
 };
 
@@ -509,92 +489,6 @@ void TestZaItem::itemsShareTheDiameter()
     QCOMPARE(changed.count(), 1);
 }
 
-void TestZaItem::layout()
-{
-    const std::pair<QSizeF, QRectF> layouts[] = {{{800, 600}, {100, 0, 600, 600}},
-                                                 {{600, 800}, {0, 100, 600, 600}},
-                                                 {{101, 100}, {0.5, 0, 100, 100}}};
-    for (const auto &[size, viewport] : layouts) {
-        ZaItem item;
-        item.setSize(size);
-        for (const PipeBase *object : objectsOf(item)) {
-            QCOMPARE(object->camera.viewport, viewport);
-        }
-    }
-}
-
-void TestZaItem::clickedPixel_data()
-{
-    QTest::addColumn<QPointF>("position");
-    QTest::addColumn<QPoint>("pixel");
-    QTest::newRow("fractions are dropped") << QPointF(100.9, 50.2) << QPoint(0, 50);
-    QTest::newRow("towards zero left of the area") << QPointF(99.1, -0.9) << QPoint(0, 0);
-    QTest::newRow("left of the area") << QPointF(98.9, 600) << QPoint(-1, 600);
-}
-
-void TestZaItem::clickedPixel()
-{
-    QFETCH(QPointF, position);
-    QFETCH(QPoint, pixel);
-    ZaItem item;
-    setSize(item, 800, 600);
-    QCOMPARE(item.calculatePos(position.x(), position.y()), pixel);
-    item.setiWantToMeasure("CrackWidth");
-    item.mouseClick(position.x(), position.y());
-    COMPARE_EXACT(pipeOf(item).hitPoints.at(0).position,
-                  Vec3(pixel.x() / 600.0, pixel.y() / 600.0, 0));
-}
-
-void TestZaItem::pointIsDrawnWhereItWasClicked_data()
-{
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<View>("view");
-    const std::vector<std::pair<const char *, View>> views{
-        {"as it comes", [](ZaItem &) {}},
-        {"low camera, wide angle",
-         [](ZaItem &item) {
-             item.setCameraHeight(30);
-             item.setFovDeg(60);
-         }},
-        {"shifted and rolled", [](ZaItem &item) { item.moveScaleRotate(30, 10, 1, 25); }},
-        {"far end moved both ways",
-         [](ZaItem &item) {
-             item.setRearCircleActive(true);
-             item.move(40, 0);
-             item.setCameraHeight(60);
-         }},
-        {"far end moved beyond the mouth",
-         [](ZaItem &item) {
-             item.setRearCircleActive(true);
-             item.move(-90, 0);
-             item.rotate(-30);
-         }},
-    };
-    for (const char *kind : {"CrossSection", "PipeDimension", "CrackWidth"}) {
-        for (const auto &[name, view] : views) {
-            QTest::addRow("%s, %s", kind, name) << QString(kind) << view;
-        }
-    }
-}
-
-void TestZaItem::pointIsDrawnWhereItWasClicked()
-{
-    QFETCH(QString, kind);
-    QFETCH(View, view);
-    ZaItem item;
-    setSize(item, 800, 600);
-    item.setiWantToMeasure(kind);
-    item.setPercentage(30);
-    view(item);
-    paintOnce(item);
-    item.mouseClick(330, 200);
-    paintOnce(item);
-    const std::vector<HitPoint> &points = pipeOf(item).hitPoints;
-    QCOMPARE(points.size(), std::size_t(1));
-    const double pixelCentre = kind == "CrackWidth" ? 0.0 : 0.5;
-    COMPARE_NEAR(points[0].screenPos, Vec2(330 + pixelCentre, 200 + pixelCentre), clickTolerance);
-}
-
 void TestZaItem::pointListIsReported()
 {
     ZaItem item;
@@ -646,22 +540,6 @@ void TestZaItem::unresolvableClicksAreMisses()
         item.mouseClick(300, 50);
         QVERIFY2(pipeOf(item).hitPoints.size() == 1, kind);
     }
-}
-
-void TestZaItem::calibration()
-{
-    ZaItem item;
-    setSize(item, 600, 600);
-    item.setiWantToMeasure("CrackWidth");
-    item.requestCameraCalibration(0.25);
-    QCOMPARE(pipeOf(item).laserScale, 0.25);
-    item.requestCameraCalibration(notANumber);
-    QCOMPARE(pipeOf(item).laserScale, 0.25);
-    item.mouseClick(100, 300);
-    item.mouseClick(500, 300);
-    QVERIFY(QMetaObject::invokeMethod(&item, "requestCameraCalibration"));
-    QVERIFY(pipeOf(item).hitPoints.empty());
-    QCOMPARE(pipeOf(item).laserScale, 50.0 / 400); // the spots lie 50 mm apart
 }
 
 void TestZaItem::pictureUrl()

@@ -193,27 +193,6 @@ private slots:
         QCOMPARE(painter.brush(), brush);
     }
 
-    void drawString()
-    {
-        for (const double lineOffset : {0.0, 1.0, -0.5}) {
-            PaintRecorder recorder;
-            QPainter painter(&recorder);
-            painter.setPen(penBefore);
-            painter.setFont(QFont("DejaVu Sans", 17));
-            MiniGL().drawString(painter, "12,5 gy", QPointF(100.25, 50.5), lineOffset, Qt::red,
-                                QColor(0, 0, 0, 180));
-            const QVector<PaintCall> &calls = recorder.calls();
-            QCOMPARE(calls.size(), 2);
-            QCOMPARE(labelFaults(calls[0], calls[1], QPointF(100.25, 50.5), lineOffset),
-                     QByteArray());
-            QCOMPARE(calls[0].brush, QBrush(QColor(0, 0, 0, 180)));
-            QCOMPARE(calls[1].text, QString("12,5 gy"));
-            QCOMPARE(penName(calls[1].pen), QString("red 1"));
-            QCOMPARE(calls[1].font, painter.font());
-            QCOMPARE(painter.pen(), penBefore);
-        }
-    }
-
     void survivesEveryCoordinate_data()
     {
         QTest::addColumn<Vec2>("position");

@@ -29,12 +29,10 @@ class TestUnitConv : public TestCase
 
 private slots:
     void cleanup();
-    void convertsStepByStep();
     void convertsToInt_data();
     void convertsToInt();
     void lengthText_data();
     void lengthText();
-    void shortForms();
     void areaText_data();
     void areaText();
     void decimalMarks();
@@ -48,21 +46,6 @@ void TestUnitConv::cleanup()
 {
     UnitConv::decimalSeparator = '.';
     TestCase::cleanup();
-}
-
-void TestUnitConv::convertsStepByStep()
-{
-    // Values at which one combined factor rounds differently.
-    QVERIFY(1000.0 / 25.4 / 12.0 != 1000.0 / (25.4 * 12.0));
-    QVERIFY(1.5e6 / 645.16 / 144.0 != 1.5e6 / (645.16 * 144.0));
-    COMPARE_EXACT(UnitConv::mmToft(1000.0), 1000.0 / 25.4 / 12.0);
-    COMPARE_EXACT(UnitConv::mm2Toft2(1.5e6), 1.5e6 / 645.16 / 144.0);
-    COMPARE_EXACT(UnitConv::mmToInch(0.3), 0.3 / 25.4);
-    COMPARE_EXACT(UnitConv::inchTomm(0.3), 0.3 * 25.4);
-    for (int i = 1; i < 100; ++i) {
-        const double ft = i / 7.0;
-        COMPARE_EXACT(UnitConv::ftTom(ft), ft * 12.0 * 25.4 * 0.001);
-    }
 }
 
 void TestUnitConv::convertsToInt_data()
@@ -147,14 +130,6 @@ void TestUnitConv::lengthText()
     QCOMPARE(UnitConv::lenStr(mm, unit, large, true, small), expected);
     const int numberEnd = expected.indexOf(unit == metric ? ' ' : '\'');
     QCOMPARE(UnitConv::lenStr(mm, unit, large, false, small), expected.left(numberEnd));
-}
-
-void TestUnitConv::shortForms()
-{
-    QCOMPARE(UnitConv::lenStr(2500, metric), QString("2.500 m"));
-    QCOMPARE(UnitConv::lenStr(45, imperial), QString("1.77''"));
-    QCOMPARE(UnitConv::mmOrInchStr(2500, metric), QString("2500 mm"));
-    QCOMPARE(UnitConv::mmOrInchStr(2540, imperial), QString("100.00''"));
 }
 
 void TestUnitConv::areaText_data()
