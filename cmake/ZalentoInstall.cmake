@@ -11,9 +11,13 @@ install(TARGETS ${installed_targets} EXPORT ZalentoTargets
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+# Headers that only our own sources include stay at home.
+set(internal_headers CLocale.h CompletePicture.h MarkerPens.h ModelViewScope.h PainterPens.h
+  clearVectorRegisters.h squaredDistance.h truncatedRect.h)
+list(TRANSFORM internal_headers REPLACE "(.+)" "PATTERN;\\1;EXCLUDE")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/zalento" "${PROJECT_SOURCE_DIR}/src/measuring"
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
-  FILES_MATCHING PATTERN "*.h")
+  FILES_MATCHING PATTERN "*.h" ${internal_headers})
 if(NOT ZALENTO_HOST_TARGET)
   install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/drevon" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
     FILES_MATCHING PATTERN "*.h")

@@ -1,7 +1,7 @@
 // The programs as processes, from their start to their end: the time that passes, the processor's
 // time, and the most memory that one of them holds.
-#include "measuring/SessionFile.h"
 #include "measuring/Replay.h"
+#include "measuring/SessionFile.h"
 #include "support/PaintRecorder.h"
 #include "support/require.h"
 #include "zalento/item/ZaItem.h"

@@ -1,5 +1,7 @@
-// Uses a header of every kind: inline arithmetic, a compiled class, the item and the host's part.
+// Uses a header of every kind: inline arithmetic, a compiled class, the item, the host's part, and
+// the measuring library.
 #include "drevon/AppState.h"
+#include "measuring/Measurement.h"
 #include "zalento/item/ZaItem.h"
 #include "zalento/math/Vec3.h"
 
@@ -17,5 +19,10 @@ int main(int argc, char **argv)
     Zalento::ZaItem item;
     const bool diameterTaken = item.property("diameter").toDouble() == 450.0;
     const bool vectorsWork = Zalento::Vec3(3, 4, 0).length() == 5;
-    return diameterTaken && vectorsWork ? 0 : 1;
+    Zalento::Measuring::Session session;
+    session.kind = Zalento::Measuring::Kind::WaterLevel;
+    session.percentage = 25;
+    const auto measured = Zalento::Measuring::measure(session);
+    const bool measures = measured.values.size() == 1 && measured.values[0].number == 25;
+    return diameterTaken && vectorsWork && measures ? 0 : 1;
 }

@@ -1,5 +1,6 @@
 # Fails when the sources under ROOT break the order of the folders: cmake -DROOT=... -P this file.
 # - A folder of src/zalento includes itself and those below it; Qt Quick belongs to item/ alone.
+# - src/measuring stands above them and includes nothing of the programs.
 # - Every header stands in a CMakeLists.txt.
 cmake_minimum_required(VERSION 3.25)
 
@@ -37,6 +38,17 @@ foreach(folder IN LISTS folders)
         endif()
       endif()
     endforeach()
+  endforeach()
+endforeach()
+
+file(GLOB_RECURSE sources RELATIVE "${source_dir}"
+  "${source_dir}/measuring/*.h" "${source_dir}/measuring/*.cpp")
+foreach(source IN LISTS sources)
+  file(STRINGS "${source_dir}/${source}" includes REGEX "^[ \t]*#[ \t]*include")
+  foreach(include IN LISTS includes)
+    if(include MATCHES "[<\"](\\.\\./|apps/|measure/|viewer/|QtQuickControls|QtWidgets|QApplication|QWidget)")
+      list(APPEND faults "${source} includes what stands above it: ${include}")
+    endif()
   endforeach()
 endforeach()
 

@@ -14,11 +14,6 @@ constexpr double arcToleranceSq = 0.0001;
 // The bracket on a straight line shrinks to 1e-6 m; in m².
 constexpr double straightToleranceSq = 1e-12;
 
-double squaredDistance(const Vec3 &a, const Vec3 &b)
-{
-    return (a - b).lengthSquared();
-}
-
 Vec3 normalized(Vec3 v)
 {
     v.normalize();
@@ -35,7 +30,7 @@ public:
 
     bool isDone(const Vec3 &inside, const Vec3 &outside)
     {
-        const double lengthSq = squaredDistance(inside, outside);
+        const double lengthSq = (inside - outside).lengthSquared();
         const bool shrinks = std::isfinite(lengthSq) && lengthSq < m_lastLengthSq;
         m_lastLengthSq = lengthSq;
         return lengthSq < m_toleranceSq || !shrinks;
@@ -118,7 +113,7 @@ void Cylinder::findExactIntersection(const Vec3 &inside, Vec3 &outside, const Ve
 {
     const Vec3 center = outside + radiusM * normalized(0.5 * (inside + neighbour) - outside);
     Vec3 in = inside;
-    Bracket bracket(arcToleranceSq * squaredDistance(inside, outside));
+    Bracket bracket(arcToleranceSq * (inside - outside).lengthSquared());
     do {
         const Vec3 mid = center + radiusM * normalized(0.5 * (in + outside) - center);
         if (other.pointIsInside(mid)) {

@@ -2,6 +2,7 @@
 #include "zalento/geometry/Cylinder.h"
 
 #include "zalento/math/angles.h"
+#include "zalento/math/squaredDistance.h"
 
 #include <drevon/Utils3d.h>
 
@@ -24,11 +25,6 @@ QVector3D toSinglePrecision(const Vec3 &v)
     return {static_cast<float>(v.x), static_cast<float>(v.y), static_cast<float>(v.z)};
 }
 
-double squaredDistance(const Vec2 &a, double x, double y)
-{
-    return (a.x - x) * (a.x - x) + (a.y - y) * (a.y - y);
-}
-
 } // namespace
 
 Vec3 Cylinder::nearestVertices(QPoint pixel) const
@@ -37,7 +33,7 @@ Vec3 Cylinder::nearestVertices(QPoint pixel) const
     double best = std::numeric_limits<double>::max();
     for (std::size_t i = 0; i < screenVertices.size(); ++i) {
         for (std::size_t j = 0; j < screenVertices[i].size(); ++j) {
-            const double d = squaredDistance(screenVertices[i][j], pixel.x(), pixel.y());
+            const double d = squaredDistance(screenVertices[i][j], placeOf(pixel));
             if (d < best) {
                 best = d;
                 result = vertices[i][j];
@@ -52,7 +48,7 @@ void Cylinder::closestIndex(int ring1, int index1, int ring2, int index2, const 
 {
     const auto distanceTo = [&](int r, int i) {
         return squaredDistance(
-            screenVertices[static_cast<std::size_t>(r)][static_cast<std::size_t>(i)], p.x, p.y);
+            screenVertices[static_cast<std::size_t>(r)][static_cast<std::size_t>(i)], p);
     };
     const double d1 = distanceTo(ring1, index1);
     const double d2 = distanceTo(ring2, index2);

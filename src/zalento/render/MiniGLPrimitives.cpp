@@ -1,4 +1,5 @@
 // Points, lines, outlines and labels.
+#include "zalento/math/squaredDistance.h"
 #include "zalento/math/truncateToInt.h"
 #include "zalento/render/MiniGL.h"
 #include "zalento/render/PainterPens.h"
@@ -75,11 +76,6 @@ void drawOutlineSegment(QPainter &p, const Vec2 &a, const Vec2 &b, const Vec2 &m
     if (markPoints) {
         p.drawEllipse(integerCircleBox(mark, pointMarkRadiusPx));
     }
-}
-
-double squaredDistance(const Vec2 &a, const Vec2 &b)
-{
-    return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y);
 }
 
 bool isSame(const Vec2 &a, const Vec2 &b)
