@@ -34,7 +34,6 @@ class TestCommandLine : public TestCase
 private slots:
     void refusesWrongUsage_data();
     void refusesWrongUsage();
-    void understandsWhatToDo();
     void optionsReachTheSession();
     void whatIsLeftOutStays();
     void laserSpotsAreTwoWordsOrOne();
@@ -87,29 +86,6 @@ void TestCommandLine::refusesWrongUsage()
     QVERIFY(!outcome.command);
     QVERIFY(outcome.isProblem);
     QVERIFY2(outcome.text.contains(expected), qPrintable(outcome.text));
-}
-
-void TestCommandLine::understandsWhatToDo()
-{
-    const auto command = parseCommandLine(
-        words("measure a.png - --recursive --session s.json --format jsonl --overlay both "
-              "--save-session --output out --force dir --calibration c.ini"));
-    QVERIFY2(command.command, qPrintable(command.text));
-    const CommandLine &all = *command.command;
-    QCOMPARE(all.inputs, words("a.png - dir"));
-    QVERIFY(all.recursive && all.writesPng && all.writesSvg && all.savesSession && all.overwrites);
-    QCOMPARE(all.sessionFile, QStringLiteral("s.json"));
-    QCOMPARE(all.outputFolder, QStringLiteral("out"));
-    QCOMPARE(all.calibrationFile, QStringLiteral("c.ini"));
-    QCOMPARE(all.format, Format::JsonLines);
-
-    const CommandLine plain = *parseCommandLine(words("measure a.png")).command;
-    QVERIFY(!plain.recursive && !plain.writesPng && !plain.writesSvg && !plain.overwrites);
-    QCOMPARE(plain.format, Format::Text);
-    QVERIFY(parseCommandLine(words("render a.png")).command->writesPng);
-    const CommandLine vector = *parseCommandLine(words("render --overlay svg a.png")).command;
-    QVERIFY(vector.writesSvg && !vector.writesPng);
-    QCOMPARE(parseCommandLine(words("kinds --format csv")).command->verb, Verb::Kinds);
 }
 
 void TestCommandLine::optionsReachTheSession()

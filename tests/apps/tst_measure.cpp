@@ -37,7 +37,6 @@ private slots:
     void writesOverlays();
     void keepsWhatALaterVersionWrote();
     void anotherPictureIsNotOverwritten();
-    void optionsMoveTheSessionsPlane();
     void foldersAreSorted();
     void namesComeFromTheInput();
 
@@ -245,20 +244,6 @@ void TestMeasure::anotherPictureIsNotOverwritten()
     QCOMPARE(outcome.code, int(AllMeasured));
     QVERIFY(readBytes(path("out/a.png.zalento.json")).contains(sha256Of(path("a.png"))));
     QVERIFY(readBytes(path("out/a.png.zalento.json")).contains("\"../a.png\""));
-}
-
-void TestMeasure::optionsMoveTheSessionsPlane()
-{
-    QCOMPARE(runProgram(words("measure --save-session a.png --kind CrossSection --diameter 200 "
-                              "--percentage 10 --click 25,20 --click 40,20"))
-                 .code,
-             0);
-    const Run moved =
-        runProgram(words("measure --percentage 20 --save-session --output out a.png"));
-    QCOMPARE(moved.code, int(AllMeasured));
-    const auto session = loadSession(path("out/a.png.zalento.json"));
-    QVERIFY(session);
-    QCOMPARE(session->points[1].position->z, -0.4);
 }
 
 void TestMeasure::foldersAreSorted()

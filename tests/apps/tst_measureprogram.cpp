@@ -94,9 +94,6 @@ class TestMeasureProgram : public TestCase
 private slots:
     void surroundingsChangeNothing_data();
     void surroundingsChangeNothing();
-    void warnsOfMissingFonts();
-    void failedSavesKeepTheOldFiles_data();
-    void failedSavesKeepTheOldFiles();
     void noticesStreamsThatFail_data();
     void noticesStreamsThatFail();
     void exitsAsToldByUsage();
@@ -129,48 +126,6 @@ void TestMeasureProgram::surroundingsChangeNothing()
     QCOMPARE(outcome.messages.count('\n'), 2);
     QCOMPARE(outcome.messages.count("zalento-measure: wrote "), 2);
     QCOMPARE(folderState(dir.path()), files);
-}
-
-void TestMeasureProgram::warnsOfMissingFonts()
-{
-    const QTemporaryDir dir;
-    const QString fonts = dir.filePath(QStringLiteral("fonts.conf"));
-    QVERIFY(writeBytes(fonts, "<fontconfig></fontconfig>"));
-    const QString picture = dir.filePath(QStringLiteral("a.png"));
-    QVERIFY(greyPicture(QSize(64, 48)).save(picture));
-    const Run outcome =
-        start(water + QStringList{"--overlay", "png", picture}, {"FONTCONFIG_FILE=" + fonts});
-    QCOMPARE(outcome.code, 0);
-    QVERIFY2(outcome.messages.startsWith("zalento-measure: warning: there is no font"),
-             outcome.messages);
-}
-
-void TestMeasureProgram::failedSavesKeepTheOldFiles_data()
-{
-    QTest::addColumn<Fault>("fault");
-    QTest::newRow("disk full") << Fault{0, false, false};
-    QTest::newRow("disk full after some bytes") << Fault{100, false, false};
-    QTest::newRow("folder that is read only") << Fault{noLimit, false, true};
-}
-
-void TestMeasureProgram::failedSavesKeepTheOldFiles()
-{
-    QFETCH(Fault, fault);
-    const QTemporaryDir dir;
-    const QString picture = dir.filePath(QStringLiteral("a.png"));
-    QVERIFY(greyPicture(QSize(64, 48)).save(picture));
-    const QStringList files{"--save-session", "--overlay", "both", picture};
-    QCOMPARE(start(water + files).code, 0);
-    const QByteArray before = folderState(dir.path());
-    const QFile::Permissions readable(0x5555); // everybody enters and reads
-    QVERIFY(QFile::setPermissions(dir.path(),
-                                  fault.isReadOnly ? readable : readable | QFile::WriteOwner));
-    const Run outcome = start(water + QStringList{"--roll", "9", "--force"} + files, {}, {}, fault);
-    QVERIFY(QFile::setPermissions(dir.path(), readable | QFile::WriteOwner));
-    QCOMPARE(outcome.code, 3);
-    QCOMPARE(outcome.output, picture.toUtf8() + ": waterLevel 13 % (12.5 %)\n");
-    QCOMPARE(outcome.messages.count("cannot be written: "), 3);
-    QCOMPARE(folderState(dir.path()), before);
 }
 
 void TestMeasureProgram::noticesStreamsThatFail_data()

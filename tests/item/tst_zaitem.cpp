@@ -128,8 +128,6 @@ private slots:
     void control_data();
     void control();
     void notANumberChangesNothing();
-    void controlsReachTheObjects();
-    void percentageReachesTheObjects();
     void rearCircleTakesOverTwoControls();
     void measuresAreThoseOfTheStraightPipeOnView();
 
@@ -143,8 +141,6 @@ private slots:
 
     void pointListIsReported();
     void clicksReachTheStraightPipeOnly();
-    void unresolvableClicksAreMisses();
-    void pictureUrl();
 };
 
 void TestZaItem::init()
@@ -302,53 +298,6 @@ void TestZaItem::notANumberChangesNothing()
         item.setProperty(property, notANumber);
         QVERIFY2(item.property(property) == before && log.take().isEmpty(), property);
     }
-}
-
-void TestZaItem::controlsReachTheObjects()
-{
-    ZaItem item;
-    item.setDiameter(450);
-    item.setCameraHeight(30);
-    item.setRearCircleActive(true);
-    item.setFovDeg(60);
-    item.setAngle(62);
-    item.setClock(std::numeric_limits<int>::max());
-    item.setViewDownstream(false);
-    for (const PipeBase *object : objectsOf(item)) {
-        QCOMPARE(object->diameterMM, 450.0);
-        QCOMPARE(object->cameraHeight, 0.3);
-        QVERIFY(object->rearCircleActive);
-        QCOMPARE(object->camera.fovYDEG, 60.0);
-        QCOMPARE(object->clockDeg, object == &pipeOf(item) ? 0.0 : 2147483737.0);
-    }
-    QCOMPARE(pipeOf(item).getDiameterM(), 0.45);
-    QCOMPARE(objectOf(item, 1).getDiameterM(), 0.45);
-    QCOMPARE(objectOf(item, 2).diameterM, 0.45);
-    QCOMPARE(objectOf(item, 3).diameterM, 0.45);
-    QCOMPARE(objectOf<PipeLateral>(item, 1).getAngleDeg(), 62.0);
-    QCOMPARE(objectOf<PipeBend>(item, 2).angleDeg, 60.0);
-    QCOMPARE(objectOf<PipeJoint>(item, 3).angleDeg, 60.0);
-    QVERIFY(!objectOf<PipeBend>(item, 2).getViewDownstream());
-}
-
-void TestZaItem::percentageReachesTheObjects()
-{
-    ZaItem item;
-    const Cylinder &cylinder = pipeOf(item).cylinder;
-    const auto &lateral = objectOf<PipeLateral>(item, 1);
-    const auto &joint = objectOf<PipeJoint>(item, 3);
-    item.setiWantToMeasure("CrossSection");
-    item.setPercentage(30);
-    QCOMPARE(cylinder.crossSectDistancePercent, 0.3);
-    QCOMPARE(cylinder.waterLevelPercent, 0.0);
-    QCOMPARE(lateral.getLateralDiameterPercent(), 0.3);
-    COMPARE_NEAR(joint.getOffsetZ_Percent(), 0.3, roundingTolerance);
-    item.setiWantToMeasure("WaterLevel");
-    item.setPercentage(60);
-    QCOMPARE(cylinder.crossSectDistancePercent, 0.3);
-    QCOMPARE(item.percentage(), 0.6);
-    QCOMPARE(lateral.getLateralDiameterPercent(), 0.6);
-    COMPARE_NEAR(joint.getOffsetZ_Percent(), 0.6, roundingTolerance);
 }
 
 void TestZaItem::rearCircleTakesOverTwoControls()
@@ -522,30 +471,6 @@ void TestZaItem::clicksReachTheStraightPipeOnly()
         item.mouseClick(10, 10);
         QVERIFY(pipeOf(item).hitPoints.empty());
     }
-}
-
-void TestZaItem::unresolvableClicksAreMisses()
-{
-    for (const char *kind : {"PipeDimension", "CrossSection", "CrackWidth", ""}) {
-        ZaItem item; // without an area a click means no place
-        item.setiWantToMeasure(kind);
-        item.mouseClick(10, 10);
-        QVERIFY2(pipeOf(item).hitPoints.empty(), kind);
-        setSize(item, 600, 600);
-        for (const double bad : {notANumber, infinity, -infinity}) {
-            item.mouseClick(bad, 10);
-            item.mouseClick(10, bad);
-        }
-        QVERIFY2(pipeOf(item).hitPoints.empty(), kind);
-        item.mouseClick(300, 50);
-        QVERIFY2(pipeOf(item).hitPoints.size() == 1, kind);
-    }
-}
-
-void TestZaItem::pictureUrl()
-{
-    ZaItem item;
-    QCOMPARE(item.xxx(), "file:///" + QDir::currentPath() + "/Connection.jpg");
 }
 
 QTEST_MAIN(TestZaItem)

@@ -86,26 +86,6 @@ private slots:
         }
     }
 
-    void inverseThreshold()
-    {
-        // NaN is not caught.
-        for (const double determinant : {49.0, 1e-9, -1e-9, 1e-10, -1e-11, notANumber}) {
-            Mat4 m;
-            m[0] = determinant;
-            const bool inverts = !(std::abs(determinant) <= 1e-10);
-            QByteArray message;
-            try {
-                m.invert();
-            } catch (const std::out_of_range &e) {
-                message = e.what();
-            }
-            QCOMPARE(message,
-                     QByteArray(inverts ? "" : "Matrix is singular. Inversion impossible."));
-            COMPARE_EXACT(m.m[0], inverts ? 1 / determinant : determinant);
-            COMPARE_EXACT(m.m[5], inverts ? determinant * (1 / determinant) : 1);
-        }
-    }
-
     void builders_data()
     {
         QTest::addColumn<Mat4>("built");

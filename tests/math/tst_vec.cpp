@@ -128,31 +128,6 @@ private slots:
         COMPARE_EXACT(vector, expected);
     }
 
-    void normalize2D_data()
-    {
-        QTest::addColumn<Vec2>("vector");
-        QTest::addColumn<bool>("isZero");
-        QTest::addColumn<Vec2>("expected");
-        const double reciprocal = 1 / std::sqrt(45.0);
-        QTest::newRow("by the reciprocal")
-            << Vec2(3, 6) << false << Vec2(3 * reciprocal, 6 * reciprocal);
-        QTest::newRow("just long enough") << Vec2(1.1e-12, 0) << false << Vec2(1, 0);
-        QTest::newRow("just too short") << Vec2(0, 0.9e-12) << true << Vec2(0, 0.9e-12);
-        QTest::newRow("NaN") << Vec2(notANumber, 1) << false << Vec2(notANumber, notANumber);
-        QTest::newRow("infinite") << Vec2(infinity, 1) << false << Vec2(notANumber, 0);
-    }
-
-    void normalize2D()
-    {
-        QFETCH(Vec2, vector);
-        QFETCH(bool, isZero);
-        QFETCH(Vec2, expected);
-        QCOMPARE(vector.isZeroLengthVector(), isZero);
-        QCOMPARE(thrown<std::range_error>([&v = vector] { v.normalize(); }),
-                 isZero ? QByteArray("Trying to normalize a 2D vector with length of zero.") : "");
-        COMPARE_EXACT(vector, expected);
-    }
-
     void comparisons()
     {
         const Vec3 a(1, 2, 3);
@@ -227,13 +202,6 @@ private slots:
         const CommaLocale comma;
         QCOMPARE(text(), expected);
         QCOMPARE(std::to_string(0.5), std::string("0,500000")); // the process keeps its locale
-    }
-
-    void scalesWithoutClamping()
-    {
-        COMPARE_EXACT(scaleValue(170, -85, 85, -1, 1), 2.0);
-        COMPARE_EXACT(scaleValue(0.3, 0.1, 0.4, 3, 0.2), (0.2 - 3) * (0.3 - 0.1) / (0.4 - 0.1) + 3);
-        COMPARE_EXACT(scaleValue(1, 2, 2, 0, 1), -infinity);
     }
 
     void truncatesEveryDouble()

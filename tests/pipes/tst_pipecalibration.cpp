@@ -131,24 +131,6 @@ private slots:
         check();
     }
 
-    void settingTheText()
-    {
-        const std::pair<std::string, bool> texts[] = {
-            {"LASER;;;50", true}, {"300;1;2\nxLASERx", true}, {"lAsEr;;;50", false}, {"", false}};
-        for (const auto &[text, laserPresent] : texts) {
-            Pipe pipe;
-            pipe.diameterMM = 300;
-            pipe.calibrateLaser(oldScale);
-            pipe.laserPresent = !laserPresent;
-            pipe.setCameraCrackIni(text);
-            QCOMPARE(pipe.laserPresent, laserPresent);
-            QCOMPARE(pipe.cameraCrackIni, text);
-            QVERIFY(!pipe.laserCalibrated);
-            COMPARE_EXACT(pipe.laserScale, oldScale);
-            COMPARE_EXACT(pipe.laserDistance, 0.0); // not read before the diameter is set
-        }
-    }
-
     void interpolationSortsItsTable()
     {
         Pipe pipe;

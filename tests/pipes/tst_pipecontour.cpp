@@ -136,24 +136,6 @@ private slots:
         QVERIFY(pipe.hitPoints[16].isHighlighted); // not visible, not touched
     }
 
-    void findingNothing()
-    {
-        Contour pipe;
-        pipe.selectedIndex = 7;
-        pipe.highlightPoint = Vec3::XAxis;
-        pipe.hitPoints[15].isHighlighted = true;
-        QCOMPARE(pipe.findNearestHitPoint(QPoint(9, 9), Vec3(notANumber, 0, 0)), -1);
-        QCOMPARE(pipe.selectedIndex, -1);
-        QVERIFY(pipe.highlightPoint == Vec3::Zero && pipe.hitPoints[15].isHighlighted);
-        pipe.hitPoints.clear();
-        QCOMPARE(pipe.findNearestHitPoint(pipe.pixel(pipe.onCircle(45)), Vec3::Zero), -1);
-        QVERIFY(pipe.highlightPoint != Vec3::Zero);
-        // Of equally near points the first.
-        pipe.hitPoints = {HitPoint(pipe.onCircle(52)), HitPoint(pipe.onCircle(45)),
-                          HitPoint(pipe.onCircle(45))};
-        QCOMPARE(pipe.findNearestHitPoint(pipe.pixel(pipe.onCircle(45)), Vec3::Zero), 1);
-    }
-
     void moving_data()
     {
         QTest::addColumn<int>("index");
@@ -231,24 +213,6 @@ private slots:
             pipe.moveHitPoint(0, target, Vec3::Zero);
             QVERIFY(pipe.hitPoints.empty());
         }
-    }
-
-    void stretchesOutsideTheListChangeNothing()
-    {
-        Contour pipe;
-        const std::vector<Vec3> before = pipe.positions();
-        const Vec3 somewhere(0.01, 0.02, 0);
-        pipe.modifyHitPointCurve(-1, 10, 1, somewhere);
-        pipe.modifyHitPointCurve(10, 361, 1, somewhere);
-        pipe.modifyHitPointCurve(10, 20, -1, somewhere);
-        pipe.modifyHitPointCurve(20, 10, 1, somewhere);
-        pipe.modifyHitPointCurve(10, 20, 0, somewhere);
-        pipe.modifyHitPointCurve(10, 10, 1, somewhere);
-        QCOMPARE(pipe.changed(before), qMakePair(-1, -1));
-        pipe.modifyHitPointCurve(20, 10, -1, somewhere);
-        QCOMPARE(pipe.changed(before), qMakePair(11, 19));
-        QVERIFY(!pipe.isModifyAllowed(-1, somewhere, Vec3::Zero));
-        QVERIFY(!pipe.isModifyAllowed(361, somewhere, Vec3::Zero));
     }
 };
 

@@ -41,12 +41,6 @@ QPointF pixel(const QJsonValue &value)
     return {value.toArray().at(0).toDouble(), value.toArray().at(1).toDouble()};
 }
 
-Vec point(const QJsonValue &value)
-{
-    const QJsonArray p = value.toArray();
-    return {p.at(0).toDouble(), p.at(1).toDouble(), p.at(2).toDouble()};
-}
-
 double grey(const QImage &picture, const QPointF &at)
 {
     // Bilinear between pixel centres, which lie at halves.
@@ -145,41 +139,6 @@ private slots:
         }
     }
 
-    void clickMeetsItsScenePoint_data()
-    {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("path"); // to an object with clicks and scene
-        QTest::newRow("joint") << int(SceneKind::Dimension) << "joints/0";
-        QTest::newRow("crack") << int(SceneKind::Crack) << "crack";
-        QTest::newRow("laser spots") << int(SceneKind::Crack) << "laser";
-        QTest::newRow("spall") << int(SceneKind::Dimension) << "dimensions/1";
-        QTest::newRow("water's edge") << int(SceneKind::Water) << "water/edges/1";
-        QTest::newRow("begin of a bend") << int(SceneKind::Bend) << "bend/rings/0";
-        QTest::newRow("end of a turned joint") << int(SceneKind::Joint) << "bend/rings/1";
-        QTest::newRow("joint after it") << int(SceneKind::Joint) << "bend/rings/2";
-    }
-
-    void clickMeetsItsScenePoint()
-    {
-        QFETCH(int, kind);
-        QFETCH(QString, path);
-        SceneSettings scene = presetScene(SceneKind(kind));
-        scene.waterShare = scene.kind == SceneKind::Water ? scene.waterShare : 0.0;
-        scene.camera = {{768, 576}, 40.0, 0.55, 5.0, 4.0, -1.5, 1.0};
-        scene.bend.clockDeg = 200.0;
-        const QJsonArray clicks = truthAt(scene, path + "/clicks").toArray();
-        const QJsonArray points = truthAt(scene, path + "/scene").toArray();
-        QVERIFY(!clicks.isEmpty());
-        QCOMPARE(clicks.size(), points.size());
-        const Camera camera(scene.camera, scene.diameterM());
-        const Shape shape(scene);
-        for (int i = 0; i < clicks.size(); ++i) {
-            const QPointF click = pixel(clicks[i]);
-            const Hit hit = shape.trace(camera.rayThrough(click.x(), click.y()));
-            COMPARE_NEAR(length(hit.point - point(points[i])), 0.0, hitTolerance);
-        }
-    }
-
     void pictureShowsWhatTheTruthSays()
     {
         SceneSettings scene = presetScene(SceneKind::Crack);
@@ -199,36 +158,6 @@ private slots:
         for (const QJsonValue &edge : edges) {
             const QPointF outside = middle + (pixel(edge) - middle) * 2.0;
             COMPARE_NEAR(edgeError(picture, outside, pixel(edge), middle), 0.0, edgeTolerance);
-        }
-    }
-
-    void optionsReachTruth()
-    {
-        const char *const cases[][2] = {
-            {"--diameter 225 --pipe-length 1500 --water 12.5 --size 1024x768",
-             "pipe/diameterMm=225 pipe/pipeLengthMm=1500 water/share=0.125 picture/square/2=768"},
-            {"--fov 50 --camera-height 60 --offset-x 20 --roll -3 --yaw -5 --pitch 5",
-             "camera/fovDeg=50 camera/heightPercent=60 camera/offsetPx=20 camera/rollDeg=-3 "
-             "camera/rearCircle/0=17 camera/rearCircle/1=-10"},
-            {"--scene crack --crack-width 5 --crack-clock 300 --laser-distance 40",
-             "crack/widthMm=5 crack/clockDeg=300 laser/distanceMm=40"},
-            {"--spall-length 75 --spall-width 55",
-             "dimensions/0/lengthMm=75 dimensions/1/lengthMm=55"},
-            {"--scene branch --branch-share 33 --branch-angle 120 --branch-clock 45",
-             "branch/percent=33 branch/angleDeg=120 branch/clockDeg=45"},
-            {"--scene joint --bend-angle 45 --bend-clock 180 --bend-straight 40",
-             "bend/angleDeg=45 bend/clockDeg=180 bend/straightPercent=40"},
-            {"--scene section --deposit-depth 8", "section/percent=8"},
-        };
-        for (const auto &[options, expected] : cases) {
-            const ParsedOptions parsed =
-                parseOptions(QString("pipe-picture a.png %1").arg(options).split(' '));
-            QVERIFY2(parsed.action == ParsedOptions::Action::Draw, qPrintable(parsed.text));
-            for (const QString &entry : QString(expected).split(' ')) {
-                const QJsonValue value = truthAt(parsed.request.scene, entry.section('=', 0, 0));
-                QVERIFY2(value.isDouble(), qPrintable(entry));
-                COMPARE_NEAR(value.toDouble(), entry.section('=', 1).toDouble(), writtenTolerance);
-            }
         }
     }
 
@@ -260,37 +189,6 @@ private slots:
             QVERIFY2(parsed.action == ParsedOptions::Action::Refuse, arguments);
             QVERIFY2(parsed.text.contains(part), qPrintable(parsed.text));
         }
-    }
-
-    void programWritesSameBytesTwice()
-    {
-        const QTemporaryDir folder;
-        const auto run = [&folder](const QString &arguments) {
-            QProcess program;
-            program.setWorkingDirectory(folder.path());
-            program.start(PIPE_PICTURE_PROGRAM, arguments.split(' '));
-            program.waitForFinished();
-            return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
-        };
-        const auto file = [&folder](const char *name) { return contents(folder.filePath(name)); };
-        const QString small = "--scene water --size 160x120 ";
-        QCOMPARE(run(small + "a.jpg"), 0);
-        QCOMPARE(run(small + "b.jpg"), 0);
-        QCOMPARE(run(small + "--seed 77 c.jpg"), 0);
-        const QByteArray before = file("a.jpg");
-        QVERIFY(!before.isEmpty());
-        QCOMPARE(before, file("b.jpg"));
-        QVERIFY(before != file("c.jpg"));
-        QCOMPARE(file("a.truth.json").replace("a.jpg", "b.jpg"), file("b.truth.json"));
-
-        QCOMPARE(run(small + "--water 10 a.jpg"), 3);
-        QCOMPARE(file("a.jpg"), before);
-        QCOMPARE(run(small + "--water 10 --force a.jpg"), 0);
-        QVERIFY(file("a.jpg") != before);
-        QCOMPARE(run(small + "missing/a.jpg"), 3);
-        QCOMPARE(run("--scene roof d.jpg"), 2);
-        QVERIFY(!QFile::exists(folder.filePath("d.jpg")));
-        QCOMPARE(run("--help"), 0);
     }
 
     void samplesAreWhatTheScriptDraws()
