@@ -6,9 +6,12 @@
 #include "measuring/Picture.h"
 #include "measuring/Replay.h"
 #include "measuring/SessionFile.h"
+#include "measuring/SessionFit.h"
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <cmath>
 
 namespace Drevon::Zalento::Apps {
 
@@ -71,6 +74,52 @@ void movePlane(const Session *start, const SessionOptions &options, Session &ses
     const double percentage = session.percentage;
     session.percentage = start->percentage;
     changePercentage(session, percentage);
+}
+
+bool hasMoved(const Session &start, const Session &session)
+{
+    return alignmentOf(start).numbers() != alignmentOf(session).numbers() ||
+           start.rollDEG != session.rollDEG || start.diameterMM != session.diameterMM;
+}
+
+// What was given for a field that the clicks determine.
+QStringList overriddenOptions(const AlignmentFit &fit, const SessionOptions &options,
+                              const Alignment &asked)
+{
+    QStringList warnings;
+    for (const AlignmentField field : fit.fitted) {
+        const auto index = static_cast<std::size_t>(field);
+        const QString name = alignmentFieldName(field);
+        const bool isGiven = options.givesAlignment(name) &&
+                             asked.numbers()[index] != fit.alignment.numbers()[index];
+        if (isGiven) {
+            warnings +=
+                QStringLiteral("the joints and lines determine %1: the option for it has no "
+                               "effect")
+                    .arg(name);
+        }
+    }
+    return warnings;
+}
+
+QStringList suspiciousClicks(const AlignmentFit &fit, const Session &session)
+{
+    QStringList warnings;
+    for (const ClickIndex &click : fit.suspicious) {
+        const QPointF &place = click.isLine ? session.lines[click.feature].points[click.point]
+                                            : session.rings[click.feature].points[click.point];
+        const QPointF &residual = click.isLine ? fit.lineResiduals[click.feature][click.point]
+                                               : fit.ringResiduals[click.feature][click.point];
+        warnings +=
+            QStringLiteral("click %1 of %2 %3, at %4, does not fit the others: it lies %5 px "
+                           "off and was left out")
+                .arg(click.point + 1)
+                .arg(click.isLine ? QStringLiteral("line") : QStringLiteral("joint"))
+                .arg(click.feature + 1)
+                .arg(pointText(place))
+                .arg(std::hypot(residual.x(), residual.y()), 0, 'f', 1);
+    }
+    return warnings;
 }
 
 } // namespace
@@ -156,6 +205,9 @@ Outcome Batch::measureSession(const Session *start, Work &work)
     if (const Outcome problem = mergeSession(start, work)) {
         return problem;
     }
+    if (const Outcome problem = fitAlignment(start, work)) {
+        return problem;
+    }
     if (const Outcome problem = takeLaserScale(work)) {
         return problem;
     }
@@ -200,6 +252,28 @@ Outcome Batch::mergeSession(const Session *start, Work &work) const
     return {};
 }
 
+// What lies on a model that has moved is measured where it was clicked.
+Outcome Batch::fitAlignment(const Session *start, Work &work) const
+{
+    Session &session = work.session;
+    const Alignment asked = alignmentOf(session);
+    std::optional<AlignmentFit> fit;
+    if (hasAlignmentClicks(session)) {
+        const Result<AlignmentFit> fitted = fitSession(session);
+        if (!fitted) {
+            return fitted.problem();
+        }
+        fit = *fitted;
+        work.result.warnings += overriddenOptions(*fit, m_command.session, asked);
+        work.result.warnings += suspiciousClicks(*fit, session);
+    }
+    if (start && hasMoved(*start, session)) {
+        pickPointsAnew(session);
+    }
+    work.result.values.alignment = alignmentSummary(session, fit);
+    return {};
+}
+
 Outcome Batch::takeLaserScale(Work &work) const
 {
     const QVector<QPointF> &spots = m_command.session.laserSpots;
@@ -236,7 +310,6 @@ void Batch::writeFiles(Work &work)
 {
     if (m_command.writesPng || m_command.writesSvg) {
         ZaItem item;
-        layOutItem(item, work.picture.image.size());
         showSession(work.session, item);
         const QString &picture = work.result.values.picture;
         if (m_command.writesPng) {

@@ -12,6 +12,11 @@ QByteArray textLines(const PictureValues &result)
             .toUtf8();
     }
     QByteArray lines;
+    if (result.alignment && result.alignment->fit) {
+        lines += QStringLiteral("%1: alignment %2\n")
+                     .arg(result.picture, fitText(*result.alignment))
+                     .toUtf8();
+    }
     for (const Value &value : result.values) {
         lines +=
             QStringLiteral("%1: %2 %3 (%4 %5)\n")

@@ -23,6 +23,8 @@ constexpr NumberOption numberOptions[] = {
      "Vertical field of view in degrees of the largest centred square of the picture."},
     {"camera-height", &Session::cameraHeightPercent, "PERCENT",
      "Height of the camera in percent of the diameter; 50 is the axis."},
+    {"mouth", &Session::mouthPercent, "PERCENT",
+     "Size of the mouth's circle in percent of the largest centred square; 100 fills it."},
     {"offset", &Session::offset, "UNITS",
      "Shifts the model to the left; 576 units are one diameter."},
     {"roll", &Session::rollDEG, "DEG", "Rotation about the view axis in degrees."},
@@ -192,6 +194,74 @@ void readLaserSpots(OptionReader &reader, SessionOptions &options)
     }
 }
 
+const QChar distanceMark('@');
+
+// "X,Y X,Y ...": the points, or nothing when one is none.
+std::optional<QVector<QPointF>> parsePoints(const QStringList &texts)
+{
+    QVector<QPointF> points;
+    for (const QString &text : texts) {
+        const std::optional<QPointF> point = parsePoint(text);
+        if (!point) {
+            return std::nullopt;
+        }
+        points += *point;
+    }
+    return points;
+}
+
+// "X,Y X,Y X,Y @MM": the distance is optional.
+std::optional<RingClicks> parseRing(const QString &text)
+{
+    constexpr int smallestRing = 3;
+    RingClicks ring;
+    QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (!words.isEmpty() && words.last().startsWith(distanceMark)) {
+        bool isNumber = false;
+        ring.distanceMM = words.takeLast().mid(1).toDouble(&isNumber);
+        if (!isNumber || !std::isfinite(*ring.distanceMM)) {
+            return std::nullopt;
+        }
+    }
+    const auto points = parsePoints(words);
+    ring.points = points.value_or(QVector<QPointF>());
+    return ring.points.size() >= smallestRing ? std::optional<RingClicks>(ring) : std::nullopt;
+}
+
+std::optional<LineClicks> parseLine(const QString &text)
+{
+    constexpr int smallestLine = 2;
+    const auto points = parsePoints(text.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    return points && points->size() >= smallestLine ? std::optional<LineClicks>({*points})
+                                                    : std::nullopt;
+}
+
+template <typename Clicks, typename Parse>
+std::optional<QVector<Clicks>> readFeatures(const QCommandLineParser &parser, OptionReader &reader,
+                                            const char *name, const char *expected, Parse parse)
+{
+    QVector<Clicks> features;
+    for (const QString &text : parser.values(QLatin1String(name))) {
+        const std::optional<Clicks> feature = parse(text);
+        if (!feature) {
+            reader.fail(name, QLatin1String(expected), text);
+            return std::nullopt;
+        }
+        features += *feature;
+    }
+    return features.isEmpty() ? std::nullopt : std::optional<QVector<Clicks>>(features);
+}
+
+void readAlignmentClicks(const QCommandLineParser &parser, OptionReader &reader,
+                         SessionOptions &options)
+{
+    options.rings = readFeatures<RingClicks>(
+        parser, reader, "ring", "three points or more \"X,Y X,Y X,Y\", at its end @MM", parseRing);
+    options.lines = readFeatures<LineClicks>(parser, reader, "line",
+                                             "two points or more \"X,Y X,Y\"", parseLine);
+    options.fitsFov = reader.isSet("fit-fov");
+}
+
 void readClicks(const QCommandLineParser &parser, OptionReader &reader, SessionOptions &options)
 {
     QVector<QPointF> clicks;
@@ -249,6 +319,16 @@ bool SessionOptions::hasNumber(double Session::*member) const
                        [member](const Number &number) { return number.member == member; });
 }
 
+bool SessionOptions::givesAlignment(const QString &fieldName) const
+{
+    if (rearCircle && fieldName.startsWith(QLatin1String("rearCircle"))) {
+        return true;
+    }
+    return std::any_of(numbers.begin(), numbers.end(), [&fieldName](const Number &number) {
+        return fieldName == QLatin1String(limitsOf(number.member).name);
+    });
+}
+
 void SessionOptions::applyTo(Session &session) const
 {
     if (kind && *kind != session.kind) {
@@ -276,6 +356,9 @@ void SessionOptions::applyTo(Session &session) const
             session.points.append({pixel, {}, {}});
         }
     }
+    session.rings = rings.value_or(session.rings);
+    session.lines = lines.value_or(session.lines);
+    session.fitsFov = session.fitsFov || fitsFov;
     session.unit = unit.value_or(session.unit);
     session.rearCircleActive = rearCircleActive.value_or(session.rearCircleActive);
     session.clockDEG = clockDEG.value_or(session.clockDEG);
@@ -300,6 +383,8 @@ Outcome SessionOptions::misfit(const KindInfo &info) const
         {clockDEG.has_value(), Uses::Clock, "--clock"},
         {viewDownstream.has_value(), Uses::Direction, "--direction"},
         {jointShown.has_value(), Uses::Direction, "--joint"},
+        {rings.has_value(), Uses::Model, "--ring"},
+        {lines.has_value(), Uses::Model, "--line"},
     };
     for (const auto &check : checks) {
         if (check.isGiven && !info.has(check.use)) {
@@ -359,6 +444,18 @@ void addSessionOptions(QCommandLineParser &parser)
     addOption(parser, "click",
               "A measurement point in picture pixels from the top left; repeat it for more points.",
               "X,Y");
+    addOption(
+        parser, "ring",
+        "Three points or more on the edge of a joint, which the alignment is fitted to; @MM at "
+        "the end is its distance along the pipe from the first one. Repeat it for more joints.",
+        "\"X,Y X,Y X,Y @MM\"");
+    addOption(parser, "line",
+              "Two points or more on a feature that runs along the pipe; repeat it for more lines.",
+              "\"X,Y X,Y\"");
+    parser.addOption(QCommandLineOption(
+        QStringLiteral("fit-fov"),
+        QStringLiteral("Fits the field of view, too, where two joints with a known "
+                       "distance give it.")));
     addOption(parser, "mm-per-pixel", "Scale for crack widths.", "MM");
     addOption(parser, "laser",
               "The two laser spots in picture pixels; gives the scale for crack widths.",
@@ -376,6 +473,7 @@ Result<SessionOptions> readSessionOptions(const QCommandLineParser &parser)
     options.mmPerPixel = reader.number("mm-per-pixel", smallestMMPerPixel, largestMMPerPixel);
     readLaserSpots(reader, options);
     readClicks(parser, reader, options);
+    readAlignmentClicks(parser, reader, options);
     reader.value("calibration");
     if (options.kind) {
         reader.note(options.misfit(infoOf(*options.kind)));

@@ -37,10 +37,16 @@ struct SessionOptions
     std::optional<ViewStyle> viewStyle;
     std::optional<QString> calibrationText;
     std::optional<double> mmPerPixel;
-    std::optional<QVector<QPointF>> clicks; ///< replace the session's points
-    QVector<QPointF> laserSpots;            ///< two, or none
+    std::optional<QVector<QPointF>> clicks;   ///< replace the session's points
+    QVector<QPointF> laserSpots;              ///< two, or none
+    std::optional<QVector<RingClicks>> rings; ///< replace the session's
+    std::optional<QVector<LineClicks>> lines;
+    bool fitsFov = false;
 
     bool hasNumber(double Session::*member) const;
+
+    /** True when an option gives the session's field of this name, one of the alignment's. */
+    bool givesAlignment(const QString &fieldName) const;
 
     /** Changes the session. A change of the kind drops points that were made for another. */
     void applyTo(Session &session) const;

@@ -30,13 +30,13 @@ QVector<Measuring::PictureValues> measuredValues(DocumentList &documents)
         }
         const Measuring::Measurement measured = Measuring::measure(*document.session);
         if (!measured.values.isEmpty()) {
-            pictures.append({document.picturePath,
-                             document.session->picture,
-                             document.session->kind,
-                             Measuring::Status::Measured,
-                             measured.values,
-                             {},
-                             {}});
+            Measuring::PictureValues picture;
+            picture.picture = document.picturePath;
+            picture.identity = document.session->picture;
+            picture.kind = document.session->kind;
+            picture.status = Measuring::Status::Measured;
+            picture.values = measured.values;
+            pictures.append(picture);
         }
     }
     return pictures;

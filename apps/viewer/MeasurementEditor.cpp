@@ -83,9 +83,6 @@ void MeasurementEditor::leaveCurrent()
 
 void MeasurementEditor::showCurrent()
 {
-    if (m_item && m_documents.hasPicture()) {
-        Measuring::layOutItem(*m_item, m_documents.pictureSize());
-    }
     if (session()) {
         show(sessionCopy());
     } else {

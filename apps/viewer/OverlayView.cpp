@@ -85,6 +85,7 @@ void OverlayView::paint(QPainter *painter)
         QFont font = painter->font();
         font.setPixelSize(std::max(1, static_cast<int>(std::lround(m_labelPx / contentsScale()))));
         painter->setFont(font);
+        painter->translate(m_item->position());
         m_item->paint(painter);
         painter->restore();
     }

@@ -172,7 +172,6 @@ void convert(benchmark::State &state)
     Result<Session> session = loadSession(QString(sample) + sessionSuffix);
     require(bool(session), "session of the sample");
     ZaItem item;
-    layOutItem(item, session->picture.size);
     showSession(*session, item);
     Test::PaintRecorder recorder(session->picture.size);
     QPainter painter(&recorder);

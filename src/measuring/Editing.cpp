@@ -115,7 +115,10 @@ void pickPointsAnew(Session &session)
     const bool isClosed = isClosedOutline(session);
     const PipeView view(session);
     for (SessionPoint &point : session.points) {
-        if (const std::optional<Vec3> position = view.pick(point.pixel)) {
+        // A point of a file that tells its position alone was clicked nowhere.
+        const std::optional<Vec3> position =
+            point.pixel.isNull() ? std::nullopt : view.pick(point.pixel);
+        if (position) {
             point.position = position;
         }
     }

@@ -84,7 +84,7 @@ LineMeasure lineMeasure(const Session &session)
         positions.push_back(point.position.value_or(Vec3()));
     }
     PipeView view(session);
-    const LineScale scale{view.pipe().cylinder.radiusM * mmPerM, view.drawingArea().width(),
+    const LineScale scale{view.pipe().cylinder.radiusM * mmPerM, view.drawingWidthPX(),
                           scaleOf(session).value_or(0.0)};
     return measureLine(positions, infoOf(session.kind).mode, scale);
 }

@@ -27,6 +27,7 @@ QImage pictureWithOverlay(ZaItem &item, const QImage &picture)
     QImage image = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(1.0);
     QPainter painter(&image);
+    painter.translate(item.position());
     item.paint(&painter);
     return image;
 }
@@ -53,6 +54,7 @@ QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize)
     generator.setSize(pictureSize);
     generator.setViewBox(QRect(QPoint(), pictureSize));
     QPainter painter(&generator);
+    painter.translate(item.position());
     item.paint(&painter);
     painter.end();
     return buffer.data();

@@ -1,5 +1,6 @@
 #include "measuring/PipeView.h"
 
+#include "zalento/math/angles.h"
 #include "zalento/math/truncateToInt.h"
 #include "zalento/pipes/Pipe.h"
 #include "zalento/pipes/gestureUnits.h"
@@ -15,6 +16,7 @@ namespace {
 
 constexpr double mPerMM = 0.001;
 constexpr double fractionPerPercent = 0.01;
+constexpr double halfPixel = 0.5;
 
 const Vec3 nowhere(std::numeric_limits<double>::quiet_NaN(), 0, 0);
 
@@ -43,9 +45,26 @@ Mat4 fractionsToPixels(const QRectF &area)
 
 } // namespace
 
+// A mouth of its own size takes the square and the field of view that go with it in the same
+// camera: tan(F'/2) = k tan(F/2). The points of a crack are fractions of the largest square.
+ItemLayout itemLayout(const Session &session)
+{
+    const QSizeF picture = session.picture.size;
+    const double k =
+        infoOf(session.kind).has(Uses::Model) ? session.mouthPercent * fractionPerPercent : 1.0;
+    if (k == 1.0) {
+        return {QRectF(QPointF(), picture), session.fovYDEG};
+    }
+    const double side = k * std::min(picture.width(), picture.height());
+    const double halfFovRAD = std::atan(k * std::tan(session.fovYDEG * radiansPerDegree * 0.5));
+    return {QRectF((picture.width() - side) * 0.5, (picture.height() - side) * 0.5, side, side),
+            2.0 * halfFovRAD * degreesPerRadian};
+}
+
 PipeView::PipeView(const Session &session)
     : m_pipe(std::make_unique<Pipe>())
-    , m_drawingArea(largestCentredSquare(session.picture.size))
+    , m_origin(itemLayout(session).geometry.topLeft())
+    , m_drawingArea(largestCentredSquare(itemLayout(session).geometry.size()))
 {
     m_pipe->measureMode = infoOf(session.kind).mode;
     m_pipe->diameterMM = session.diameterMM;
@@ -67,7 +86,7 @@ PipeView &PipeView::operator=(PipeView &&) noexcept = default;
 void PipeView::placeCamera(const Session &session)
 {
     MiniGL &camera = m_pipe->camera;
-    camera.setFovYDEG(session.fovYDEG);
+    camera.setFovYDEG(itemLayout(session).fovYDEG);
     camera.onResize(m_drawingArea);
     m_pipe->cameraHeight = std::clamp(session.cameraHeightPercent * fractionPerPercent, 0.0, 1.0);
     const double rearCircleHeight = session.rearCircleY + centredPercent;
@@ -110,7 +129,7 @@ std::optional<Vec3> PipeView::pickWall(const QPointF &pixel) const
     // A ray along the axis counts as a hit, meets no place of the wall, and leaves the point.
     Vec3 picked = nowhere;
     if (!m_isPlaced ||
-        !m_pipe->cylinder.intersectRay(pixelInArea(pixel), m_pipe->camera, picked, m_rotation) ||
+        !m_pipe->cylinder.intersectRayAt(placeInArea(pixel), m_pipe->camera, picked, m_rotation) ||
         !isFinite(picked)) {
         return std::nullopt;
     }
@@ -120,8 +139,8 @@ std::optional<Vec3> PipeView::pickWall(const QPointF &pixel) const
 std::optional<Vec3> PipeView::pickPlane(const QPointF &pixel) const
 {
     Vec3 picked;
-    if (!m_isPlaced || !m_pipe->cylinder.intersectPlaneRay(pixelInArea(pixel), m_pipe->camera,
-                                                           picked, m_rotation)) {
+    if (!m_isPlaced || !m_pipe->cylinder.intersectPlaneRayAt(placeInArea(pixel), m_pipe->camera,
+                                                             picked, m_rotation)) {
         return std::nullopt;
     }
     return withoutNegativeZero(picked);
@@ -129,7 +148,7 @@ std::optional<Vec3> PipeView::pickPlane(const QPointF &pixel) const
 
 std::optional<Vec3> PipeView::pickPicture(const QPointF &pixel) const
 {
-    const QPoint place = pixelInArea(pixel);
+    const QPointF place = pixel - m_origin - m_drawingArea.topLeft();
     const Vec3 fraction(place.x() / m_drawingArea.width(), place.y() / m_drawingArea.height(), 0);
     if (!std::isfinite(fraction.x) || !std::isfinite(fraction.y)) {
         return std::nullopt;
@@ -141,13 +160,14 @@ QPointF PipeView::project(const Vec3 &position) const
 {
     Vec2 pixel;
     m_toPixels.multiply(position, pixel);
-    return {pixel.x, pixel.y};
+    return QPointF(pixel.x, pixel.y) + m_origin;
 }
 
-QPoint PipeView::pixelInArea(const QPointF &pixel) const
+// Rays are counted from the middle of the first pixel.
+Vec2 PipeView::placeInArea(const QPointF &pixel) const
 {
-    return {truncateToInt(pixel.x() - m_drawingArea.x()),
-            truncateToInt(pixel.y() - m_drawingArea.y())};
+    const QPointF place = pixel - m_origin - m_drawingArea.topLeft();
+    return {place.x() - halfPixel, place.y() - halfPixel};
 }
 
 } // namespace Drevon::Zalento::Measuring

@@ -19,11 +19,25 @@ class Pipe;
 namespace Drevon::Zalento::Measuring {
 
 /**
+ * How the item lies over the picture. Its drawing area is the picture's largest centred square, or
+ * as much smaller or larger as the mouth's circle is to be; the perspective stays that of the
+ * picture.
+ */
+struct ItemLayout
+{
+    QRectF geometry;      ///< of the item, in picture pixels
+    double fovYDEG = 0.0; ///< of its drawing area
+};
+
+ZALENTO_MEASURING_EXPORT ItemLayout itemLayout(const Session &session);
+
+/**
  * The straight pipe before the camera, as a session aligns them: what the item computes when it
  * paints, without an item and without painting.
  *
- * Places in the picture are in pixels of the upright picture from its top-left corner; the session
- * has to know the picture's size. Positions are in the pipe frame in metres, for the kind
+ * Places in the picture are in pixels of the upright picture from its top-left corner, with their
+ * fractions: (0.5, 0.5) is the middle of the first pixel. The session has to know the picture's
+ * size. Positions are in the pipe frame in metres, for the kind
  * CrackWidth in fractions of the drawing area.
  */
 class ZALENTO_MEASURING_EXPORT PipeView
@@ -34,8 +48,8 @@ public:
     PipeView(PipeView &&) noexcept;
     PipeView &operator=(PipeView &&) noexcept;
 
-    /** The square of the picture in which the item draws. */
-    const QRectF &drawingArea() const { return m_drawingArea; }
+    /** Side in pixels of the square in which the item draws. */
+    double drawingWidthPX() const { return m_drawingArea.width(); }
 
     /** Where a click of the session's kind at @p pixel lies; nothing on a miss. */
     std::optional<Vec3> pick(const QPointF &pixel) const;
@@ -52,10 +66,11 @@ private:
     void placeCamera(const Session &session);
     std::optional<Vec3> pickPlane(const QPointF &pixel) const;
     std::optional<Vec3> pickPicture(const QPointF &pixel) const;
-    QPoint pixelInArea(const QPointF &pixel) const;
+    Vec2 placeInArea(const QPointF &pixel) const;
 
     std::unique_ptr<Pipe> m_pipe;
-    QRectF m_drawingArea;
+    QPointF m_origin;     ///< of the item, in the picture
+    QRectF m_drawingArea; ///< in the item
     Vec3 m_rotation;
     Mat4 m_toPixels;
     bool m_isPlaced = false; ///< the camera does not stand where it looks

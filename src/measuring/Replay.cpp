@@ -1,5 +1,7 @@
 #include "measuring/Replay.h"
 
+#include "measuring/PipeView.h"
+
 #include "zalento/pipes/ViewObject.h"
 #include "zalento/pipes/gestureUnits.h"
 
@@ -11,6 +13,13 @@ namespace {
 Pipe &straightPipe(ZaItem &item)
 {
     return dynamic_cast<Pipe &>(item.getCurrentViewObject());
+}
+
+void layOut(const Session &session, ZaItem &item)
+{
+    const QRectF geometry = itemLayout(session).geometry;
+    item.setPosition(geometry.topLeft());
+    item.setSize(geometry.size());
 }
 
 // Without these an earlier session would show through.
@@ -54,7 +63,7 @@ void showKind(const Session &session, ZaItem &item)
 // The same two controls move the model and the rear circle.
 void showAlignment(const Session &session, ZaItem &item)
 {
-    item.setFovDeg(session.fovYDEG);
+    item.setFovDeg(itemLayout(session).fovYDEG);
     item.rotate(session.rollDEG);
     item.setRearCircleActive(false);
     item.move(session.offset, 0.0);
@@ -81,13 +90,9 @@ void showPoints(const Session &session, ZaItem &item)
 
 } // namespace
 
-void layOutItem(ZaItem &item, const QSize &pictureSize)
-{
-    item.setSize(pictureSize);
-}
-
 void showSession(const Session &session, ZaItem &item)
 {
+    layOut(session, item);
     forgetPrevious(item);
     showScale(session, item);
     showKind(session, item);

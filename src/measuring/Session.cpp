@@ -1,5 +1,6 @@
 #include "measuring/Session.h"
 
+#include <algorithm>
 #include <cmath>
 #include <tuple>
 
@@ -16,6 +17,10 @@ constexpr double largestRollDEG = 3600.0;
 // Of the field of view: beyond, the picture of a pinhole camera is all distortion.
 constexpr double smallestFovDEG = 1.0;
 constexpr double largestFovDEG = 170.0;
+
+// Of the mouth's circle: a far joint in the middle, or one around the camera.
+constexpr double smallestMouthPercent = 5.0;
+constexpr double largestMouthPercent = 400.0;
 
 template <typename Value>
 struct Choice
@@ -66,10 +71,54 @@ bool samePoint(const QPointF &a, const QPointF &b)
     return std::make_tuple(a.x(), a.y()) == std::make_tuple(b.x(), b.y());
 }
 
+bool samePoints(const QVector<QPointF> &a, const QVector<QPointF> &b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), samePoint);
+}
+
+bool sameRings(const QVector<RingClicks> &a, const QVector<RingClicks> &b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](const RingClicks &x, const RingClicks &y) {
+                          return x.distanceMM == y.distanceMM && samePoints(x.points, y.points);
+                      });
+}
+
+bool sameLines(const QVector<LineClicks> &a, const QVector<LineClicks> &b)
+{
+    return std::equal(
+        a.begin(), a.end(), b.begin(), b.end(),
+        [](const LineClicks &x, const LineClicks &y) { return samePoints(x.points, y.points); });
+}
+
 auto choicesOf(const Session &s)
 {
     return std::tie(s.kind, s.unit, s.rearCircleActive, s.clockDEG, s.viewDownstream, s.jointShown,
-                    s.viewStyle, s.calibrationText, s.mmPerPixel, s.schemaMinor);
+                    s.viewStyle, s.calibrationText, s.mmPerPixel, s.fitsFov, s.schemaMinor);
+}
+
+Outcome checkClicks(const QString &place, const QVector<QPointF> &points)
+{
+    for (int i = 0; i < points.size(); ++i) {
+        if (!std::isfinite(points[i].x()) || !std::isfinite(points[i].y())) {
+            return Problem{QStringLiteral("%1.points[%2]").arg(place).arg(i),
+                           QStringLiteral("expected finite numbers")};
+        }
+    }
+    return {};
+}
+
+Outcome checkRing(const RingClicks &ring, int index)
+{
+    const QString place = QStringLiteral("rings[%1]").arg(index);
+    if (ring.distanceMM) {
+        if (const Outcome problem =
+                checkNumber(place + QStringLiteral(".distanceMM"), *ring.distanceMM,
+                            -largestRingDistanceMM, largestRingDistanceMM)) {
+            return problem;
+        }
+    }
+    return checkClicks(place, ring.points);
 }
 
 Outcome checkPoint(const SessionPoint &point, int index)
@@ -107,6 +156,7 @@ bool operator==(const Session &a, const Session &b)
         }
     }
     return choicesOf(a) == choicesOf(b) && a.picture == b.picture && a.points == b.points &&
+           sameRings(a.rings, b.rings) && sameLines(a.lines, b.lines) &&
            a.unknownFields == b.unknownFields;
 }
 
@@ -120,6 +170,7 @@ const QVector<SessionNumber> &sessionNumbers()
         {"fovYDEG", &Session::fovYDEG, smallestFovDEG, largestFovDEG},
         {"rearCircleX", &Session::rearCircleX, -largestShift, largestShift},
         {"rearCircleY", &Session::rearCircleY, -largestShift, largestShift},
+        {"mouthPercent", &Session::mouthPercent, smallestMouthPercent, largestMouthPercent},
         {"percentage", &Session::percentage, 0.0, 100.0},
         {"angleDEG", &Session::angleDEG, 0.0, 180.0},
     };
@@ -182,6 +233,17 @@ Outcome checkSession(const Session &session)
     if (session.mmPerPixel) {
         if (const Outcome problem = checkNumber(QStringLiteral("mmPerPixel"), *session.mmPerPixel,
                                                 smallestMMPerPixel, largestMMPerPixel)) {
+            return problem;
+        }
+    }
+    for (int i = 0; i < session.rings.size(); ++i) {
+        if (const Outcome problem = checkRing(session.rings[i], i)) {
+            return problem;
+        }
+    }
+    for (int i = 0; i < session.lines.size(); ++i) {
+        if (const Outcome problem =
+                checkClicks(QStringLiteral("lines[%1]").arg(i), session.lines[i].points)) {
             return problem;
         }
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "measuring/AlignmentFit.h"
 #include "measuring/Export.h"
 #include "measuring/Kind.h"
 #include "measuring/Result.h"
@@ -18,6 +19,10 @@
 #include <optional>
 
 namespace Drevon::Zalento::Measuring {
+
+/** Version of session files: "zalento-session 1.1". */
+constexpr int sessionSchemaMajor = 1;
+constexpr int sessionSchemaMinor = 1;
 
 /** Which picture a session belongs to. */
 struct PictureIdentity
@@ -65,9 +70,13 @@ struct Session
     bool rearCircleActive = false;          ///< gestures move the rear circle instead of the model
     double rearCircleX = 0.0;               ///< of the pipe's far end to the left, in gesture units
     double rearCircleY = 0.0;               ///< the same, down
-    double percentage = 0.0;                ///< KindInfo::percentage says of what
-    double angleDEG = 90.0;                 ///< of a branch, a bend or a joint
-    int clockDEG = 0; ///< where a branch, a bend or a joint points, clockwise from the top
+    double mouthPercent = 100.0; ///< drawing area over the picture's largest centred square
+    QVector<RingClicks> rings;   ///< clicks that the alignment is fitted to
+    QVector<LineClicks> lines;
+    bool fitsFov = false;    ///< the field of view is fitted, too, where the clicks give it
+    double percentage = 0.0; ///< KindInfo::percentage says of what
+    double angleDEG = 90.0;  ///< of a branch, a bend or a joint
+    int clockDEG = 0;        ///< where a branch, a bend or a joint points, clockwise from the top
     bool viewDownstream = true; ///< a bend is seen from the straight pipe
     bool jointShown = false;    ///< in the kind BendAngle: a joint instead of a bend
     ViewStyle viewStyle = ViewStyle::Full;
@@ -76,7 +85,9 @@ struct Session
     std::optional<double> mmPerPixel;
     QVector<SessionPoint> points;
     QJsonObject unknownFields; ///< of a file written by a later version; kept
-    int schemaMinor = 0;       ///< minor version of the file it was read from
+    /** Minor version of the file that it goes into: ours, or the later one of the file it is from.
+     */
+    int schemaMinor = sessionSchemaMinor;
 };
 
 ZALENTO_MEASURING_EXPORT bool operator==(const Session &a, const Session &b);
@@ -100,6 +111,8 @@ ZALENTO_MEASURING_EXPORT const QVector<SessionNumber> &sessionNumbers();
 /** Limits of Session::mmPerPixel. */
 constexpr double smallestMMPerPixel = 1e-6;
 constexpr double largestMMPerPixel = 1e4;
+/** Limit of RingClicks::distanceMM in both directions. */
+constexpr double largestRingDistanceMM = 1e7;
 /** Limit of Session::clockDEG in both directions. */
 constexpr int largestClockDEG = 3600;
 

@@ -249,6 +249,101 @@ QVector<SessionPoint> pointsFromJson(const QJsonArray &list, Outcome &problem)
     return points;
 }
 
+// Rings and lines
+
+QByteArray clicksToJson(const QVector<QPointF> &points)
+{
+    QJsonArray list;
+    for (const QPointF &point : points) {
+        list.append(QJsonArray{point.x(), point.y()});
+    }
+    return jsonText(list);
+}
+
+QByteArray ringsToJson(const QVector<RingClicks> &rings)
+{
+    QVector<QByteArray> texts;
+    for (const RingClicks &ring : rings) {
+        OrderedJson json;
+        json.add(QStringLiteral("distanceMM"),
+                 ring.distanceMM ? QJsonValue(*ring.distanceMM) : QJsonValue());
+        json.add(QStringLiteral("points"), clicksToJson(ring.points));
+        texts += json.toLine();
+    }
+    return jsonLines(texts, "  ");
+}
+
+QByteArray linesToJson(const QVector<LineClicks> &lines)
+{
+    QVector<QByteArray> texts;
+    for (const LineClicks &line : lines) {
+        OrderedJson json;
+        json.add(QStringLiteral("points"), clicksToJson(line.points));
+        texts += json.toLine();
+    }
+    return jsonLines(texts, "  ");
+}
+
+QVector<QPointF> clicksFromJson(FieldReader &reader, const QString &place, Outcome &problem)
+{
+    const QJsonValue value = reader.take("points");
+    QVector<QPointF> points;
+    if (!reader.expect("points", value, value.isArray(), "a list of places [x, y]")) {
+        return points;
+    }
+    const QJsonArray list = value.toArray();
+    for (int i = 0; i < list.size() && !problem; ++i) {
+        const QJsonArray xy = list[i].toArray();
+        if (xy.size() == 2 && xy[0].isDouble() && xy[1].isDouble()) {
+            points += QPointF(xy[0].toDouble(), xy[1].toDouble());
+        } else {
+            problem = Problem{QStringLiteral("%1.points[%2]").arg(place).arg(i),
+                              QStringLiteral("expected a list of x and y in pixels, found %1")
+                                  .arg(typeName(list[i]))};
+        }
+    }
+    return points;
+}
+
+RingClicks ringFromJson(const QJsonObject &object, const QString &place, Outcome &problem)
+{
+    RingClicks ring;
+    FieldReader reader(object, place + QLatin1Char('.'), problem);
+    const QJsonValue distance = reader.take("distanceMM");
+    if (!distance.isNull() &&
+        reader.expect("distanceMM", distance, distance.isDouble(), "a number or null")) {
+        ring.distanceMM = distance.toDouble();
+    }
+    ring.points = clicksFromJson(reader, place, problem);
+    return ring;
+}
+
+LineClicks lineFromJson(const QJsonObject &object, const QString &place, Outcome &problem)
+{
+    FieldReader reader(object, place + QLatin1Char('.'), problem);
+    return {clicksFromJson(reader, place, problem)};
+}
+
+template <typename Clicks, typename Read>
+void readClickLists(FieldReader &reader, const char *name, QVector<Clicks> &lists, Read read,
+                    Outcome &problem)
+{
+    const QJsonValue value = reader.take(name);
+    if (!reader.expect(name, value, value.isArray(), "a list")) {
+        return;
+    }
+    const QJsonArray list = value.toArray();
+    for (int i = 0; i < list.size() && !problem; ++i) {
+        const QString place = QStringLiteral("%1[%2]").arg(QLatin1String(name)).arg(i);
+        if (list[i].isObject()) {
+            lists += read(list[i].toObject(), place, problem);
+        } else {
+            problem = Problem{
+                place, QStringLiteral("expected an object, found %1").arg(typeName(list[i]))};
+        }
+    }
+}
+
 // Schema
 
 QString schemaText(int minor)
@@ -256,7 +351,7 @@ QString schemaText(int minor)
     return QStringLiteral("%1 %2.%3")
         .arg(QLatin1String(schemaName))
         .arg(sessionSchemaMajor)
-        .arg(std::max(minor, sessionSchemaMinor));
+        .arg(minor);
 }
 
 void readSchema(FieldReader &reader, Session &session, Outcome &problem)
@@ -266,9 +361,9 @@ void readSchema(FieldReader &reader, Session &session, Outcome &problem)
     const QJsonValue value = reader.take("schema");
     const auto match = pattern.match(value.toString());
     if (!match.hasMatch()) {
-        problem = Problem{
-            QStringLiteral("schema"),
-            QStringLiteral("expected \"%1\", found %2").arg(schemaText(0), typeName(value))};
+        problem = Problem{QStringLiteral("schema"),
+                          QStringLiteral("expected \"%1\", found %2")
+                              .arg(schemaText(sessionSchemaMinor), typeName(value))};
     } else if (match.captured(1).toInt() > sessionSchemaMajor) {
         problem = Problem{QStringLiteral("schema"),
                           QStringLiteral("the session has version %1.%2, this program reads up to "
@@ -276,7 +371,7 @@ void readSchema(FieldReader &reader, Session &session, Outcome &problem)
                               .arg(match.captured(1), match.captured(2))
                               .arg(sessionSchemaMajor)};
     }
-    session.schemaMinor = match.captured(2).toInt();
+    session.schemaMinor = std::max(match.captured(2).toInt(), sessionSchemaMinor);
 }
 
 // The rest
@@ -291,6 +386,7 @@ void readChoices(FieldReader &reader, Session &session)
     reader.readChoice("direction", session.viewDownstream, directionNamed,
                       "\"downstream\" or \"upstream\"");
     reader.read("jointShown", session.jointShown);
+    reader.read("fitsFov", session.fitsFov);
     reader.readChoice("viewStyle", session.viewStyle, viewStyleNamed,
                       "\"measure\", \"ends\" or \"full\"");
     reader.read("calibration", session.calibrationText);
@@ -330,6 +426,8 @@ void readFields(FieldReader &reader, Session &session, Outcome &problem)
     if (reader.expect("points", points, points.isArray(), "a list")) {
         session.points = pointsFromJson(points.toArray(), problem);
     }
+    readClickLists(reader, "rings", session.rings, ringFromJson, problem);
+    readClickLists(reader, "lines", session.lines, lineFromJson, problem);
     session.unknownFields = reader.rest();
 }
 
@@ -351,6 +449,9 @@ QByteArray sessionToJson(const Session &session)
     for (const SessionNumber &number : sessionNumbers()) {
         json.add(QLatin1String(number.name), session.*number.member);
     }
+    json.add(QStringLiteral("rings"), ringsToJson(session.rings));
+    json.add(QStringLiteral("lines"), linesToJson(session.lines));
+    json.add(QStringLiteral("fitsFov"), session.fitsFov);
     json.add(QStringLiteral("points"), pointsToJson(session.points));
     json.addAll(session.unknownFields);
     return json.toLines("") + "\n";

@@ -10,10 +10,6 @@
 
 namespace Drevon::Zalento::Measuring {
 
-/** Version of the session files that are written: "zalento-session 1.0". */
-constexpr int sessionSchemaMajor = 1;
-constexpr int sessionSchemaMinor = 0;
-
 /** The session as UTF-8 JSON: the schema first, unknown fields last. */
 ZALENTO_MEASURING_EXPORT QByteArray sessionToJson(const Session &session);
 

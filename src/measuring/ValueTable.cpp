@@ -31,6 +31,51 @@ QByteArray valueList(const QVector<Value> &values)
     return "[" + texts.join(", ") + "]";
 }
 
+QByteArray namesJson(const QVector<AlignmentField> &fields)
+{
+    QJsonArray names;
+    for (const AlignmentField field : fields) {
+        names.append(alignmentFieldName(field));
+    }
+    return jsonText(names);
+}
+
+QByteArray uncertaintiesJson(const std::optional<AlignmentFit> &fit)
+{
+    OrderedJson json;
+    for (const AlignmentField field : fit ? fit->fitted : QVector<AlignmentField>()) {
+        json.add(alignmentFieldName(field), fit->standardUncertainty(field));
+    }
+    return json.toLine();
+}
+
+QByteArray alignmentJson(const AlignmentSummary &summary)
+{
+    const std::optional<AlignmentFit> &fit = summary.fit;
+    const Alignment &alignment = summary.alignment;
+    OrderedJson json;
+    json.add(QStringLiteral("fitted"), namesJson(fit ? fit->fitted : QVector<AlignmentField>()));
+    json.add(QStringLiteral("rings"), summary.rings);
+    json.add(QStringLiteral("lines"), summary.lines);
+    json.add(QStringLiteral("rmsPX"), fit ? QJsonValue(fit->rmsPX) : QJsonValue());
+    json.add(QStringLiteral("largestPX"), fit ? QJsonValue(fit->largestPX) : QJsonValue());
+    json.add(QStringLiteral("offset"), alignment.offset);
+    json.add(QStringLiteral("cameraHeightPercent"), alignment.cameraHeightPercent);
+    json.add(QStringLiteral("rearCircle"),
+             QJsonArray{alignment.rearCircleX, alignment.rearCircleY});
+    json.add(QStringLiteral("mouthPercent"), alignment.mouthPercent);
+    json.add(QStringLiteral("fovYDEG"), alignment.fovYDEG);
+    json.add(QStringLiteral("standardUncertainties"), uncertaintiesJson(fit));
+    json.add(QStringLiteral("undetermined"),
+             namesJson(fit ? fit->undetermined : QVector<AlignmentField>()));
+    return json.toLine();
+}
+
+QString counted(int count, const char *one, const char *many)
+{
+    return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
+}
+
 QString csvField(QString field)
 {
     const bool needsQuotes = field.contains(QLatin1Char(',')) || field.contains(QLatin1Char('"')) ||
@@ -55,6 +100,36 @@ QString statusName(Status status)
         break;
     }
     return QStringLiteral("failed");
+}
+
+AlignmentSummary alignmentSummary(const Session &session, const std::optional<AlignmentFit> &fit)
+{
+    return {alignmentOf(session), session.rings.size(), session.lines.size(), fit};
+}
+
+QString fitText(const AlignmentSummary &summary)
+{
+    if (!summary.fit) {
+        return QStringLiteral("not fitted");
+    }
+    QStringList features;
+    if (summary.rings > 0) {
+        features += counted(summary.rings, "joint", "joints");
+    }
+    if (summary.lines > 0) {
+        features += counted(summary.lines, "line", "lines");
+    }
+    QStringList left;
+    for (const AlignmentField field : summary.fit->undetermined) {
+        left += alignmentFieldName(field);
+    }
+    const QString text = QStringLiteral("fitted to %1, rms %2 px, largest %3 px")
+                             .arg(features.join(QStringLiteral(" and ")))
+                             .arg(summary.fit->rmsPX, 0, 'f', 2)
+                             .arg(summary.fit->largestPX, 0, 'f', 2);
+    return left.isEmpty()
+               ? text
+               : text + QStringLiteral("; not determined: ") + left.join(QStringLiteral(", "));
 }
 
 QByteArray csvRecord(const QStringList &fields)
@@ -97,6 +172,9 @@ OrderedJson valuesJson(const PictureValues &picture)
     json.add(QStringLiteral("kind"), kindName(picture));
     json.add(QStringLiteral("status"), statusName(picture.status));
     json.add(QStringLiteral("values"), valueList(picture.values));
+    if (picture.alignment) {
+        json.add(QStringLiteral("alignment"), alignmentJson(*picture.alignment));
+    }
     json.add(QStringLiteral("message"), picture.message);
     json.add(QStringLiteral("written"), QJsonArray::fromStringList(picture.written));
     return json;

@@ -4,6 +4,7 @@
 #include "measuring/Measurement.h"
 #include "measuring/OrderedJson.h"
 #include "measuring/Session.h"
+#include "measuring/SessionFit.h"
 
 #include <QByteArray>
 #include <QString>
@@ -25,6 +26,22 @@ enum class Status { Measured, NoValue, Failed };
 /** "measured", "no value" or "failed". */
 ZALENTO_MEASURING_EXPORT QString statusName(Status status);
 
+/** Where the model stands, and what its fit says. */
+struct AlignmentSummary
+{
+    Alignment alignment;
+    int rings = 0; ///< clicked
+    int lines = 0;
+    std::optional<AlignmentFit> fit;
+};
+
+/** The same for a session and its fit, if it has one. */
+ZALENTO_MEASURING_EXPORT AlignmentSummary alignmentSummary(const Session &session,
+                                                           const std::optional<AlignmentFit> &fit);
+
+/** What a fit says, in a line: "fitted to 2 joints, rms 0.8 px, largest 1.9 px". */
+ZALENTO_MEASURING_EXPORT QString fitText(const AlignmentSummary &alignment);
+
 /** The values measured on one picture. */
 struct PictureValues
 {
@@ -33,8 +50,9 @@ struct PictureValues
     std::optional<Kind> kind; ///< nothing before it is known
     Status status = Status::Failed;
     QVector<Value> values;
-    QString message;     ///< why there is no value; else empty
-    QStringList written; ///< files
+    std::optional<AlignmentSummary> alignment; ///< of the model; nothing before it is known
+    QString message;                           ///< why there is no value; else empty
+    QStringList written;                       ///< files
 };
 
 /** The first record of a table, with the names of its columns. */

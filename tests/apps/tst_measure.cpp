@@ -78,7 +78,11 @@ void TestMeasure::printsEveryFormat_data()
         << QByteArray("{\"picture\": \"a.png\", \"size\": [64,48], \"sha256\": \"HASH\", "
                       "\"kind\": \"WaterLevel\", \"status\": \"measured\", \"values\": "
                       "[{\"name\": \"waterLevel\", \"number\": 12.5, \"unit\": \"%\", \"text\": "
-                      "\"13 %\"}], \"message\": \"\", \"written\": []}\n"
+                      "\"13 %\"}], \"alignment\": {\"fitted\": [], \"rings\": 0, \"lines\": 0, "
+                      "\"rmsPX\": null, \"largestPX\": null, \"offset\": 0, "
+                      "\"cameraHeightPercent\": 50, \"rearCircle\": [0,0], \"mouthPercent\": 100, "
+                      "\"fovYDEG\": 37.5, \"standardUncertainties\": {}, \"undetermined\": []}, "
+                      "\"message\": \"\", \"written\": []}\n"
                       "{\"picture\": \"none.png\", \"kind\": \"\", \"status\": \"failed\", "
                       "\"values\": [], \"message\": \"none.png: there is no such file\", "
                       "\"written\": []}\n");

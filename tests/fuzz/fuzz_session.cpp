@@ -54,7 +54,6 @@ void checkMeasured(Session session)
     }
     ZaItem::sharedMainPipeDiameter() = 300; // as in a new process
     ZaItem item;
-    layOutItem(item, smallPicture);
     showSession(session, item);
     FUZZ_VERIFY(!checkSession(session));
 }

@@ -112,10 +112,10 @@ void TestSession::refusesMalformed_data()
     };
     row("cut off in line 2", "{\n\"schema\": ", "in line 2");
     row("a list", "[]", "not a JSON object");
-    row("no schema", "{}", "schema: expected \"zalento-session 1.0\", found nothing");
+    row("no schema", "{}", "schema: expected \"zalento-session 1.1\", found nothing");
     row("another program's schema", "{\"schema\": \"other 1.0\"}", "found the text \"other 1.0\"");
     row("major version that never was", "{\"schema\": \"zalento-session 0.9\"}",
-        "schema: expected \"zalento-session 1.0\"");
+        "schema: expected \"zalento-session 1.1\"");
     row("newer major version", "{\"schema\": \"zalento-session 2.1\"}",
         "version 2.1, this program reads up to version 1; please use a newer Zalento");
     row("text for a number", minimal("\"diameterMM\": \"300\""),

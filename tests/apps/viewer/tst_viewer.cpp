@@ -263,7 +263,7 @@ void TestViewer::pointsAreCorrected()
     d.click(-3, 288);
     QCOMPARE(d.guidance.level(), Guidance::Warning);
     QCOMPARE(d.editor.points()->count(), 1);
-    d.click(384, 288);
+    d.click(390, 288);
     QVERIFY(d.guidance.text().contains("beyond"));
 }
 
