@@ -35,7 +35,6 @@ private slots:
     void refusesWrongUsage_data();
     void refusesWrongUsage();
     void optionsReachTheSession();
-    void whatIsLeftOutStays();
     void laserSpotsAreTwoWordsOrOne();
     void helpAndManualNameEveryOption();
     void examplesAreUnderstood();
@@ -108,23 +107,6 @@ void TestCommandLine::optionsReachTheSession()
     QCOMPARE(crack.points.size(), 2);
     QCOMPARE(crack.points[1].pixel, QPointF(-3, 4));
     QVERIFY(!crack.points[1].position);
-}
-
-void TestCommandLine::whatIsLeftOutStays()
-{
-    Session session;
-    session.kind = Kind::CrackWidth;
-    session.rollDEG = 12;
-    session.unit = MeasureUnit::Imperial;
-    session.mmPerPixel = 3;
-    session.rearCircleActive = true;
-    session.points = {{QPointF(1, 2), Vec3(1, 2, 3), {}}};
-    QVERIFY(appliedTo(session, "measure a") == session);
-    session.fovYDEG = 50;
-    QVERIFY(appliedTo(session, "measure --fov 50 --kind CrackWidth a") == session);
-    QCOMPARE(appliedTo(session, "measure --click 5,6 a").points.size(), 1);
-    QVERIFY(!appliedTo(session, "measure --click 5,6 a").points[0].position);
-    QVERIFY(appliedTo(session, "measure --kind PipeDimension a").points.isEmpty());
 }
 
 void TestCommandLine::laserSpotsAreTwoWordsOrOne()

@@ -35,7 +35,6 @@ private slots:
     void answers_data();
     void answers();
     void writesOverlays();
-    void keepsWhatALaterVersionWrote();
     void anotherPictureIsNotOverwritten();
     void foldersAreSorted();
     void namesComeFromTheInput();
@@ -203,29 +202,6 @@ void TestMeasure::writesOverlays()
     QCOMPARE(overlay.pixelColor(0, 0), original.pixelColor(0, 0)); // the model leaves the corners
     QVERIFY(readBytes(path("out/x/a.overlay.svg")).contains("viewBox=\"0 0 64 48\""));
     QCOMPARE(readBytes(path("a.png")), before);
-}
-
-void TestMeasure::keepsWhatALaterVersionWrote()
-{
-    const QByteArray newer = R"({"schema": "zalento-session 1.7", "kind": "PipeDimension",
-        "picture": {"camera": "front"}, "later": [1, {"a": null}], "points":
-        [{"pixel": [20, 10], "label": "A"}, {"pixel": [40, 33], "label": "B"}]})";
-    QVERIFY(writeBytes(path("a.png.zalento.json"), newer));
-    const QStringList save = words("measure --fov 50 --save-session --force a.png");
-    QCOMPARE(runProgram(save).code, int(AllMeasured));
-    const QByteArray saved = readBytes(path("a.png.zalento.json"));
-    for (const char *kept :
-         {"zalento-session 1.7", "\"later\": [1,{\"a\":null}]", "\"fovYDEG\": 50",
-          "\"camera\": \"front\"", "\"label\": \"A\"", "\"label\": \"B\""}) {
-        QVERIFY2(saved.contains(kept), kept);
-    }
-
-    QVERIFY(writeBytes(path("a.png.zalento.json"), "{\"schema\": \"zalento-session 2.0\"}"));
-    const QByteArray before = folderState(m_dir->path());
-    const Run refused = runProgram(save);
-    QCOMPARE(refused.code, int(CannotReadOrWrite));
-    QVERIFY(refused.messages.contains("please use a newer Zalento"));
-    QCOMPARE(folderState(m_dir->path()), before);
 }
 
 void TestMeasure::anotherPictureIsNotOverwritten()

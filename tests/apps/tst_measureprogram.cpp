@@ -92,41 +92,10 @@ class TestMeasureProgram : public TestCase
     Q_OBJECT
 
 private slots:
-    void surroundingsChangeNothing_data();
-    void surroundingsChangeNothing();
     void noticesStreamsThatFail_data();
     void noticesStreamsThatFail();
     void exitsAsToldByUsage();
 };
-
-void TestMeasureProgram::surroundingsChangeNothing_data()
-{
-    QTest::addColumn<QStringList>("environment");
-    QTest::newRow("decimal comma") << QStringList{"LC_ALL=de_DE.UTF-8", "LANG=de_DE.UTF-8"};
-    QTest::newRow("plain locale") << QStringList{"LC_ALL=C", "LANG=C"};
-    QTest::newRow("locale that is not there") << QStringList{"LC_ALL=xx_YY", "LANG=xx_YY"};
-    QTest::newRow("window system that is not there")
-        << QStringList{"QT_QPA_PLATFORM=xcb", "DISPLAY=", "XDG_RUNTIME_DIR="};
-}
-
-void TestMeasureProgram::surroundingsChangeNothing()
-{
-    QFETCH(QStringList, environment);
-    const QTemporaryDir dir;
-    const QString picture = dir.filePath(QStringLiteral("Rohr ä.png"));
-    QVERIFY(greyPicture(QSize(64, 48)).save(picture));
-    const QStringList arguments =
-        water + QStringList{"--overlay", "svg", "--save-session", "--force", picture};
-    QCOMPARE(start(arguments).code, 0);
-    const QByteArray files = folderState(dir.path());
-    QVERIFY(files.contains("\"percentage\": 12.5,") && files.contains("<svg"));
-    const Run outcome = start(arguments, environment);
-    QCOMPARE(outcome.code, 0);
-    QCOMPARE(outcome.output, picture.toUtf8() + ": waterLevel 13 % (12.5 %)\n");
-    QCOMPARE(outcome.messages.count('\n'), 2);
-    QCOMPARE(outcome.messages.count("zalento-measure: wrote "), 2);
-    QCOMPARE(folderState(dir.path()), files);
-}
 
 void TestMeasureProgram::noticesStreamsThatFail_data()
 {

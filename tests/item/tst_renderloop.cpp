@@ -72,7 +72,6 @@ class TestRenderLoop : public TestCase
 private slots:
     void initTestCase();
     void paintsWhereTheLoopRendersAndReportsOnTheGuiThread();
-    void gesturesBetweenFrames();
 
 private:
     Witness m_witness;
@@ -113,27 +112,6 @@ void TestRenderLoop::paintsWhereTheLoopRendersAndReportsOnTheGuiThread()
     QCOMPARE(m_witness.threads, QSet<QThread *>{QThread::currentThread()});
     QCOMPARE(m_item->paintsElsewhere > 0, expectsThread());
     QCOMPARE(m_item->paintsOnGuiThread > 0, !expectsThread());
-}
-
-void TestRenderLoop::gesturesBetweenFrames()
-{
-    const QStringList kinds{"WaterLevel", "BranchAngle", "BendAngle", "CrossSection", "CrackWidth"};
-    for (const QString &kind : kinds) {
-        const int paintsBefore = m_item->paints();
-        m_item->setiWantToMeasure(kind);
-        for (int step = 1; step <= 8; ++step) {
-            m_item->setDiameter(200 + step);
-            m_item->setPercentage(step);
-            m_item->setAngle(40 + step);
-            m_item->setClock(step);
-            m_item->setCameraHeight(40 + step);
-            m_item->moveScaleRotate(1, 0, 1, step);
-            m_item->setRearCircleActive(step % 2 == 0);
-            m_item->mouseClick(150 + 2 * step, 100 + step * step % 90);
-            QVERIFY(QTest::qWaitFor([&] { return m_item->paints() >= paintsBefore + step; }));
-        }
-    }
-    QCOMPARE(m_witness.threads, QSet<QThread *>{QThread::currentThread()});
 }
 
 QTEST_MAIN(TestRenderLoop)

@@ -161,6 +161,9 @@ QStringList paintedLines(const QString &steps)
     item.paint(&painter);
     QStringList lines = linesOf(recorder.calls());
     lines += "measures | " + numbers({item.measure1(), item.measure2()});
+    if (const auto *lateral = dynamic_cast<const PipeLateral *>(&item.getCurrentViewObject())) {
+        lines += "branch | " + numbers({lateral->lateralCylinder.lengthM});
+    }
     if (const auto *pipe = dynamic_cast<const Pipe *>(&item.getCurrentViewObject())) {
         for (const HitPoint &point : pipe->hitPoints) {
             lines += "point | " + numbers({point.position.x, point.position.y, point.position.z});

@@ -127,13 +127,10 @@ private slots:
     void startsWithDefaults();
     void control_data();
     void control();
-    void notANumberChangesNothing();
-    void rearCircleTakesOverTwoControls();
     void measuresAreThoseOfTheStraightPipeOnView();
 
     void kind_data();
     void kind();
-    void sameKindAgainKeepsThePoints();
 
     void record_data();
     void record();
@@ -287,32 +284,6 @@ void TestZaItem::control()
     QCOMPARE(log.take().join(' '), sentAgain);
 }
 
-void TestZaItem::notANumberChangesNothing()
-{
-    ZaItem item;
-    for (const char *property : {"diameter", "percentage", "cameraHeight", "angle", "vertFov"}) {
-        item.setViewMode(property == QByteArray("angle") ? 1 : 0);
-        item.setProperty(property, 40.0);
-        const QVariant before = item.property(property);
-        SignalLog log(item);
-        item.setProperty(property, notANumber);
-        QVERIFY2(item.property(property) == before && log.take().isEmpty(), property);
-    }
-}
-
-void TestZaItem::rearCircleTakesOverTwoControls()
-{
-    ZaItem item;
-    item.setRearCircleActive(true);
-    SignalLog log(item);
-    item.setCameraHeight(70);
-    QCOMPARE(log.take(), QStringList("cameraHeightChanged(70)"));
-    QCOMPARE(item.cameraHeight(), 0.5);
-    item.setRearCircleActive(false);
-    item.setCameraHeight(20);
-    QCOMPARE(item.cameraHeight(), 0.2);
-}
-
 void TestZaItem::measuresAreThoseOfTheStraightPipeOnView()
 {
     ZaItem item;
@@ -369,21 +340,6 @@ void TestZaItem::kind()
     QTEST(static_cast<int>(pipeOf(item).measureMode), "measureMode");
     QTEST(item.measureType(), "measureType");
     QVERIFY(pipeOf(item).hitPoints.empty());
-}
-
-void TestZaItem::sameKindAgainKeepsThePoints()
-{
-    ZaItem item;
-    setSize(item, 600, 600);
-    item.setViewMode(2);
-    item.setiWantToMeasure(""); // as on a new item
-    QCOMPARE(item.viewObject(), 2);
-    item.setiWantToMeasure("CrackWidth");
-    item.mouseClick(10, 10);
-    item.setViewMode(2);
-    item.setiWantToMeasure("CrackWidth");
-    QCOMPARE(pipeOf(item).hitPoints.size(), std::size_t(1));
-    QCOMPARE(item.viewObject(), 2);
 }
 
 void TestZaItem::record_data()

@@ -50,29 +50,6 @@ class TestMat4 : public TestCase
     Q_OBJECT
 
 private slots:
-    void storesByColumns()
-    {
-        Mat4 m;
-        m.set(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16);
-        const double stored[16] = {1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15, 4, 8, 12, 16};
-        for (unsigned i = 0; i < 16; ++i) {
-            COMPARE_EXACT(m[i], stored[i]);
-            COMPARE_EXACT(counted[i], stored[i]);
-        }
-        m.transpose();
-        COMPARE_EXACT(m, Mat4(1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15, 4, 8, 12, 16));
-        m.identity();
-        COMPARE_EXACT(m, Mat4(1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1));
-        for (const unsigned index : {16U, ~0U}) {
-            try {
-                m[index] = counted[index];
-                QFAIL("an index too large was taken");
-            } catch (const std::out_of_range &e) {
-                QCOMPARE(e.what(), "index too large");
-            }
-        }
-    }
-
     void inverseTimesMatrixIsIdentity()
     {
         // Some random matrices are badly conditioned; their inverses carry as much more rounding.

@@ -124,18 +124,6 @@ class TestPipe : public TestCase
     Q_OBJECT
 
 private slots:
-    void initialState()
-    {
-        const Pipe pipe;
-        COMPARE_EXACT(pipe.getDiameterM(), 0.1);
-        QCOMPARE(pipe.selectedIndex, -1);
-        QCOMPARE(pipe.cameraCrackIni, std::string("LASER;;;50"));
-        QVERIFY(pipe.laserPresent && !pipe.laserCalibrated && !pipe.cylinder.verticesUpToDate);
-        QVERIFY(pipe.hitPoints.empty() && pipe.highlightPoint == Vec3::Zero);
-        QCOMPARE(pipe.laserScale + pipe.laserDistance, 0.0); // nothing is parsed yet
-        QCOMPARE(pipe.metaObject()->className(), "Drevon::Zalento::Pipe");
-    }
-
     void clicks_data()
     {
         QTest::addColumn<QString>("steps");
@@ -191,16 +179,6 @@ private slots:
         if (closed && mode == MeasureMode::CrossSection) {
             COMPARE_EXACT(pipe.hitPoints.back().position, pipe.hitPoints.front().position);
         }
-    }
-
-    void closingCopiesTheWholeFirstPoint()
-    {
-        MeasuredPipe pipe(MeasureMode::CrossSection);
-        pipe.hitPoints = {HitPoint({1, 0, 0}), HitPoint({2, 0, 0}), HitPoint({3, 0, 0})};
-        pipe.hitPoints[0].isAnchor = false;
-        pipe.selectedIndex = 0;
-        pipe.click('D');
-        QVERIFY(pipe.hitPoints.size() == 4 && !pipe.hitPoints[3].isAnchor);
     }
 
     void snapping()

@@ -131,18 +131,6 @@ private slots:
         check();
     }
 
-    void interpolationSortsItsTable()
-    {
-        Pipe pipe;
-        std::vector<Pipe::CalibrationPoint> rows{{300, 3}, {100, 1}, {200, 2}};
-        pipe.interpolatePipeDiameter(rows, 100); // the first row has none before it
-        QVERIFY(!pipe.laserCalibrated);
-        QCOMPARE(rows.front().diameterMM, 100.0);
-        pipe.interpolatePipeDiameter(rows, 300);
-        COMPARE_EXACT(pipe.laserScale, 3.0);
-        QVERIFY(pipe.laserCalibrated);
-    }
-
     void laserSpots_data()
     {
         QTest::addColumn<QVector<double>>("spots");

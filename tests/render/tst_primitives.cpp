@@ -231,32 +231,6 @@ private slots:
         QCOMPARE(image.pixelColor(2, 5), QColor(Qt::red)); // the circle around (5, 5)
     }
 
-    void insideConvex_data()
-    {
-        QTest::addColumn<Outline>("outline");
-        QTest::addColumn<Vec2>("point");
-        QTest::addColumn<bool>("inside");
-        QTest::newRow("on an edge") << square << Vec2(100, 50) << true;
-        QTest::newRow("on a corner") << square << Vec2(0, 100) << true;
-        QTest::newRow("above") << square << Vec2(50, -0.001) << false;
-        QTest::newRow("right") << square << Vec2(100.001, 50) << false;
-        QTest::newRow("below") << square << Vec2(50, 100.001) << false;
-        QTest::newRow("left") << square << Vec2(-0.001, 50) << false;
-        QTest::newRow("three points")
-            << Outline(square.begin(), square.begin() + 3) << Vec2(60, 50) << false;
-        QTest::newRow("last edge missing")
-            << Outline(square.begin(), square.end() - 1) << Vec2(-50, 50) << true;
-        QTest::newRow("counter-clockwise")
-            << Outline(square.rbegin(), square.rend()) << Vec2(50, 50) << false;
-    }
-
-    void insideConvex()
-    {
-        QFETCH(Outline, outline);
-        QFETCH(Vec2, point);
-        QTEST(MiniGL().pointIsInsideConvex(point, outline), "inside");
-    }
-
     void pointOnOutline_data()
     {
         QTest::addColumn<Vec2>("inside");
@@ -283,17 +257,6 @@ private slots:
         QFETCH(Vec2, outside);
         QFETCH(Vec2, expected);
         COMPARE_EXACT(MiniGL().pointOnPolygon(inside, outside, square), expected);
-    }
-
-    void pointInsideEllipse()
-    {
-        const Ellipse wide(1, 2, 2, 1);
-        QVERIFY(wide.pointIsInside(3, 2) && wide.pointIsInside(1, 1));
-        QVERIFY(!wide.pointIsInside(3, 2.1) && !wide.pointIsInside(1, 3.001));
-        QVERIFY(!wide.pointIsInside(notANumber, 2));
-        QVERIFY(Ellipse().pointIsInside(0, -1) && !Ellipse().pointIsInside(0.8, 0.8));
-        COMPARE_EXACT(Ellipse(0, 0, 0, 4).invRadiusXSq, infinity);
-        COMPARE_EXACT(Ellipse(0, 0, 0, 4).invRadiusYSq, 1 / 16.0);
     }
 };
 

@@ -35,7 +35,6 @@ private slots:
     void lengthText();
     void areaText_data();
     void areaText();
-    void decimalMarks();
     void clockToAngle_data();
     void clockToAngle();
     void angleToClock_data();
@@ -161,19 +160,6 @@ void TestUnitConv::areaText()
     QFETCH(MeasureUnit, unit);
     const CommaLocale comma; // has no influence
     QTEST(UnitConv::areaStr(mm2, unit), "expected");
-}
-
-void TestUnitConv::decimalMarks()
-{
-    QCOMPARE(UnitConv::cultureIndependentDecimalSeparator("1,5;2,25"), QString("1.5;2.25"));
-    QCOMPARE(UnitConv::cultureIndependentDecimalSeparator("1.5"), QString("1.5"));
-    QCOMPARE(UnitConv::replaceDecimalSeparator("1.5.2"), QString("1.5.2"));
-    UnitConv::decimalSeparator = ',';
-    QCOMPARE(UnitConv::replaceDecimalSeparator("1.5.2"), QString("1,5,2"));
-    QCOMPARE(UnitConv::lenStr(250, metric), QString("25,0 cm"));
-    QCOMPARE(UnitConv::lenStr(45, imperial), QString("1,77''"));
-    QCOMPARE(UnitConv::areaStr(2500000, metric), QString::fromUtf8("2,50 m²"));
-    QCOMPARE(UnitConv::areaStr(1e6, imperial), QString::fromUtf8("10,76 ft²"));
 }
 
 void TestUnitConv::clockToAngle_data()

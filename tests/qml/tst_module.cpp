@@ -1,4 +1,0 @@
-// Runs the tst_*.qml of this folder.
-#include <QtQuickTest>
-
-QUICK_TEST_MAIN(module)
