@@ -3,6 +3,7 @@
 #include "measuring/Editing.h"
 #include "measuring/Kind.h"
 #include "measuring/SessionFile.h"
+#include "measuring/SessionFit.h"
 
 #include <QFileInfo>
 
@@ -185,6 +186,7 @@ void DocumentList::startSession(Document &document, const Session &fresh)
     } else {
         takeOverPicture(document);
     }
+    fitAlignment(document);
     placePoints(document);
 }
 
@@ -222,6 +224,18 @@ void DocumentList::takeOverPicture(Document &document)
             tr("Careful, %1. Nothing is overwritten until you confirm it.").arg(*difference));
     }
     session.picture = m_picture->identity;
+}
+
+// The same clicks give the same alignment; a file that was written by hand gets it here.
+void DocumentList::fitAlignment(Document &document)
+{
+    if (!Measuring::hasAlignmentClicks(*document.session)) {
+        return;
+    }
+    const auto fit = Measuring::fitSession(*document.session);
+    if (!fit) {
+        m_guidance.notice(Guidance::Warning, fit.problem().text());
+    }
 }
 
 void DocumentList::placePoints(Document &document)

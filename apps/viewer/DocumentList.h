@@ -96,6 +96,7 @@ private:
     void startSession(Document &document, const Measuring::Session &fresh);
     void loadSession(Document &document);
     void takeOverPicture(Document &document);
+    void fitAlignment(Document &document);
     void placePoints(Document &document);
 
     Preferences &m_preferences;

@@ -6,6 +6,10 @@
 
 #include <zalento/geometry/Cylinder.h>
 
+#include <QLineF>
+
+#include <cmath>
+
 namespace Drevon::Zalento {
 
 using Measuring::Session;
@@ -35,6 +39,8 @@ void MeasurementEditor::click(const QPointF &pixel)
         m_guidance.notice(Guidance::Warning, tr("That is beside the picture."));
     } else if (m_laserSpotsExpected > 0) {
         addLaserSpot(pixel);
+    } else if (m_tool != Tool::Measure) {
+        addAlignmentClick(pixel);
     } else if (infoOf(session()->kind).has(Uses::Points)) {
         setPointAt(pixel);
     } else if (session()->kind == Measuring::Kind::WaterLevel) {
@@ -78,17 +84,35 @@ bool MeasurementEditor::beginDrag(const QPointF &pixel, double radius)
     if (!isReady()) {
         return false;
     }
-    m_draggedPoint = m_points.nearest(pixel, radius);
-    if (m_draggedPoint < 0 && !hasModel()) {
+    m_dragStart = pixel;
+    m_draggedClick = m_tool == Tool::Measure ? -1 : nearestAlignmentClick(pixel, radius);
+    m_draggedPoint = m_tool == Tool::Measure ? m_points.nearest(pixel, radius) : -1;
+    const bool isModel = m_draggedClick < 0 && m_draggedPoint < 0;
+    if (isModel && !beginModelDrag(pixel, radius)) {
         return false;
     }
     m_gestureStart = sessionCopy();
-    m_dragStart = pixel;
-    if (m_draggedPoint >= 0) {
-        // The point keeps its distance from the pointer.
+    // What is dragged keeps its distance from the pointer.
+    if (m_draggedClick >= 0) {
+        m_dragAnchor = *alignmentClicksOf(*m_gestureStart).at(m_draggedClick);
+    } else if (m_draggedPoint >= 0) {
         m_dragAnchor = m_points.at(m_draggedPoint);
         selectPoint(m_draggedPoint);
     }
+    return true;
+}
+
+// A grip on the mouth's rim changes its size, any other its place.
+bool MeasurementEditor::beginModelDrag(const QPointF &pixel, double radius)
+{
+    if (!hasModel() || m_isLocked || m_tool != Tool::Measure) {
+        return false;
+    }
+    const MouthCircle mouth = mouthCircle(*session());
+    const double distance = QLineF(mouth.centre, pixel).length();
+    const bool isRim =
+        !rearCircleActive() && distance > 0.0 && std::abs(distance - mouth.radius) <= radius;
+    m_rimStart = isRim ? distance : 0.0;
     return true;
 }
 
@@ -98,27 +122,40 @@ void MeasurementEditor::dragTo(const QPointF &pixel)
         return;
     }
     const QPointF moved = pixel - m_dragStart;
-    if (m_draggedPoint < 0) {
-        preview(modelDragged(*m_gestureStart, moved, m_documents.pictureSize()), Moves::Model);
-        return;
-    }
-    Session session = sessionCopy();
-    if (Measuring::movePoint(session, m_draggedPoint, m_dragAnchor + moved)) {
+    if (m_draggedClick >= 0) {
+        Session session = *m_gestureStart;
+        *alignmentClicksOf(session).at(m_draggedClick) = m_dragAnchor + moved;
         preview(session, Moves::Nothing);
+    } else if (m_draggedPoint >= 0) {
+        Session session = sessionCopy();
+        if (Measuring::movePoint(session, m_draggedPoint, m_dragAnchor + moved)) {
+            preview(session, Moves::Nothing);
+        }
+    } else if (m_rimStart > 0.0) {
+        const QPointF centre = mouthCircle(*m_gestureStart).centre;
+        preview(mouthScaled(*m_gestureStart, QLineF(centre, pixel).length() / m_rimStart),
+                Moves::Model);
+    } else {
+        preview(modelDragged(*m_gestureStart, moved), Moves::Model);
     }
 }
 
 void MeasurementEditor::endDrag()
 {
-    const bool wasPoint = m_draggedPoint >= 0;
+    const QString name = m_draggedClick >= 0   ? tr("Move click")
+                         : m_draggedPoint >= 0 ? tr("Move point")
+                         : m_rimStart > 0.0    ? tr("Size of the mouth")
+                                               : tr("Move model");
     m_draggedPoint = -1;
-    finishGesture(wasPoint ? tr("Move point") : tr("Move model"));
+    m_draggedClick = -1;
+    finishGesture(name);
 }
 
 void MeasurementEditor::cancel()
 {
     m_guidance.clearNotice();
     if (m_gestureStart) {
+        m_draggedClick = -1;
         m_draggedPoint = -1;
         const Session start = *m_gestureStart;
         m_gestureStart.reset();

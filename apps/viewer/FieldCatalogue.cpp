@@ -165,6 +165,10 @@ Field alignmentField(const QString &name)
         return plain(&Session::fovYDEG, QT_TRANSLATE_NOOP("Field", "Field of view"),
                      QStringLiteral("°"), 0.5, 2);
     }
+    if (name == QLatin1String("mouthPercent")) {
+        return plain(&Session::mouthPercent, QT_TRANSLATE_NOOP("Field", "Mouth size"),
+                     QStringLiteral("%"), 1, 1);
+    }
     if (name == QLatin1String("rearCircleX")) {
         return plain(&Session::rearCircleX, QT_TRANSLATE_NOOP("Field", "Far end left"), {}, 1, 1);
     }
@@ -236,8 +240,9 @@ QStringList alignmentFields(const Session &session)
     if (session.rearCircleActive) {
         return {QStringLiteral("rearCircleX"), QStringLiteral("rearCircleY")};
     }
-    return {QStringLiteral("offset"), QStringLiteral("cameraHeightPercent"),
-            QStringLiteral("rollDEG"), QStringLiteral("fovYDEG")};
+    return {QStringLiteral("mouthPercent"), QStringLiteral("offset"),
+            QStringLiteral("cameraHeightPercent"), QStringLiteral("rollDEG"),
+            QStringLiteral("fovYDEG")};
 }
 
 QString fieldText(const Field &field, const Session &session)

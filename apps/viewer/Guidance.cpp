@@ -19,6 +19,19 @@ QString calibration(int spotsExpected)
                               : tr("Click the second laser spot. Esc gives up.");
 }
 
+QString alignment(const Situation &s)
+{
+    if (s.tool == Tool::Line) {
+        return tr("Click along a feature of the wall that runs along the pipe: a seam, the water's "
+                  "edge. \"Points\" goes back to measuring.");
+    }
+    constexpr int smallestRing = 3;
+    const int clicks = s.session.rings.isEmpty() ? 0 : s.session.rings.last().points.size();
+    return clicks < smallestRing
+               ? tr("Click on the edge of a joint: from the third click on the ring follows.")
+               : tr("The ring follows. Click more of the edge, or begin another joint.");
+}
+
 // The kind's own sentence for so many points; some name the next point's number.
 QString nextStep(const Situation &s)
 {
@@ -35,6 +48,9 @@ QString guidanceFor(const Situation &s)
 {
     if (s.laserSpotsExpected > 0) {
         return calibration(s.laserSpotsExpected);
+    }
+    if (s.tool != Tool::Measure) {
+        return alignment(s);
     }
     if (s.isPanning) {
         return tr("A drag pans the picture. Press the hand again to move the model.");

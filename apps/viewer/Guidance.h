@@ -10,6 +10,9 @@
 
 namespace Drevon::Zalento {
 
+/** What a click sets: a point of the measurement, or of a joint or a line to align to. */
+enum class Tool { Measure, Joint, Line };
+
 /** What the status line goes by. */
 struct Situation
 {
@@ -18,6 +21,7 @@ struct Situation
     bool isClosed = false;      ///< the points are a closed outline
     int laserSpotsExpected = 0; ///< clicks that the calibration still waits for
     bool isPanning = false;     ///< a drag pans instead of moving the model
+    Tool tool = Tool::Measure;
 };
 
 /** What the next click or drag does, in one sentence or two. */

@@ -5,6 +5,7 @@
 #include "measuring/Editing.h"
 #include "measuring/PipeView.h"
 #include "measuring/Replay.h"
+#include "measuring/SessionFit.h"
 
 #include <drevon/AppState.h>
 
@@ -16,6 +17,31 @@ using Measuring::Uses;
 namespace {
 
 constexpr int scaleDigits = 4;
+
+// How well the joints and lines fit, and what they leave as it was.
+QString fitDescription(const Measuring::AlignmentFit &fit)
+{
+    using Field = Measuring::AlignmentField;
+    QStringList left;
+    if (fit.undetermined.contains(Field::RearCircleX) ||
+        fit.undetermined.contains(Field::RearCircleY)) {
+        left += MeasurementEditor::tr("the pipe's direction: click another joint, or lines");
+    }
+    if (fit.undetermined.contains(Field::Offset) ||
+        fit.undetermined.contains(Field::MouthPercent)) {
+        left += MeasurementEditor::tr("the mouth's place: click a joint");
+    }
+    if (fit.undetermined.contains(Field::FovYDEG)) {
+        left += MeasurementEditor::tr("the field of view: give two joints their distance");
+    }
+    const QString text = MeasurementEditor::tr("Fitted: clicks lie %1 px off, at most %2 px.")
+                             .arg(fit.rmsPX, 0, 'f', 1)
+                             .arg(fit.largestPX, 0, 'f', 1);
+    return left.isEmpty() ? text
+                          : text + QLatin1Char(' ') +
+                                MeasurementEditor::tr("Not determined: %1.")
+                                    .arg(left.join(QLatin1String("; ")));
+}
 
 } // namespace
 
@@ -93,6 +119,13 @@ void MeasurementEditor::showCurrent()
 void MeasurementEditor::show(const Session &session)
 {
     m_documents.current()->session = session;
+    Session fitted = session;
+    m_fit.reset();
+    if (Measuring::hasAlignmentClicks(session)) {
+        if (const auto fit = Measuring::fitSession(fitted)) {
+            m_fit = *fit;
+        }
+    }
     if (isReady()) {
         Measuring::showSession(session, *m_item);
     }
@@ -105,6 +138,7 @@ void MeasurementEditor::refresh()
 {
     tell(shownNow());
     showPoints();
+    showAlignmentClicks();
     showGuidance();
     m_documents.noteModified();
 }
@@ -127,6 +161,10 @@ MeasurementEditor::Shown MeasurementEditor::shownNow() const
     if (const auto scale = Measuring::scaleOf(s)) {
         now.hasScale = true;
         now.scaleText = tr("%1 mm per pixel").arg(QString::number(*scale, 'g', scaleDigits));
+    }
+    now.fitsFov = s.fitsFov;
+    if (Measuring::hasAlignmentClicks(s)) {
+        now.fitText = m_fit ? fitDescription(*m_fit) : m_fitProblem;
     }
     now.rearCircleActive = s.rearCircleActive;
     now.viewDownstream = s.viewDownstream;
@@ -157,6 +195,8 @@ void MeasurementEditor::tell(const Shown &now)
     tellOf(&Shown::isImperial, &MeasurementEditor::isImperialChanged);
     tellOf(&Shown::hasScale, &MeasurementEditor::hasScaleChanged);
     tellOf(&Shown::scaleText, &MeasurementEditor::scaleTextChanged);
+    tellOf(&Shown::fitsFov, &MeasurementEditor::fitsFovChanged);
+    tellOf(&Shown::fitText, &MeasurementEditor::fitTextChanged);
     tellOf(&Shown::rearCircleActive, &MeasurementEditor::rearCircleActiveChanged);
     tellOf(&Shown::viewDownstream, &MeasurementEditor::viewDownstreamChanged);
     tellOf(&Shown::jointShown, &MeasurementEditor::jointShownChanged);
@@ -195,7 +235,7 @@ void MeasurementEditor::showGuidance()
     }
     m_guidance.setSituation(Situation{*session(), m_measurement.state,
                                       Measuring::isClosedOutline(*session()), m_laserSpotsExpected,
-                                      m_isPanning});
+                                      m_isPanning, m_tool});
 }
 
 void MeasurementEditor::selectPoint(int index)
@@ -224,6 +264,7 @@ void MeasurementEditor::preview(Session next, Moves moves)
     if (!m_gestureStart) {
         m_gestureStart = sessionCopy();
     }
+    fit(next);
     if (moves == Moves::Model) {
         Measuring::pickPointsAnew(next);
     }
@@ -327,7 +368,9 @@ void MeasurementEditor::redo()
 
 void MeasurementEditor::dropLastPoint()
 {
-    if (isReady() && !session()->points.isEmpty()) {
+    if (m_tool != Tool::Measure) {
+        dropAlignmentClick();
+    } else if (isReady() && !session()->points.isEmpty()) {
         Session session = sessionCopy();
         session.points.removeLast();
         change(tr("Drop last point"), session, Moves::Nothing);
@@ -356,6 +399,9 @@ void MeasurementEditor::resetAlignment()
     session.fovYDEG = fresh.fovYDEG;
     session.rearCircleX = fresh.rearCircleX;
     session.rearCircleY = fresh.rearCircleY;
+    session.mouthPercent = fresh.mouthPercent;
+    session.rings.clear();
+    session.lines.clear();
     change(tr("Reset alignment"), session, Moves::Model);
 }
 

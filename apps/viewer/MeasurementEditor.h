@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DocumentList.h"
+#include "FeatureModel.h"
 #include "Guidance.h"
 #include "PointModel.h"
 #include "Preferences.h"
@@ -53,6 +54,17 @@ class MeasurementEditor : public QObject
     /** A drag pans the picture instead of moving the model. */
     Q_PROPERTY(bool isPanning READ isPanning WRITE setIsPanning NOTIFY isPanningChanged)
 
+    /** What a click sets: 0 a point of the measurement, 1 of a joint, 2 of a line to align to. */
+    Q_PROPERTY(int tool READ toolNumber WRITE setToolNumber NOTIFY toolChanged)
+    /** The model stays where it is: a drag beside a point pans. */
+    Q_PROPERTY(bool isLocked READ isLocked WRITE setIsLocked NOTIFY isLockedChanged)
+    Q_PROPERTY(bool fitsFov READ fitsFov WRITE setFitsFov NOTIFY fitsFovChanged)
+    /** What the fit says; empty without joints and lines. */
+    Q_PROPERTY(QString fitText READ fitText NOTIFY fitTextChanged)
+    Q_PROPERTY(Drevon::Zalento::FeatureModel *features READ features CONSTANT)
+    /** Where joints and lines were clicked: {pixel, residual, isSuspicious} each. */
+    Q_PROPERTY(QVariantList alignmentMarks READ alignmentMarks NOTIFY alignmentMarksChanged)
+
     Q_PROPERTY(bool rearCircleActive READ rearCircleActive WRITE setRearCircleActive NOTIFY
                    rearCircleActiveChanged)
     Q_PROPERTY(bool viewDownstream READ viewDownstream WRITE setViewDownstream NOTIFY
@@ -91,6 +103,16 @@ public:
     bool isCalibrating() const { return m_laserSpotsExpected > 0; }
     bool isPanning() const { return m_isPanning; }
     void setIsPanning(bool panning);
+
+    int toolNumber() const { return static_cast<int>(m_tool); }
+    void setToolNumber(int tool);
+    bool isLocked() const { return m_isLocked; }
+    void setIsLocked(bool locked);
+    bool fitsFov() const { return m_shown.fitsFov; }
+    void setFitsFov(bool fits);
+    QString fitText() const { return m_shown.fitText; }
+    FeatureModel *features() { return &m_features; }
+    QVariantList alignmentMarks() const { return m_alignmentMarks; }
 
     bool rearCircleActive() const { return m_shown.rearCircleActive; }
     void setRearCircleActive(bool active);
@@ -144,7 +166,18 @@ public:
     Q_INVOKABLE void dropLastPoint();
     Q_INVOKABLE void clearPoints();
     Q_INVOKABLE void resetAlignment();
+    /** Takes the alignment of the picture before this one. */
+    Q_INVOKABLE void alignAsBefore();
     Q_INVOKABLE void loadCalibration(const QString &path);
+    /** @} */
+
+    /** @name Joints and lines, by the rows of #features */
+    /** @{ */
+    /** The next click of the tool begins another joint or line. */
+    Q_INVOKABLE void beginFeature();
+    Q_INVOKABLE void removeFeature(int row);
+    /** @return what is wrong with the distance; empty when it was taken */
+    Q_INVOKABLE QString setFeatureDistance(int row, const QString &mm);
     /** @} */
 
     /** Whether points have to be looked up anew. */
@@ -178,6 +211,11 @@ Q_SIGNALS:
     void laserSpotsChanged();
     void isCalibratingChanged();
     void isPanningChanged();
+    void toolChanged();
+    void isLockedChanged();
+    void fitsFovChanged();
+    void fitTextChanged();
+    void alignmentMarksChanged();
     void rearCircleActiveChanged();
     void viewDownstreamChanged();
     void jointShownChanged();
@@ -199,6 +237,8 @@ private:
         bool isImperial = false;
         bool hasScale = false;
         QString scaleText;
+        bool fitsFov = false;
+        QString fitText;
         bool rearCircleActive = false;
         bool viewDownstream = true;
         bool jointShown = false;
@@ -221,6 +261,13 @@ private:
     void showCurrent();
     void leaveCurrent();
     void takeItemDiameter();
+    void fit(Measuring::Session &session);
+    void showAlignmentClicks();
+    void addAlignmentClick(const QPointF &pixel);
+    void dropAlignmentClick();
+    int nearestAlignmentClick(const QPointF &pixel, double radius) const;
+    static QVector<QPointF *> alignmentClicksOf(Measuring::Session &session);
+    bool beginModelDrag(const QPointF &pixel, double radius);
     void setPointAt(const QPointF &pixel);
     void setWaterLineAt(const QPointF &pixel);
     void addLaserSpot(const QPointF &pixel);
@@ -235,7 +282,17 @@ private:
     PointModel m_points;
     int m_selectedPoint = -1;
 
+    Tool m_tool = Tool::Measure;
+    bool m_beginsFeature = false;
+    bool m_isLocked = false;
+    FeatureModel m_features;
+    QVariantList m_alignmentMarks;
+    std::optional<Measuring::AlignmentFit> m_fit;
+    QString m_fitProblem; ///< of the last fit; empty when it went well, or there was none
+
     std::optional<Measuring::Session> m_gestureStart;
+    double m_rimStart = 0.0; ///< distance of the grip from the mouth's centre; 0 inside of it
+    int m_draggedClick = -1; ///< of a joint or a line
     QPointF m_dragStart;
     QPointF m_dragAnchor;
     int m_draggedPoint = -1;

@@ -50,6 +50,7 @@ void prepareScene()
     qmlRegisterUncreatableType<Guidance>(module, 1, 0, "Guidance", reason);
     qmlRegisterUncreatableType<DocumentList>(module, 1, 0, "DocumentList", reason);
     qmlRegisterUncreatableType<MeasurementEditor>(module, 1, 0, "MeasurementEditor", reason);
+    qmlRegisterUncreatableType<FeatureModel>(module, 1, 0, "FeatureModel", reason);
     qmlRegisterUncreatableType<PointModel>(module, 1, 0, "PointModel", reason);
     qmlRegisterUncreatableType<KindModel>(module, 1, 0, "KindModel", reason);
     qmlRegisterUncreatableType<FieldModel>(module, 1, 0, "FieldModel", reason);

@@ -18,10 +18,6 @@ constexpr double largestRollDEG = 3600.0;
 constexpr double smallestFovDEG = 1.0;
 constexpr double largestFovDEG = 170.0;
 
-// Of the mouth's circle: a far joint in the middle, or one around the camera.
-constexpr double smallestMouthPercent = 5.0;
-constexpr double largestMouthPercent = 400.0;
-
 template <typename Value>
 struct Choice
 {

@@ -21,7 +21,7 @@ Column {
             width: parent.keyWidth
             text: qsTr("Pipe")
             hint: qsTr("A drag moves the pipe")
-            checked: !Viewer.editor.rearCircleActive
+            chosen: !Viewer.editor.rearCircleActive
             onClicked: Viewer.editor.rearCircleActive = false
         }
         ToolKey {
@@ -29,7 +29,7 @@ Column {
             width: parent.keyWidth
             text: qsTr("Far end")
             hint: qsTr("A drag moves the pipe's far end")
-            checked: Viewer.editor.rearCircleActive
+            chosen: Viewer.editor.rearCircleActive
             onClicked: Viewer.editor.rearCircleActive = !Viewer.editor.rearCircleActive
         }
         ToolKey {
@@ -38,6 +38,67 @@ Column {
             text: qsTr("Reset")
             hint: qsTr("Reset the alignment")
             onClicked: Viewer.editor.resetAlignment()
+        }
+    }
+    Choice {
+        objectName: "tools"
+        width: parent.width
+        label: qsTr("Click")
+        choices: [qsTr("points"), qsTr("joint"), qsTr("line")]
+        current: Viewer.editor.tool
+        onChosen: Viewer.editor.tool = index
+    }
+    Repeater {
+        model: Viewer.editor.features
+        FeatureRow { width: panel.width }
+    }
+    Row {
+        visible: Viewer.editor.tool > 0
+        width: parent.width
+        spacing: 6
+        ToolKey {
+            objectName: "newFeatureKey"
+            width: (parent.width - 6) / 2
+            text: Viewer.editor.tool === 1 ? qsTr("New joint") : qsTr("New line")
+            hint: qsTr("The next click begins another one")
+            onClicked: Viewer.editor.beginFeature()
+        }
+        ToolKey {
+            objectName: "fitFovKey"
+            width: (parent.width - 6) / 2
+            text: qsTr("Fit view")
+            hint: qsTr("Fit the field of view, too: two joints with a known distance give it")
+            chosen: Viewer.editor.fitsFov
+            onClicked: Viewer.editor.fitsFov = !Viewer.editor.fitsFov
+        }
+    }
+    Text {
+        objectName: "fitText"
+        visible: text
+        width: parent.width
+        wrapMode: Text.WordWrap
+        text: Viewer.editor.fitText
+        color: Theme.quiet
+        font { family: Theme.family; pixelSize: Theme.small }
+    }
+    Row {
+        width: parent.width
+        spacing: 6
+        ToolKey {
+            objectName: "asBeforeKey"
+            width: (parent.width - 6) / 2
+            text: qsTr("As before")
+            hint: qsTr("Take the alignment of the picture before this one")
+            enabled: Viewer.documents.currentIndex > 0
+            onClicked: Viewer.editor.alignAsBefore()
+        }
+        ToolKey {
+            objectName: "lockKey"
+            width: (parent.width - 6) / 2
+            text: qsTr("Lock")
+            hint: qsTr("The model stays where it is: a drag pans")
+            chosen: Viewer.editor.isLocked
+            onClicked: Viewer.editor.isLocked = !Viewer.editor.isLocked
         }
     }
     Repeater {

@@ -29,7 +29,7 @@ Row {
             text: modelData
             hint: choice.label + " " + modelData
             font.pixelSize: Theme.small
-            checked: choice.current === index
+            chosen: choice.current === index
             onClicked: choice.chosen(index)
         }
     }

@@ -8,14 +8,14 @@ AbstractButton {
     property string kind
     property int number
     property bool isCompact: false
+    property bool chosen: false
 
     implicitHeight: 58
-    checkable: false
     focusPolicy: Qt.TabFocus
     Accessible.name: text
     onPressed: Viewer.focusStage()
     Accessible.role: Accessible.RadioButton
-    Accessible.checked: checked
+    Accessible.checked: chosen
     ToolTip.text: text + "  (" + number + ")"
     ToolTip.visible: hovered && !down
     ToolTip.delay: 600
@@ -28,8 +28,8 @@ AbstractButton {
             height: width
             anchors.verticalCenter: parent.verticalCenter
             kind: button.kind
-            stroke: button.checked ? Theme.accentText : Theme.text
-            measure: button.checked ? Theme.accentText : Theme.accent
+            stroke: button.chosen ? Theme.accentText : Theme.text
+            measure: button.chosen ? Theme.accentText : Theme.accent
         }
         Text {
             anchors { left: icon.right; leftMargin: button.isCompact ? 4 : 8; right: parent.right; rightMargin: 2 }
@@ -38,12 +38,12 @@ AbstractButton {
             text: button.text
             wrapMode: Text.WordWrap
             font { family: Theme.family; pixelSize: button.isCompact ? 13 : Theme.normal }
-            color: button.checked ? Theme.accentText : Theme.text
+            color: button.chosen ? Theme.accentText : Theme.text
         }
     }
     background: Rectangle {
         radius: Theme.radius
-        color: button.checked ? Theme.accent
+        color: button.chosen ? Theme.accent
                               : button.down || button.hovered ? Theme.controlDown : Theme.control
         border.width: button.visualFocus ? 2 : 0
         border.color: Theme.text

@@ -19,8 +19,7 @@ Column {
             width: (parent.width - 6) / 2
             text: qsTr("Laser spots")
             hint: qsTr("Set the scale with two clicks on the laser spots")
-            checkable: false
-            checked: Viewer.editor.isCalibrating
+            chosen: Viewer.editor.isCalibrating
             emphasized: !Viewer.editor.hasScale
             onClicked: Viewer.editor.isCalibrating ? Viewer.editor.cancel() : Viewer.editor.startCalibration()
         }

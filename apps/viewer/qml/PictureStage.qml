@@ -112,6 +112,17 @@ FocusScope {
         }
     }
     Repeater {
+        model: Viewer.editor.alignmentMarks
+        AlignmentMark {
+            x: modelData.pixel.x * stageView.scale + stageView.offset.x
+            y: modelData.pixel.y * stageView.scale + stageView.offset.y
+            visible: !stage.isOverlayHidden
+            residual: modelData.residual
+            isSuspicious: modelData.isSuspicious
+            viewScale: stageView.scale
+        }
+    }
+    Repeater {
         model: Viewer.editor.laserSpots
         PointHandle {
             x: modelData.x * stageView.scale + stageView.offset.x
@@ -195,7 +206,7 @@ FocusScope {
 
     // The handle under a tap, or -1.
     function pointAt(viewPoint, isTouch) {
-        if (Viewer.editor.isCalibrating)
+        if (Viewer.editor.isCalibrating || Viewer.editor.tool > 0)
             return -1
         const points = Viewer.editor.points.pixels
         for (let i = points.length - 1; i >= 0; --i) {

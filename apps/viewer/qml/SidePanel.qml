@@ -36,7 +36,7 @@ Rectangle {
                 text: model.title
                 enabled: Viewer.documents.hasPicture
                 opacity: enabled ? 1 : 0.5
-                checked: Viewer.documents.hasPicture && Viewer.editor.kind === model.name
+                chosen: Viewer.documents.hasPicture && Viewer.editor.kind === model.name
                 onClicked: Viewer.editor.chooseKind(model.name)
             }
         }

@@ -10,6 +10,8 @@ Button {
     property string hint: action ? action.hint : text
     readonly property string keyText: action ? action.keyText : ""
     property bool emphasized: false
+    // Chosen of a few, or on. A press does not change it: what is shown does.
+    property bool chosen: false
 
     implicitHeight: Theme.touch
     implicitWidth: Math.max(Theme.touch, label.implicitWidth + 2 * 12)
@@ -18,6 +20,7 @@ Button {
     font.family: Theme.family
     font.pixelSize: Theme.normal
     Accessible.name: hint
+    Accessible.checked: chosen
     // Whatever was typed into a field is committed before the button acts.
     onPressed: Viewer.focusStage()
     // Qt tells the second of two quick presses apart; here it is a press like any other.
@@ -30,7 +33,7 @@ Button {
         id: label
         text: key.text
         font: key.font
-        color: key.checked || key.emphasized ? Theme.accentText : Theme.text
+        color: key.chosen || key.emphasized ? Theme.accentText : Theme.text
         opacity: key.enabled ? 1 : 0.35
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
@@ -38,7 +41,7 @@ Button {
     }
     background: Rectangle {
         radius: Theme.radius
-        color: key.checked || key.emphasized
+        color: key.chosen || key.emphasized
                ? (key.down ? Qt.darker(Theme.accent, 1.2) : Theme.accent)
                : key.down || key.hovered ? Theme.controlDown : Theme.control
         opacity: key.enabled ? 1 : 0.5

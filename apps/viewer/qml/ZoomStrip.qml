@@ -52,7 +52,7 @@ Rectangle {
             text: qsTr("Pan")
             font.pixelSize: Theme.small
             hint: qsTr("Drag pans the picture")
-            checked: Viewer.editor.isPanning
+            chosen: Viewer.editor.isPanning
             onClicked: Viewer.editor.isPanning = !Viewer.editor.isPanning
         }
     }

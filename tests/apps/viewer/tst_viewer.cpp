@@ -113,6 +113,7 @@ private slots:
     void severalPictures();
     void recordSetsTheDiameter();
     void overlayHidesWhileHeld();
+    void jointsAlignTheModel();
 };
 
 void TestViewer::measures_data()
@@ -420,7 +421,8 @@ void TestViewer::controlsOfAKind_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QStringList>("fields");
-    const QStringList alignment{"offset", "cameraHeightPercent", "rollDEG", "fovYDEG"};
+    const QStringList alignment{"mouthPercent", "offset", "cameraHeightPercent", "rollDEG",
+                                "fovYDEG"};
     QTest::newRow("crack") << 1 << QStringList{"mmPerPixel", "laserMM"};
     QTest::newRow("dimension") << 2 << QStringList{"diameterMM"} + alignment;
     QTest::newRow("water") << 3 << QStringList{"percentage"} + alignment;
@@ -761,6 +763,45 @@ void TestViewer::overlayHidesWhileHeld()
     d.key(Qt::Key_F1);
     d.waitForDialog("keyList");
     d.screenshot("keys");
+}
+
+// Clicked joints put the model where the sample was made, from an alignment that is far off.
+void TestViewer::jointsAlignTheModel()
+{
+    ViewerDriver d;
+    d.openSample("dimension.jpg");
+    d.type("field.offset", "60");
+    d.drag(d.at(384, 570), d.at(384, 480)); // the mouth's rim
+    QVERIFY(d.editor.session()->mouthPercent < 90.0);
+    const Session start = *d.editor.session();
+    d.editor.setProperty("tool", 1);
+    for (int joint = 0; joint < 2; ++joint) {
+        const auto edge = truePixels("dimension", QStringLiteral("joints.%1.clicks").arg(joint));
+        for (int i = 1; i < edge.size(); i += 2) {
+            d.click(edge[i].x(), edge[i].y());
+        }
+        d.editor.beginFeature();
+    }
+    d.screenshot("joints");
+    const Session fitted = *d.editor.session();
+    QCOMPARE(d.editor.features()->count(), 2);
+    QVERIFY(d.editor.fitText().startsWith("Fitted"));
+    QVERIFY(std::abs(fitted.mouthPercent - 100.0) < 1.0 && std::abs(fitted.offset) < 3.0);
+    QVERIFY(!d.editor.setFeatureDistance(1, "far").isEmpty());
+    QVERIFY(d.editor.setFeatureDistance(1, "1000").isEmpty());
+
+    // A click that is dragged away shifts the fit, and is undone with the rest.
+    const QPointF click = fitted.rings[0].points[0];
+    d.drag(d.at(click.x(), click.y()), d.at(click.x() + 20, click.y() + 5));
+    QVERIFY(*d.editor.session() != fitted);
+    d.key(Qt::Key_S, Qt::ControlModifier);
+    ViewerDriver again;
+    again.documents.openPaths({d.documents.current()->picturePath});
+    QVERIFY(*again.editor.session() == *d.editor.session());
+    while (*d.editor.session() != start && d.editor.canUndo()) {
+        d.editor.undo();
+    }
+    QVERIFY(*d.editor.session() == start);
 }
 
 } // namespace Drevon::Zalento::Test

@@ -1,0 +1,254 @@
+// The editor's joints and lines, to which the model is fitted.
+#include "MeasurementEditor.h"
+
+#include "measuring/SessionFit.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace Drevon::Zalento {
+
+using Measuring::Session;
+
+namespace {
+
+constexpr int smallestRing = 3;
+
+bool hasWholeRing(const Session &session)
+{
+    return std::any_of(session.rings.begin(), session.rings.end(),
+                       [](const auto &ring) { return ring.points.size() >= smallestRing; });
+}
+
+// The clicks of the feature that a tool goes on with; a new one where there is none.
+template <typename Clicks>
+QVector<QPointF> &featureToClick(QVector<Clicks> &features, bool isNew)
+{
+    if (features.isEmpty() || isNew) {
+        features.append(Clicks());
+    }
+    return features.last().points;
+}
+
+template <typename Clicks>
+void dropLastClick(QVector<Clicks> &features)
+{
+    if (features.isEmpty()) {
+        return;
+    }
+    if (!features.last().points.isEmpty()) {
+        features.last().points.removeLast();
+    }
+    if (features.last().points.isEmpty()) {
+        features.removeLast();
+    }
+}
+
+bool isSuspicious(const Measuring::AlignmentFit &fit, bool isLine, int feature, int point)
+{
+    return std::any_of(fit.suspicious.begin(), fit.suspicious.end(), [&](const auto &click) {
+        return click.isLine == isLine && click.feature == feature && click.point == point;
+    });
+}
+
+// What the scene draws for each click of the features of one sort.
+template <typename Clicks>
+void addMarks(QVariantList &marks, const QVector<Clicks> &features, bool isLine,
+              const std::optional<Measuring::AlignmentFit> &fit)
+{
+    for (int i = 0; i < features.size(); ++i) {
+        QVector<QPointF> residuals;
+        if (fit) {
+            residuals = (isLine ? fit->lineResiduals : fit->ringResiduals).value(i);
+        }
+        for (int k = 0; k < features[i].points.size(); ++k) {
+            marks.append(QVariantMap{
+                {QStringLiteral("pixel"), features[i].points[k]},
+                {QStringLiteral("residual"), residuals.value(k)},
+                {QStringLiteral("isSuspicious"), fit && isSuspicious(*fit, isLine, i, k)}});
+        }
+    }
+}
+
+} // namespace
+
+void MeasurementEditor::setToolNumber(int tool)
+{
+    m_guidance.clearNotice();
+    const Tool chosen = Tool(std::clamp(tool, 0, static_cast<int>(Tool::Line)));
+    if (chosen == m_tool) {
+        return;
+    }
+    m_tool = chosen;
+    m_beginsFeature = false;
+    expectLaserSpots(0, {});
+    selectPoint(-1);
+    Q_EMIT toolChanged();
+    refresh();
+}
+
+void MeasurementEditor::setIsLocked(bool locked)
+{
+    if (locked != m_isLocked) {
+        m_isLocked = locked;
+        Q_EMIT isLockedChanged();
+    }
+}
+
+void MeasurementEditor::setFitsFov(bool fits)
+{
+    if (isReady()) {
+        Session session = sessionCopy();
+        session.fitsFov = fits;
+        change(tr("Fit the field of view"), session, Moves::Nothing);
+    }
+}
+
+// A fit that fails leaves the alignment; why is said as soon as there is something to fit.
+void MeasurementEditor::fit(Session &session)
+{
+    m_fitProblem.clear();
+    if (!Measuring::hasAlignmentClicks(session)) {
+        return;
+    }
+    const auto fitted = Measuring::fitSession(session);
+    if (!fitted && hasWholeRing(session)) {
+        m_fitProblem = fitted.problem().text();
+    }
+}
+
+void MeasurementEditor::showAlignmentClicks()
+{
+    QVariantList marks;
+    if (isReady()) {
+        addMarks(marks, session()->rings, false, m_fit);
+        addMarks(marks, session()->lines, true, m_fit);
+        m_features.setFeatures(*session(), m_fit);
+    } else {
+        m_features.clear();
+    }
+    if (marks != m_alignmentMarks) {
+        m_alignmentMarks = marks;
+        Q_EMIT alignmentMarksChanged();
+    }
+}
+
+void MeasurementEditor::addAlignmentClick(const QPointF &pixel)
+{
+    Session session = sessionCopy();
+    const bool isJoint = m_tool == Tool::Joint;
+    QVector<QPointF> &clicks = isJoint ? featureToClick(session.rings, m_beginsFeature)
+                                       : featureToClick(session.lines, m_beginsFeature);
+    clicks.append(pixel);
+    m_beginsFeature = false;
+    change(isJoint ? tr("Click a joint") : tr("Click a line"), session, Moves::Nothing);
+    if (!m_fitProblem.isEmpty()) {
+        m_guidance.notice(Guidance::Warning, m_fitProblem);
+    }
+}
+
+void MeasurementEditor::dropAlignmentClick()
+{
+    if (!isReady()) {
+        return;
+    }
+    Session session = sessionCopy();
+    if (m_tool == Tool::Joint) {
+        dropLastClick(session.rings);
+    } else {
+        dropLastClick(session.lines);
+    }
+    change(tr("Drop last click"), session, Moves::Nothing);
+}
+
+// In the order of the marks.
+QVector<QPointF *> MeasurementEditor::alignmentClicksOf(Session &session)
+{
+    QVector<QPointF *> clicks;
+    const auto add = [&clicks](auto &features) {
+        for (auto &feature : features) {
+            for (QPointF &point : feature.points) {
+                clicks += &point;
+            }
+        }
+    };
+    add(session.rings);
+    add(session.lines);
+    return clicks;
+}
+
+int MeasurementEditor::nearestAlignmentClick(const QPointF &pixel, double radius) const
+{
+    Session session = sessionCopy();
+    QVector<QPointF> places;
+    for (const QPointF *click : alignmentClicksOf(session)) {
+        places += *click;
+    }
+    PointModel clicks;
+    clicks.setPoints(places);
+    return clicks.nearest(pixel, radius);
+}
+
+void MeasurementEditor::beginFeature()
+{
+    m_beginsFeature = true;
+    m_guidance.notice(Guidance::Information, m_tool == Tool::Line
+                                                 ? tr("Click along another line of the wall.")
+                                                 : tr("Click on the edge of another joint."));
+}
+
+void MeasurementEditor::removeFeature(int row)
+{
+    if (!isReady() || row < 0 || row >= m_features.count()) {
+        return;
+    }
+    Session session = sessionCopy();
+    const int line = row - session.rings.size();
+    if (line < 0) {
+        session.rings.removeAt(row);
+    } else {
+        session.lines.removeAt(line);
+    }
+    change(tr("Remove from the alignment"), session, Moves::Nothing);
+}
+
+QString MeasurementEditor::setFeatureDistance(int row, const QString &mm)
+{
+    if (!isReady() || row < 0 || row >= session()->rings.size()) {
+        return {};
+    }
+    QString text = mm.trimmed();
+    bool isNumber = true;
+    const double distance =
+        text.isEmpty()
+            ? 0.0
+            : QLocale::c().toDouble(text.replace(QLatin1Char(','), QLatin1Char('.')), &isNumber);
+    if (!isNumber) {
+        return tr("This is not a number.");
+    }
+    Session session = sessionCopy();
+    session.rings[row].distanceMM = text.isEmpty() ? std::nullopt : std::optional<double>(distance);
+    if (const auto problem = Measuring::checkSession(session)) {
+        return problem->what;
+    }
+    change(tr("Distance of a joint"), session, Moves::Nothing);
+    return {};
+}
+
+void MeasurementEditor::alignAsBefore()
+{
+    const int before = m_documents.currentIndex() - 1;
+    if (!isReady() || before < 0 || !m_documents.at(before).session) {
+        m_guidance.notice(Guidance::Warning, tr("There is no aligned picture before this one."));
+        return;
+    }
+    const Session &other = *m_documents.at(before).session;
+    Session session = sessionCopy();
+    Measuring::setAlignment(session, Measuring::alignmentOf(other));
+    session.rollDEG = other.rollDEG;
+    session.diameterMM = other.diameterMM;
+    change(tr("Align as before"), session, Moves::Model);
+}
+
+} // namespace Drevon::Zalento
