@@ -2,7 +2,6 @@
 
 #include "OverlayView.h"
 #include "PictureProvider.h"
-#include "StageGestures.h"
 #include "StageView.h"
 #include "Viewer.h"
 
@@ -42,7 +41,6 @@ void prepareScene()
     constexpr char module[] = "Drevon.Zalento.Viewer";
     registerTypes("Drevon.Zalento");
     qmlRegisterType<OverlayView>(module, 1, 0, "OverlayView");
-    qmlRegisterType<StageGestures>(module, 1, 0, "StageGestures");
     qmlRegisterType<StageView>(module, 1, 0, "StageView");
     qmlRegisterSingletonType<Viewer>(module, 1, 0, "Viewer", viewerOf);
     const QString reason = QStringLiteral("it is a part of Viewer");

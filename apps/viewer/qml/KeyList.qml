@@ -8,49 +8,74 @@ ViewerDialog {
     property var rows: []
 
     title: qsTr("Keys")
-    width: Math.min(parent.width - 40, 940)
+    width: Math.min(parent.width - 40, 980)
+    height: Math.min(parent.height - 20, implicitHeight)
 
-    contentItem: Column {
-        spacing: 16
+    contentItem: Item {
+        implicitHeight: list.contentHeight + closeKey.height + 16
 
-        Grid {
-            columns: 2
-            columnSpacing: 24
-            rowSpacing: 2
-            flow: Grid.TopToBottom
-            rows: Math.ceil(dialog.rows.length / 2)
-            Repeater {
-                model: dialog.rows
-                Row {
-                    height: 30
-                    spacing: 12
-                    Text {
-                        width: 176
-                        anchors.verticalCenter: parent.verticalCenter
-                        text: modelData[0]
-                        color: Theme.accent
-                        font { family: Theme.family; pixelSize: Theme.small; bold: true }
+        Flickable {
+            id: list
+            anchors { left: parent.left; right: parent.right; top: parent.top; bottom: closeKey.top }
+            anchors.bottomMargin: 16
+            clip: true
+            contentHeight: column.height
+            boundsBehavior: Flickable.StopAtBounds
+            ScrollBar.vertical: ScrollBar {
+                policy: list.contentHeight > list.height ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+                width: 10
+            }
+            Column {
+                id: column
+                width: parent.width - 14
+                spacing: 16
+
+                Grid {
+                    id: grid
+                    columns: 2
+                    columnSpacing: 16
+                    rowSpacing: 4
+                    flow: Grid.TopToBottom
+                    rows: Math.ceil(dialog.rows.length / 2)
+                    Repeater {
+                        model: dialog.rows
+                        Row {
+                            height: Math.max(26, what.height)
+                            spacing: 10
+                            Text {
+                                id: keys
+                                width: 164
+                                anchors.verticalCenter: parent.verticalCenter
+                                text: modelData[0]
+                                color: Theme.accent
+                                font { family: Theme.family; pixelSize: Theme.small; bold: true }
+                            }
+                            Text {
+                                id: what
+                                width: (column.width - grid.columnSpacing) / 2 - keys.width - 10
+                                anchors.verticalCenter: parent.verticalCenter
+                                wrapMode: Text.WordWrap
+                                text: modelData[1]
+                                color: Theme.text
+                                font { family: Theme.family; pixelSize: Theme.small }
+                            }
+                        }
                     }
-                    Text {
-                        anchors.verticalCenter: parent.verticalCenter
-                        text: modelData[1]
-                        color: Theme.text
-                        font { family: Theme.family; pixelSize: Theme.small }
-                    }
+                }
+                Text {
+                    width: parent.width
+                    wrapMode: Text.WordWrap
+                    text: qsTr("Mouse: click sets a point, drag moves the model or a point, wheel "
+                               + "zooms, middle drag pans. Touch: tap sets a point, hold aims with "
+                               + "the loupe, drag moves, two fingers zoom, pan and roll.")
+                    color: Theme.quiet
+                    font { family: Theme.family; pixelSize: Theme.small }
                 }
             }
         }
-        Text {
-            width: parent.width
-            wrapMode: Text.WordWrap
-            text: qsTr("Mouse: click sets a point, drag moves the model or a point, wheel zooms, "
-                       + "middle drag pans. Touch: tap sets a point, hold aims with the loupe, "
-                       + "drag moves, two fingers zoom, pan and roll.")
-            color: Theme.quiet
-            font { family: Theme.family; pixelSize: Theme.small }
-        }
         ToolKey {
-            anchors.right: parent.right
+            id: closeKey
+            anchors { right: parent.right; bottom: parent.bottom }
             text: qsTr("Close")
             emphasized: true
             onClicked: dialog.close()

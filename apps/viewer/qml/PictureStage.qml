@@ -141,35 +141,32 @@ FocusScope {
         Accessible.name: qsTr("Picture %1").arg(Viewer.documents.pictureName)
 
         property bool pans: false
-        property point lastPoint
-        property real startScale: 1
-        property real lastFactor: 1
-        property point lastMoved
+        property point lastPosition
 
         // A finger that zooms also turns a little; the roll starts beyond this.
         readonly property real twistSlack: 6
 
         onTapped: {
             stage.forceActiveFocus()
-            const pixel = stageView.toPicture(point)
-            const near = stage.pointAt(point, isTouch)
-            near >= 0 ? Viewer.editor.selectedPoint = near : Viewer.editor.click(pixel)
+            const near = stage.pointAt(position, isTouch)
+            near >= 0 ? Viewer.editor.selectedPoint = near
+                      : Viewer.editor.click(stageView.toPicture(position))
         }
         onDragBegan: {
             stage.forceActiveFocus()
-            const reach = isTouch ? stage.fingerReach : stage.mouseReach
-            pans = !Viewer.editor.beginDrag(stageView.toPicture(point), reach / stageView.scale)
-            lastPoint = point
+            const reach = (isTouch ? stage.fingerReach : stage.mouseReach) / stageView.scale
+            pans = !Viewer.editor.beginDrag(stageView.toPicture(position), reach)
+            lastPosition = position
             loupe.isWanted = isTouch && Viewer.editor.isDraggingPoint()
         }
         onDragged: {
             if (pans)
-                stageView.panBy(point.x - lastPoint.x, point.y - lastPoint.y)
+                stageView.panBy(position.x - lastPosition.x, position.y - lastPosition.y)
             else
-                Viewer.editor.dragTo(stageView.toPicture(point))
-            lastPoint = point
+                Viewer.editor.dragTo(stageView.toPicture(position))
+            lastPosition = position
             if (loupe.isWanted)
-                loupe.aim = point
+                loupe.aim = position
         }
         onDragEnded: {
             loupe.aim = null
@@ -177,22 +174,15 @@ FocusScope {
                 Viewer.editor.endDrag()
         }
         onPanned: stageView.panBy(dx, dy)
-        onAimed: loupe.aim = point
+        onAimed: loupe.aim = position
         onAimEnded: {
             loupe.aim = null
-            Viewer.editor.click(stageView.toPicture(point))
+            Viewer.editor.click(stageView.toPicture(position))
         }
-        onPinchBegan: {
-            lastFactor = 1
-            lastMoved = Qt.point(0, 0)
-            Viewer.editor.beginPinch()
-        }
+        onPinchBegan: Viewer.editor.beginPinch()
         onPinched: {
-            stageView.panBy(moved.x - lastMoved.x, moved.y - lastMoved.y)
-            stageView.zoomAt(Qt.point(startCentre.x + moved.x, startCentre.y + moved.y),
-                             factor / lastFactor)
-            lastFactor = factor
-            lastMoved = moved
+            stageView.panBy(moved.x, moved.y)
+            stageView.zoomAt(middle, factor)
             const turn = Math.abs(turnDeg) - twistSlack
             Viewer.editor.pinch(turn > 0 ? Math.sign(turnDeg) * turn : 0)
         }
@@ -201,7 +191,7 @@ FocusScope {
             loupe.aim = null
             Viewer.editor.cancel()
         }
-        onWheelTurned: stageView.zoomAt(point, Math.pow(stage.zoomStep, notches))
+        onWheelTurned: stageView.zoomAt(position, Math.pow(stage.zoomStep, notches))
     }
 
     // The handle under a tap, or -1.

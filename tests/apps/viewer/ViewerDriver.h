@@ -184,13 +184,15 @@ public:
         auto touch = QTest::touchEvent(window(), m_screen, false);
         touch.press(0, fingers(0.0).first, window()).commit();
         touch.stationary(0).press(1, fingers(0.0).second, window()).commit();
-        for (int i = 1; i <= dragSteps; ++i) {
-            const auto now = fingers(double(i) / dragSteps);
+        for (int i = 1; i <= pinchSteps; ++i) {
+            const auto now = fingers(double(i) / pinchSteps);
             touch.move(0, now.first, window()).move(1, now.second, window()).commit();
         }
-        touch.release(0, fingers(1.0).first, window())
-            .release(1, fingers(1.0).second, window())
-            .commit();
+        // Fingers do not lift at once, and the last one slips.
+        const QPoint last = fingers(1.0).first;
+        touch.stationary(0).release(1, fingers(1.0).second, window()).commit();
+        touch.move(0, last + QPoint(20, 20), window()).commit();
+        touch.release(0, last + QPoint(40, 40), window()).commit();
     }
 
     /** Lets the scene catch up, and writes "<name>.png". */
@@ -224,6 +226,7 @@ private:
     }
 
     static constexpr int dragSteps = 6;
+    static constexpr int pinchSteps = 100; // it is noticed within the first few
     static constexpr int holdMs = 700;
     static constexpr int frameMs = 100; // rows and columns are laid out with the frame that follows
     QTouchDevice *m_screen = QTest::createTouchDevice();
