@@ -244,7 +244,7 @@ void DocumentList::placePoints(Document &document)
     if (missed > 0) {
         m_guidance.notice(
             Guidance::Warning,
-            tr("Points of the session that meet no wall and were left out: %n.", nullptr, missed));
+            tr("%n point(s) of the session meet no wall and were left out.", nullptr, missed));
     }
 }
 

@@ -7,8 +7,10 @@
 
 #include <zalento/item/registerTypes.h>
 
+#include <QCoreApplication>
 #include <QQuickStyle>
 #include <QQuickWindow>
+#include <QTranslator>
 
 #include <mutex>
 
@@ -17,6 +19,7 @@
 static void keepScene()
 {
     Q_INIT_RESOURCE(viewer);
+    Q_INIT_RESOURCE(translations);
 }
 
 namespace Drevon::Zalento {
@@ -37,6 +40,11 @@ QObject *viewerOf(QQmlEngine *engine, QJSEngine *)
 void prepareScene()
 {
     keepScene();
+    // Plural forms are a translation's even in English.
+    static QTranslator english;
+    if (english.load(QStringLiteral(":/translations/zalento_en.qm"))) {
+        QCoreApplication::installTranslator(&english);
+    }
     QQuickStyle::setStyle(QStringLiteral("Default"));
     constexpr char module[] = "Drevon.Zalento.Viewer";
     registerTypes("Drevon.Zalento");

@@ -112,7 +112,7 @@ ApplicationWindow {
         id: unsavedDialog
         objectName: "unsavedDialog"
         title: qsTr("Save before closing?")
-        text: qsTr("Measurements that are not saved: %n.", "", Viewer.documents.unsavedCount)
+        text: qsTr("%n measurement(s) are not saved.", "", Viewer.documents.unsavedCount)
         acceptText: qsTr("Save")
         discardText: qsTr("Discard")
         onAccepted: saveAndLeave()

@@ -475,7 +475,8 @@ void TestViewer::nothingIsLostUnlessConfirmed()
     d.click(110, 288);
     const QString sessionPath = Measuring::sessionPathOf(picture);
     d.window()->close();
-    d.waitForDialog("unsavedDialog");
+    QCOMPARE(d.waitForDialog("unsavedDialog")->property("text").toString(),
+             QString("1 measurement is not saved."));
     d.screenshot("unsaved-question");
     d.clickDialog("unsavedDialog", "cancelKey");
     QVERIFY(d.window()->isVisible() && !QFile::exists(sessionPath));

@@ -1,0 +1,26 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- English needs its plural forms alone; every other text is used as it stands in the sources. -->
+<TS version="2.1" language="en_GB">
+<context>
+    <name>Main</name>
+    <message numerus="yes">
+        <source>%n measurement(s) are not saved.</source>
+        <translation><numerusform>%n measurement is not saved.</numerusform><numerusform>%n measurements are not saved.</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>Drevon::Zalento::DocumentList</name>
+    <message numerus="yes">
+        <source>%n point(s) of the session meet no wall and were left out.</source>
+        <translation><numerusform>%n point of the session meets no wall and was left out.</numerusform><numerusform>%n points of the session meet no wall and were left out.</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>Drevon::Zalento::FeatureModel</name>
+    <message numerus="yes">
+        <source>%n more click(s)</source>
+        <translation><numerusform>%n more click</numerusform><numerusform>%n more clicks</numerusform></translation>
+    </message>
+</context>
+</TS>
