@@ -81,6 +81,7 @@ void MeasurementEditor::setToolNumber(int tool)
         return;
     }
     m_tool = chosen;
+    m_selectedClick = -1;
     m_beginsFeature = false;
     expectLaserSpots(0, {});
     selectPoint(-1);
@@ -141,6 +142,7 @@ void MeasurementEditor::addAlignmentClick(const QPointF &pixel)
     QVector<QPointF> &clicks = isJoint ? featureToClick(session.rings, m_beginsFeature)
                                        : featureToClick(session.lines, m_beginsFeature);
     clicks.append(pixel);
+    m_selectedClick = static_cast<int>(alignmentClicksOf(session).indexOf(&clicks.last()));
     m_beginsFeature = false;
     change(isJoint ? tr("Click a joint") : tr("Click a line"), session, Moves::Nothing);
     if (!m_fitProblem.isEmpty()) {
@@ -188,6 +190,18 @@ int MeasurementEditor::nearestAlignmentClick(const QPointF &pixel, double radius
     PointModel clicks;
     clicks.setPoints(places);
     return clicks.nearest(pixel, radius);
+}
+
+bool MeasurementEditor::nudgeAlignmentClick(const QPointF &step)
+{
+    Session session = sessionCopy();
+    const QVector<QPointF *> clicks = alignmentClicksOf(session);
+    if (m_selectedClick < 0 || m_selectedClick >= clicks.size()) {
+        return false;
+    }
+    *clicks.at(m_selectedClick) += step;
+    change(tr("Nudge click"), session, Moves::Nothing, m_nudgeNumber);
+    return true;
 }
 
 void MeasurementEditor::beginFeature()

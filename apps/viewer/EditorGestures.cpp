@@ -94,6 +94,7 @@ bool MeasurementEditor::beginDrag(const QPointF &pixel, double radius)
     m_gestureStart = sessionCopy();
     // What is dragged keeps its distance from the pointer.
     if (m_draggedClick >= 0) {
+        m_selectedClick = m_draggedClick;
         m_dragAnchor = *alignmentClicksOf(*m_gestureStart).at(m_draggedClick);
     } else if (m_draggedPoint >= 0) {
         m_dragAnchor = m_points.at(m_draggedPoint);
@@ -192,11 +193,17 @@ void MeasurementEditor::endPinch()
 
 bool MeasurementEditor::nudge(double dx, double dy, bool isRepeated)
 {
-    if (!isReady() || m_selectedPoint < 0) {
+    if (!isReady()) {
         return false;
     }
     if (!isRepeated) {
         ++m_nudgeNumber;
+    }
+    if (m_tool != Tool::Measure) {
+        return nudgeAlignmentClick(QPointF(dx, dy));
+    }
+    if (m_selectedPoint < 0) {
+        return false;
     }
     Session session = sessionCopy();
     const QPointF pixel = session.points.at(m_selectedPoint).pixel + QPointF(dx, dy);

@@ -267,6 +267,7 @@ private:
     void dropAlignmentClick();
     int nearestAlignmentClick(const QPointF &pixel, double radius) const;
     static QVector<QPointF *> alignmentClicksOf(Measuring::Session &session);
+    bool nudgeAlignmentClick(const QPointF &step);
     bool beginModelDrag(const QPointF &pixel, double radius);
     void setPointAt(const QPointF &pixel);
     void setWaterLineAt(const QPointF &pixel);
@@ -291,8 +292,9 @@ private:
     QString m_fitProblem; ///< of the last fit; empty when it went well, or there was none
 
     std::optional<Measuring::Session> m_gestureStart;
-    double m_rimStart = 0.0; ///< distance of the grip from the mouth's centre; 0 inside of it
-    int m_draggedClick = -1; ///< of a joint or a line
+    double m_rimStart = 0.0;  ///< distance of the grip from the mouth's centre; 0 inside of it
+    int m_draggedClick = -1;  ///< of a joint or a line
+    int m_selectedClick = -1; ///< the one set or moved last
     QPointF m_dragStart;
     QPointF m_dragAnchor;
     int m_draggedPoint = -1;

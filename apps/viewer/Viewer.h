@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CameraProfiles.h"
 #include "DocumentList.h"
 #include "Exporter.h"
 #include "FieldModel.h"
@@ -26,6 +27,7 @@ class Viewer : public QObject
     Q_PROPERTY(Drevon::Zalento::KindModel *kinds READ kinds CONSTANT)
     Q_PROPERTY(Drevon::Zalento::FieldModel *kindFields READ kindFields CONSTANT)
     Q_PROPERTY(Drevon::Zalento::FieldModel *alignmentFields READ alignmentFields CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::CameraProfiles *cameras READ cameras CONSTANT)
     Q_PROPERTY(Drevon::Zalento::Exporter *exporter READ exporter CONSTANT)
     Q_PROPERTY(Drevon::Zalento::PipeRecords *records READ records CONSTANT)
     /** The platform has a file dialog of its own. */
@@ -41,6 +43,7 @@ public:
     KindModel *kinds() { return &m_kinds; }
     FieldModel *kindFields() { return &m_kindFields; }
     FieldModel *alignmentFields() { return &m_alignmentFields; }
+    CameraProfiles *cameras() { return &m_cameras; }
     Exporter *exporter() { return &m_exporter; }
     PipeRecords *records() { return &m_records; }
 
@@ -63,6 +66,7 @@ private:
     KindModel m_kinds;
     FieldModel m_kindFields;
     FieldModel m_alignmentFields;
+    CameraProfiles m_cameras{m_documents, m_editor, m_guidance};
     Exporter m_exporter{m_documents, m_editor, m_guidance};
     PipeRecords m_records{m_guidance};
 };

@@ -60,6 +60,7 @@ void prepareScene()
     qmlRegisterUncreatableType<PointModel>(module, 1, 0, "PointModel", reason);
     qmlRegisterUncreatableType<KindModel>(module, 1, 0, "KindModel", reason);
     qmlRegisterUncreatableType<FieldModel>(module, 1, 0, "FieldModel", reason);
+    qmlRegisterUncreatableType<CameraProfiles>(module, 1, 0, "CameraProfiles", reason);
     qmlRegisterUncreatableType<Exporter>(module, 1, 0, "Exporter", reason);
     qmlRegisterUncreatableType<PipeRecords>(module, 1, 0, "PipeRecords", reason);
 }

@@ -86,15 +86,22 @@ Column {
         spacing: 6
         ToolKey {
             objectName: "asBeforeKey"
-            width: (parent.width - 6) / 2
+            width: (parent.width - 12) / 3
             text: qsTr("As before")
             hint: qsTr("Take the alignment of the picture before this one")
             enabled: Viewer.documents.currentIndex > 0
             onClicked: Viewer.editor.alignAsBefore()
         }
         ToolKey {
+            objectName: "cameraKey"
+            width: (parent.width - 12) / 3
+            text: qsTr("Camera")
+            hint: qsTr("Keep the field of view under a name, or take one that was kept")
+            onClicked: cameraDialog.open()
+        }
+        ToolKey {
             objectName: "lockKey"
-            width: (parent.width - 6) / 2
+            width: (parent.width - 12) / 3
             text: qsTr("Lock")
             hint: qsTr("The model stays where it is: a drag pans")
             chosen: Viewer.editor.isLocked
@@ -114,5 +121,9 @@ Column {
         choices: [qsTr("all"), qsTr("ends"), qsTr("none")]
         current: 2 - Viewer.editor.viewStyle
         onChosen: Viewer.editor.viewStyle = 2 - index
+    }
+    CameraDialog {
+        id: cameraDialog
+        objectName: "cameraDialog"
     }
 }

@@ -129,7 +129,8 @@ Item {
         return rows.concat([
             // The stage itself listens to these.
             [qsTr("H"), qsTr("Hide the overlay while held")],
-            [qsTr("Arrows"), qsTr("Move the selected point by a pixel, or pan")],
+            [qsTr("Enter"), qsTr("Show a cursor; again: click with it")],
+            [qsTr("Arrows"), qsTr("Move the cursor or the selected point by a pixel, or pan")],
             [qsTr("Shift+Arrows"), qsTr("The same by ten")]
         ])
     }

@@ -27,6 +27,7 @@ FocusScope {
     function cancel() {
         gestures.cancel()
         loupe.aim = null
+        cursor = null
         Viewer.editor.cancel()
     }
 
@@ -38,6 +39,20 @@ FocusScope {
         target: Viewer.editor
         function onSessionChanged() { overlay.update() }
     }
+    // Places clicks from the keyboard, in picture pixels; null while it is not shown.
+    property var cursor: null
+
+    function moveCursor(dx, dy) {
+        const size = Viewer.documents.pictureSize
+        cursor = Qt.point(Math.max(0, Math.min(size.width - 1, cursor.x + dx)),
+                          Math.max(0, Math.min(size.height - 1, cursor.y + dy)))
+    }
+    function clickCursor() {
+        if (cursor)
+            Viewer.editor.click(cursor)
+        else
+            cursor = stageView.toPicture(Qt.point(width / 2, height / 2))
+    }
     Keys.onPressed: {
         const length = event.modifiers & Qt.ShiftModifier ? 10 : 1
         const arrows = {}
@@ -48,8 +63,14 @@ FocusScope {
         const arrow = arrows[event.key]
         if (arrow) {
             event.accepted = true
-            if (!Viewer.editor.nudge(arrow[0] * length, arrow[1] * length, event.isAutoRepeat))
+            if (cursor)
+                moveCursor(arrow[0] * length, arrow[1] * length)
+            else if (!Viewer.editor.nudge(arrow[0] * length, arrow[1] * length, event.isAutoRepeat))
                 stageView.panBy(-40 * arrow[0], -40 * arrow[1])
+        } else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
+            event.accepted = Viewer.documents.hasPicture
+            if (event.accepted)
+                clickCursor()
         } else if (event.key === Qt.Key_H) {
             event.accepted = true
             isOverlayHidden = true
@@ -214,6 +235,23 @@ FocusScope {
         return index === 0 && Viewer.editor.closesOutline && Viewer.editor.points.count > 2
     }
 
+    Item {
+        objectName: "cursor"
+        visible: stage.cursor !== null
+        x: visible ? stage.cursor.x * stageView.scale + stageView.offset.x : 0
+        y: visible ? stage.cursor.y * stageView.scale + stageView.offset.y : 0
+        Repeater {
+            model: [[25, 2], [2, 25]]
+            Rectangle {
+                x: -width / 2
+                y: -height / 2
+                width: modelData[0] + 4
+                height: modelData[1] + 2
+                color: Theme.accent
+                border { width: 1; color: "black" }
+            }
+        }
+    }
     Loupe {
         id: loupe
         objectName: "loupe"
