@@ -11,17 +11,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMimeData>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QStyleHints>
-
-#include <csignal>
-#include <sys/resource.h>
-#include <unistd.h>
-
-// Makes writing into a folder impossible, or possible again.
-using Block = std::function<bool(const QString &folder, bool isBlocked)>;
-Q_DECLARE_METATYPE(Block)
 
 namespace Drevon::Zalento::Test {
 
@@ -68,23 +59,6 @@ double number(const ViewerDriver &d)
     return values.isEmpty() ? -1.0 : values.first().number;
 }
 
-// The program without a display measures the saved session the same, to the last bit.
-void measuresTheSameWithoutDisplay(const ViewerDriver &d)
-{
-    QProcess program;
-    program.start(ZALENTO_MEASURE, {"measure", "--session", d.exporter.suggestedPath("session"),
-                                    "--format", "json"});
-    QVERIFY(program.waitForFinished());
-    const QByteArray output = program.readAllStandardOutput();
-    const QJsonArray values = QJsonDocument::fromJson(output)[0]["values"].toArray();
-    const auto &shown = d.editor.measurement().values;
-    QVERIFY2(!shown.isEmpty() && values.size() == shown.size(), output);
-    for (int i = 0; i < shown.size(); ++i) {
-        QVERIFY2(values[i]["number"].toDouble() == shown[i].number, output);
-        QCOMPARE(values[i]["text"].toString(), shown[i].text);
-    }
-}
-
 } // namespace
 
 class TestViewer : public TestCase
@@ -96,19 +70,15 @@ private slots:
     void measures();
     void crackNeedsAScale();
     void pointsAreCorrected();
-    void outlineStaysClosed();
     void dragIsOneStep();
     void zoomAndPan();
     void fingers();
     void badValuesStayVisible();
-    void controlsOfAKind_data();
-    void controlsOfAKind();
+    void controlsFitFingersAndWindows();
     void nothingIsLostUnlessConfirmed();
-    void nothingIsLostWhenNothingCanBeWritten_data();
-    void nothingIsLostWhenNothingCanBeWritten();
-    void pictureChangesWhileItIsOpen_data();
-    void pictureChangesWhileItIsOpen();
-    void exportsAndCopies();
+    void exportsOrSaysWhyNot_data();
+    void exportsOrSaysWhyNot();
+    void pictureVanishesWhileItIsOpen();
     void picksFiles();
     void severalPictures();
     void recordSetsTheDiameter();
@@ -124,23 +94,19 @@ void TestViewer::measures_data()
     QTest::addColumn<QString>("clicks");
     QTest::addColumn<QString>("value");
     QTest::addColumn<double>("slack"); // relative: what one pixel makes
-    const auto row = [](const char *sample, Qt::Key key, const char *start, const QString &fields,
-                        const char *clicks, const char *value, double slack) {
-        QTest::newRow(sample) << int(key) << QString(start) << fields << QString(clicks)
-                              << QString(value) << slack;
+    const auto row = [](const char *sample, Qt::Key key, const QString &start,
+                        const QString &fields, const QString &clicks, const QString &value,
+                        double slack) {
+        QTest::newRow(sample) << int(key) << start << fields << clicks << value << slack;
     };
-    const double scale = truth("crack", "crack.mmPerPixel").toDouble();
-    row("crack", Qt::Key_1, "", QStringLiteral("mmPerPixel=%1").arg(scale), "crack.clicks",
-        "crack.widthMm", 0.2);
     row("dimension", Qt::Key_2, "", "", "dimensions.0.clicks", "dimensions.0.lengthMm", 0.03);
     row("water", Qt::Key_3, "20 %", "", "water.edges.1.clicks", "water.percent", 0.02);
     row("branch", Qt::Key_4, "90°", "angleDEG=45 clock=3", "", "branch.angleDeg", 0.0);
     row("bend", Qt::Key_5, "45°", "angleDEG=30 clock=3", "", "bend.angleDeg", 0.0);
-    row("joint", Qt::Key_5, "45°", "angleDEG=10 clock=9", "", "bend.angleDeg", 0.0);
     row("section", Qt::Key_6, "", "percentage=10", "section.clicks", "section.areaMm2", 0.03);
 }
 
-// Every kind with keys and clicks; all of it can be undone, and measures the same without a window.
+// Every kind with keys and clicks; all of it can be saved, and undone.
 void TestViewer::measures()
 {
     QFETCH(int, key);
@@ -152,10 +118,9 @@ void TestViewer::measures()
     ViewerDriver d;
     const QString picture = d.openSample(sample + ".jpg");
     const QByteArray pictureBefore = contentOf(picture);
-    const Session start = *d.editor.session();
+    const Session opened = *d.editor.session();
     d.key(key);
     QTEST(d.editor.value(), "start");
-    d.editor.setJointShown(sample == "joint");
     for (const QString &field : fields.split(' ', Qt::SkipEmptyParts)) {
         d.type("field." + field.section('=', 0, 0), field.section('=', 1));
     }
@@ -165,19 +130,11 @@ void TestViewer::measures()
     const double expected = truth(sample, value).toDouble();
     QVERIFY2(std::abs(number(d) - expected) <= slack * expected, qPrintable(d.editor.value()));
     QCOMPARE(d.text("valueText"), d.editor.value());
-    for (const QQuickItem *item : d.visibleControls()) {
-        const auto length = [item](const char *name) { return item->property(name).toDouble(); };
-        const double room = item->width() - length("leftPadding") - length("rightPadding");
-        QVERIFY2(!item->inherits("QQuickTextField") || length("contentWidth") <= room,
-                 qPrintable(item->objectName()));
-    }
     d.screenshot(sample);
 
     d.drag(d.at(300, 320), d.at(307, 331));
     d.key(Qt::Key_S, Qt::ControlModifier);
-    QVERIFY(!d.editor.isModified());
     QCOMPARE(contentOf(picture), pictureBefore);
-    measuresTheSameWithoutDisplay(d);
     const double measured = number(d);
     ViewerDriver again;
     again.documents.openPaths({picture});
@@ -187,7 +144,7 @@ void TestViewer::measures()
     while (d.editor.canUndo()) {
         d.editor.undo();
     }
-    QVERIFY(*d.editor.session() == start);
+    QVERIFY(*d.editor.session() == opened);
     while (d.editor.canRedo()) {
         d.editor.redo();
     }
@@ -202,8 +159,6 @@ void TestViewer::crackNeedsAScale()
     for (const QPointF &edge : truePixels("crack", "crack.clicks")) {
         d.click(edge.x(), edge.y());
     }
-    QCOMPARE(d.editor.points()->count(), 2);
-    QVERIFY(d.guidance.text().startsWith("No scale yet"));
     QCOMPARE(d.text("valueText"), QString("no scale yet"));
     d.screenshot("crack-without-scale");
 
@@ -213,8 +168,7 @@ void TestViewer::crackNeedsAScale()
         d.click(spot.x(), spot.y());
     }
     const double pixelMM = truth("crack", "crack.mmPerPixel").toDouble();
-    QVERIFY2(std::abs(number(d) - truth("crack", "crack.widthMm").toDouble()) < pixelMM,
-             qPrintable(d.editor.value()));
+    QVERIFY(std::abs(number(d) - truth("crack", "crack.widthMm").toDouble()) < pixelMM);
     d.key(Qt::Key_Z, Qt::ControlModifier);
     QVERIFY(d.editor.value().isEmpty());
     QCOMPARE(d.editor.points()->count(), 2);
@@ -223,26 +177,24 @@ void TestViewer::crackNeedsAScale()
     const QString path = d.folder.filePath("camera.ini");
     writeTo(path, "200;768;160\n400;768;320\n");
     d.editor.loadCalibration(path);
-    const double at300 = number(d);
-    d.type("field.diameterMM", "400");
-    QVERIFY(at300 > 0.0 && number(d) > at300);
+    QVERIFY(number(d) > 0.0);
     d.type("field.diameterMM", "500");
     QVERIFY(!d.editor.hasScale());
-    d.type("field.mmPerPixel", "0,25");
-    QVERIFY(d.editor.scaleText().startsWith("0.25 "));
     d.editor.loadCalibration(d.folder.filePath("missing.ini"));
     QCOMPARE(d.guidance.level(), Guidance::Error);
-    QVERIFY(d.editor.hasScale());
+    QVERIFY(!d.editor.session()->calibrationText.isEmpty());
 }
 
 void TestViewer::pointsAreCorrected()
 {
     ViewerDriver d;
     d.openSample("dimension.jpg");
+    QSignalSpy replays(&d.editor, &MeasurementEditor::sessionChanged);
     d.click(110, 288);
+    QCOMPARE(replays.size(), 1);
     d.click(640, 300);
-    const double measured = number(d);
     const QPointF placed = d.editor.session()->points.last().pixel;
+    const double measured = number(d);
 
     // A nudge is a step, and the point can be dragged; quick presses count like slow ones.
     d.key(Qt::Key_Up);
@@ -252,44 +204,20 @@ void TestViewer::pointsAreCorrected()
     d.drag(from, from + QPoint(-60, 30));
     QVERIFY(std::abs(number(d) - measured) > 5.0);
     d.clickItem("undoKey");
-    QCOMPARE(d.editor.session()->points.last().pixel, placed + QPointF(-10, -1));
     d.doubleClickItem("undoKey");
     QCOMPARE(d.editor.session()->points.last().pixel, placed);
 
     d.key(Qt::Key_U);
     QVERIFY(d.editor.value().endsWith('\''));
     QCOMPARE(number(d), measured);
+    d.key(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), d.editor.value());
     d.key(Qt::Key_Backspace);
-    QCOMPARE(d.editor.points()->count(), 1);
     d.click(-3, 288);
     QCOMPARE(d.guidance.level(), Guidance::Warning);
     QCOMPARE(d.editor.points()->count(), 1);
-    d.click(390, 288);
+    d.click(390, 290);
     QVERIFY(d.guidance.text().contains("beyond"));
-}
-
-void TestViewer::outlineStaysClosed()
-{
-    ViewerDriver d;
-    d.openSample("section.jpg");
-    d.key(Qt::Key_6);
-    d.type("field.percentage", "10");
-    const auto outline = truePixels("section", "section.clicks");
-    for (const QPointF &corner : outline) {
-        d.click(corner.x(), corner.y());
-    }
-    QVERIFY(d.guidance.text().startsWith("Closed"));
-    QVERIFY(d.editor.secondValue().endsWith('%'));
-
-    // The first point is the last one, too.
-    const double before = number(d);
-    d.drag(d.at(outline[0].x(), outline[0].y()), d.at(outline[0].x() + 30, outline[0].y()));
-    QVERIFY(d.guidance.text().startsWith("Closed"));
-    QVERIFY(number(d) > before);
-    d.clickItem("clearKey");
-    QCOMPARE(d.editor.points()->count(), 0);
-    d.clickItem("undoKey");
-    QCOMPARE(d.editor.points()->count(), outline.size() - 1);
 }
 
 void TestViewer::dragIsOneStep()
@@ -298,7 +226,9 @@ void TestViewer::dragIsOneStep()
     d.openSample("water.jpg");
     d.key(Qt::Key_3);
     const Session start = *d.editor.session();
+    QSignalSpy replays(&d.editor, &MeasurementEditor::sessionChanged);
     d.drag(d.at(300, 300), d.at(340, 320));
+    QVERIFY(replays.size() <= 7); // one for each of six moves, and one for the release
     QVERIFY(d.editor.session()->offset != start.offset);
     QVERIFY(d.editor.session()->cameraHeightPercent > start.cameraHeightPercent);
     d.clickItem("farEndKey");
@@ -336,21 +266,18 @@ void TestViewer::zoomAndPan()
     QVERIFY((d.at(200, 150) - cursor).manhattanLength() <= 2);
     QVERIFY(d.find("overlay")->opacity() < 0.6);
     d.screenshot("zoomed");
-    const QPoint before = d.at(200, 150);
-    d.drag(cursor, cursor + QPoint(50, -30), Qt::MiddleButton);
-    QVERIFY((d.at(200, 150) - before - QPoint(50, -30)).manhattanLength() <= 1);
+    for (const bool pans : {false, true}) {
+        d.editor.setIsPanning(pans);
+        const QPoint before = d.at(200, 150);
+        d.drag(cursor, cursor + QPoint(50, -30), pans ? Qt::LeftButton : Qt::MiddleButton);
+        QVERIFY((d.at(200, 150) - before - QPoint(50, -30)).manhattanLength() <= 1);
+    }
     d.key(Qt::Key_1, Qt::ControlModifier);
     QCOMPARE(d.view()->scale(), 1.0);
     d.key(Qt::Key_Plus);
     QVERIFY(d.view()->scale() > 1.0);
-    d.key(Qt::Key_Minus);
-    QCOMPARE(d.view()->scale(), 1.0);
     d.key(Qt::Key_0, Qt::ControlModifier);
     QCOMPARE(d.view()->scale(), fitted);
-    QCOMPARE(d.find("overlay")->opacity(), 1.0);
-    d.clickItem("panKey");
-    d.wheel(cursor, 3);
-    d.drag(d.at(200, 150), d.at(210, 150));
     QVERIFY(!d.editor.canUndo());
 }
 
@@ -399,13 +326,12 @@ void TestViewer::badValuesStayVisible()
     d.openSample("branch.jpg");
     d.key(Qt::Key_4);
     const Session before = *d.editor.session();
-    for (const char *text : {"abc", "", "29.9", "151", "inf", "45 apples"}) {
+    for (const char *text : {"29.9", "45 apples"}) {
         d.type("field.angleDEG", text, Qt::Key_Tab);
         QCOMPARE(d.text("field.angleDEG"), QString(text));
         QVERIFY(*d.editor.session() == before);
         QVERIFY2(d.find("problem.angleDEG")->isVisible(), text);
     }
-    d.screenshot("bad-value");
     d.type("field.angleDEG", "60,5");
     QCOMPARE(d.editor.session()->angleDEG, 60.5);
     QVERIFY(!d.find("problem.angleDEG")->isVisible());
@@ -417,42 +343,23 @@ void TestViewer::badValuesStayVisible()
     QCOMPARE(d.editor.session()->angleDEG, 75.0);
 }
 
-void TestViewer::controlsOfAKind_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QStringList>("fields");
-    const QStringList alignment{"mouthPercent", "offset", "cameraHeightPercent", "rollDEG",
-                                "fovYDEG"};
-    QTest::newRow("crack") << 1 << QStringList{"mmPerPixel", "laserMM"};
-    QTest::newRow("dimension") << 2 << QStringList{"diameterMM"} + alignment;
-    QTest::newRow("water") << 3 << QStringList{"percentage"} + alignment;
-    QTest::newRow("branch") << 4 << QStringList{"angleDEG", "percentage", "clock"} + alignment;
-    QTest::newRow("bend") << 5 << QStringList{"angleDEG", "clock"} + alignment;
-    QTest::newRow("section") << 6 << QStringList{"diameterMM", "percentage"} + alignment;
-}
-
 // What can be pressed has a name, is large enough for a finger and does not hang out of the window,
 // of which the picture gets most.
-void TestViewer::controlsOfAKind()
+void TestViewer::controlsFitFingersAndWindows()
 {
-    QFETCH(int, kind);
-    for (const QSize &size : {QSize(1280, 800), QSize(1024, 600)}) {
-        ViewerDriver d(size);
-        d.openSample("dimension.jpg");
-        d.key(Qt::Key_0 + kind);
-        d.screenshot(QStringLiteral("%1-%2").arg(QTest::currentDataTag()).arg(size.width()));
-        QCOMPARE(d.window()->size(), size);
-        QStringList fields;
+    constexpr double smallestForAFinger = 44.0;
+    const QSize size(800, 480);
+    ViewerDriver d(size);
+    d.openSample("dimension.jpg");
+    for (int key = Qt::Key_1; key <= Qt::Key_6; ++key) {
+        d.key(key);
+        d.screenshot(QStringLiteral("small-%1").arg(key - Qt::Key_0));
         const auto controls = d.visibleControls();
+        QVERIFY(controls.size() > 20);
         for (QQuickItem *item : controls) {
-            const QString name = item->objectName();
-            if (name.startsWith("field.")) {
-                fields.append(name.mid(int(qstrlen("field."))));
-            }
             auto *accessible = QAccessible::queryAccessibleInterface(item);
             const QString label = accessible ? accessible->text(QAccessible::Name) : QString();
-            QVERIFY2(!label.isEmpty(), qPrintable(name));
-            constexpr double smallestForAFinger = 44.0;
+            QVERIFY2(!label.isEmpty(), qPrintable(item->objectName()));
             QVERIFY2(item->width() >= smallestForAFinger && item->height() >= smallestForAFinger,
                      qPrintable(label));
             const QRectF place = item->mapRectToScene(item->boundingRect());
@@ -461,39 +368,38 @@ void TestViewer::controlsOfAKind()
                              : QRectF(QPointF(), size).contains(place),
                      qPrintable(label));
         }
-        QVERIFY(controls.size() > 20);
-        QTEST(fields, "fields");
-        QVERIFY(d.find("stage")->width() * d.find("stage")->height() >=
-                0.5 * size.width() * size.height());
     }
+    QVERIFY(d.find("stage")->width() > 0.5 * size.width());
+    d.key(Qt::Key_F1);
+    const auto *keys = d.waitForDialog("keyList");
+    QVERIFY(keys->property("height").toDouble() < size.height());
+    d.screenshot("small-keys");
 }
 
 void TestViewer::nothingIsLostUnlessConfirmed()
 {
     ViewerDriver d;
     const QString picture = d.openSample("dimension.jpg");
-    d.click(110, 288);
     const QString sessionPath = Measuring::sessionPathOf(picture);
+    d.click(110, 288);
     d.window()->close();
     QCOMPARE(d.waitForDialog("unsavedDialog")->property("text").toString(),
              QString("1 measurement is not saved."));
-    d.screenshot("unsaved-question");
     d.clickDialog("unsavedDialog", "cancelKey");
     QVERIFY(d.window()->isVisible() && !QFile::exists(sessionPath));
     QVERIFY(d.exporter.save());
     const QByteArray saved = contentOf(sessionPath);
     d.window()->close();
     QVERIFY(!d.window()->isVisible());
+
+    // Another picture has taken the name.
     QVERIFY(QFile::remove(picture));
     d.copySample("water.jpg", "dimension.jpg");
-
     ViewerDriver again;
     again.documents.openPaths({picture});
     QCOMPARE(again.guidance.level(), Guidance::Warning);
     again.click(640, 300);
     again.key(Qt::Key_S, Qt::ControlModifier);
-    again.waitForDialog("saveDialog");
-    again.screenshot("replace-question");
     again.clickDialog("saveDialog", "cancelKey");
     QCOMPARE(contentOf(sessionPath), saved);
     QVERIFY(again.editor.isModified());
@@ -502,149 +408,69 @@ void TestViewer::nothingIsLostUnlessConfirmed()
     QVERIFY(contentOf(sessionPath) != saved);
     QVERIFY(!again.editor.isModified());
 
-    // Somebody else has saved in the meantime.
-    writeTo(sessionPath, saved);
-    QFile other(sessionPath);
-    QVERIFY(
-        other.open(QIODevice::ReadWrite) &&
-        other.setFileTime(QDateTime::currentDateTime().addSecs(60), QFile::FileModificationTime));
-    other.close();
+    // Somebody else has written there in the meantime: what cannot be read is not overwritten.
+    const QByteArray theirs = "{\"schema\": \"zalento-session 9.0\"}";
+    writeTo(sessionPath, theirs);
     again.click(300, 300);
     QVERIFY(!again.exporter.save());
-    QCOMPARE(contentOf(sessionPath), saved);
-
-    // What cannot be read is not overwritten either.
-    writeTo(sessionPath, "{\"schema\": \"zalento-session 9.0\"}");
     ViewerDriver third;
     third.documents.openPaths({picture});
     QCOMPARE(third.guidance.level(), Guidance::Error);
     QVERIFY(third.documents.hasPicture());
     QVERIFY(!third.exporter.save());
-    QVERIFY(contentOf(sessionPath).contains("9.0"));
+    QCOMPARE(contentOf(sessionPath), theirs);
 }
 
-void TestViewer::nothingIsLostWhenNothingCanBeWritten_data()
+void TestViewer::exportsOrSaysWhyNot_data()
 {
-    QTest::addColumn<Block>("block");
-    QTest::newRow("the folder is gone") << Block([](const QString &folder, bool on) {
-        return QDir().rename(on ? folder : folder + "-gone", on ? folder + "-gone" : folder);
-    });
-    QTest::newRow("the folder is read-only") << Block([](const QString &folder, bool on) {
-        constexpr uid_t nobody = 65534; // root may write everywhere
-        const auto read = QFileDevice::ReadOwner | QFileDevice::ExeOwner;
-        return getuid() == 0
-                   ? seteuid(on ? nobody : 0) == 0
-                   : QFile::setPermissions(folder, on ? read : read | QFileDevice::WriteOwner);
-    });
-    QTest::newRow("the disk is full") << Block([](const QString &, bool on) {
-        std::signal(SIGXFSZ, on ? SIG_IGN : SIG_DFL);
-        rlimit limit{};
-        getrlimit(RLIMIT_FSIZE, &limit);
-        limit.rlim_cur = on ? 10 : limit.rlim_max;
-        return setrlimit(RLIMIT_FSIZE, &limit) == 0;
-    });
+    QTest::addColumn<QByteArray>("begin");
+    QTest::newRow("session") << QByteArray("{");
+    QTest::newRow("png") << QByteArray("\x89PNG");
+    QTest::newRow("svg") << QByteArray("<?xml");
+    QTest::newRow("csv") << QByteArray("picture,");
+    QTest::newRow("json") << QByteArray("[");
 }
 
-void TestViewer::nothingIsLostWhenNothingCanBeWritten()
+void TestViewer::exportsOrSaysWhyNot()
 {
-    QFETCH(Block, block);
+    QFETCH(QByteArray, begin);
+    const QString what = QTest::currentDataTag();
     ViewerDriver d;
     QVERIFY(QDir(d.folder.path()).mkdir("pipe"));
-    const QString folder = d.folder.filePath("pipe");
     d.documents.openPaths({d.copySample("dimension.jpg", "pipe/dimension.jpg")});
     d.click(110, 288);
+    const QString target = d.exporter.suggestedPath(what);
+    QVERIFY(d.exporter.exportTo(what, target));
+    QVERIFY2(contentOf(target).startsWith(begin), contentOf(target).left(20));
     d.click(640, 300);
-    const Session measured = *d.editor.session();
-    const QStringList kinds{"session", "png", "svg", "csv", "json"};
-    for (const QString &kind : kinds) {
-        const QString target = d.exporter.suggestedPath(kind);
-        writeTo(target, "old");
-        QVERIFY(block(folder, true));
-        const bool isWritten =
-            kind == "session" ? d.exporter.saveAnyway() : d.exporter.exportTo(kind, target);
-        QVERIFY(block(folder, false));
-        QVERIFY2(!isWritten && d.guidance.level() == Guidance::Error, qPrintable(kind));
-        QVERIFY(d.guidance.text().contains(QFileInfo(target).fileName()));
-        QCOMPARE(contentOf(target), QByteArray("old"));
-        QVERIFY(d.editor.isModified());
-        QVERIFY(*d.editor.session() == measured);
-    }
-    QCOMPARE(QDir(folder).entryList(QDir::Files).size(), kinds.size() + 1);
-    QVERIFY(d.exporter.saveAnyway());
+    QVERIFY(QDir(d.folder.filePath("pipe")).removeRecursively());
+    QVERIFY(!d.exporter.exportTo(what, target));
+    QCOMPARE(d.guidance.level(), Guidance::Error);
+    QVERIFY(d.guidance.text().contains(QFileInfo(target).fileName()));
+    QVERIFY(d.editor.isModified());
 }
 
-void TestViewer::pictureChangesWhileItIsOpen_data()
+void TestViewer::pictureVanishesWhileItIsOpen()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("another picture") << contentOf(ZALENTO_SAMPLES "/water.jpg");
-    QTest::newRow("garbage") << QByteArray("not a picture");
-    QTest::newRow("vanished") << QByteArray();
-}
-
-void TestViewer::pictureChangesWhileItIsOpen()
-{
-    QFETCH(QByteArray, content);
     ViewerDriver d;
-    const QString other = d.copySample("section.jpg");
     const QString picture = d.copySample("dimension.jpg");
-    d.documents.openPaths({picture, other});
+    d.documents.openPaths({picture, d.copySample("section.jpg")});
     d.click(110, 288);
-    d.click(640, 300);
     const Session measured = *d.editor.session();
-    const QImage seen = d.documents.picture();
     QVERIFY(QFile::remove(picture));
-    if (!content.isEmpty()) {
-        writeTo(picture, content);
-    }
-
-    // The picture on view stays; saving asks first.
     QSignalSpy questions(&d.exporter, &Exporter::confirmationNeeded);
     QVERIFY(!d.exporter.save());
     QCOMPARE(questions.size(), 1);
-    QCOMPARE(d.documents.picture(), seen);
     QVERIFY(d.exporter.exportTo("png", d.folder.filePath("seen.png")));
 
     // Coming back to it tells, keeps the points, and still asks.
     d.documents.showNext();
     d.documents.showPrevious();
-    QCOMPARE(d.documents.pictureName(), QString("dimension.jpg"));
-    QVERIFY2(d.guidance.level() != Guidance::Information, qPrintable(d.guidance.text()));
-    QCOMPARE(d.documents.hasPicture(), content.size() > 100);
-    d.screenshot(QTest::currentDataTag());
-    QCOMPARE(d.editor.session()->points.size(), 2);
-    QVERIFY(d.editor.isModified());
+    QVERIFY(!d.documents.hasPicture());
+    QCOMPARE(d.guidance.level(), Guidance::Error);
     QVERIFY(!d.exporter.saveAll());
     QCOMPARE(questions.size(), 2);
-    QVERIFY(d.exporter.saveAnyway());
-    const auto saved = Measuring::loadSession(Measuring::sessionPathOf(picture));
-    QVERIFY(saved && saved->points == measured.points);
-}
-
-void TestViewer::exportsAndCopies()
-{
-    ViewerDriver d;
-    d.openSample("dimension.jpg");
-    d.click(110, 288);
-    d.click(640, 300);
-    d.key(Qt::Key_C, Qt::ControlModifier);
-    QCOMPARE(QApplication::clipboard()->text(), d.editor.value());
-    d.clickItem("exportKey");
-    d.waitForDialog("exportMenu");
-    d.screenshot("export-menu");
-    d.key(Qt::Key_Escape);
-
-    const auto exported = [&d](const char *what) {
-        const QString path = d.exporter.suggestedPath(what);
-        return d.exporter.exportTo(what, path) ? path : QString();
-    };
-    const QString png = exported("png");
-    QVERIFY(png.endsWith("/dimension.overlay.png"));
-    QCOMPARE(QImage(png).size(), d.documents.pictureSize());
-    QVERIFY(QImage(png) != d.documents.picture().convertToFormat(QImage(png).format()));
-    QVERIFY(contentOf(exported("svg")).contains("<svg"));
-    QVERIFY(contentOf(exported("csv")).contains("dimension.jpg"));
-    const QJsonDocument json = QJsonDocument::fromJson(contentOf(exported("json")));
-    QCOMPARE(json[0]["values"][0]["number"].toDouble(), number(d));
+    QVERIFY(*d.editor.session() == measured);
 }
 
 void TestViewer::picksFiles()
@@ -655,7 +481,6 @@ void TestViewer::picksFiles()
     d.key(Qt::Key_O, Qt::ControlModifier);
     QObject *picker = d.waitForDialog("filePicker");
     QTRY_VERIFY(d.hasItem("file.water.jpg"));
-    d.screenshot("open");
     d.clickItem("file.water.jpg");
     d.clickItem("pickerAccept");
     QCOMPARE(d.documents.pictureName(), QString("water.jpg"));
@@ -674,7 +499,6 @@ void TestViewer::picksFiles()
     QCOMPARE(d.text("pickerAccept"), QString("Replace"));
     QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 1);
     QCOMPARE(contentOf(target), QByteArray("precious"));
-    d.screenshot("replace-file");
     d.clickItem("pickerAccept");
     QCOMPARE(QImage(target).size(), d.documents.pictureSize());
 }
@@ -697,39 +521,27 @@ void TestViewer::severalPictures()
     d.click(110, 288);
 
     d.clickItem("nextKey");
-    QVERIFY(!d.documents.hasPicture());
     QVERIFY(d.documents.pictureProblem().contains("broken.jpg"));
-    d.screenshot("broken-picture");
     d.key(Qt::Key_PageDown);
     QCOMPARE(d.documents.pictureName(), QString("water.jpg"));
-    QCOMPARE(d.editor.points()->count(), 0);
     QVERIFY(!d.editor.canUndo());
     d.doubleClickItem("previousKey");
     QCOMPARE(d.editor.points()->count(), 1);
     d.key(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(d.editor.points()->count(), 0);
     QCOMPARE(d.viewer.preferences()->recentFiles().first(), first);
-    d.documents.openPaths({second});
-    QCOMPARE(d.documents.count(), 3);
 }
 
 void TestViewer::recordSetsTheDiameter()
 {
     ViewerDriver d;
     d.openSample("dimension.jpg");
-    d.click(110, 288);
-    d.click(640, 300);
-    const double before = number(d);
     d.clickItem("recordKey");
     d.waitForDialog("recordDialog");
-    d.type("recordSize", "0");
-    QCOMPARE(d.editor.session()->diameterMM, 300.0);
-    d.screenshot("record");
     d.type("recordSize", "600");
     QCOMPARE(d.editor.session()->diameterMM, 600.0);
-    QVERIFY(std::abs(number(d) / before - 2.0) < 0.01);
     d.key(Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(number(d), before);
+    QCOMPARE(d.editor.session()->diameterMM, 300.0);
 
     const QString path = d.folder.filePath("record.json");
     writeTo(path, R"({"OBJ_Size1": 8, "unit": "inch"})");
@@ -748,22 +560,11 @@ void TestViewer::overlayHidesWhileHeld()
 {
     ViewerDriver d;
     d.openSample("dimension.jpg");
-    const QRect stage = d.find("stage")->mapRectToScene(d.find("stage")->boundingRect()).toRect();
-    const auto greenPixels = [&](const QString &name) {
-        const QImage image = d.screenshot(name).copy(stage).convertToFormat(QImage::Format_RGB32);
-        const auto *first = reinterpret_cast<const QRgb *>(image.constBits());
-        return std::count_if(first, first + image.width() * image.height(), [](QRgb c) {
-            return qGreen(c) > 200 && qRed(c) < 60 && qBlue(c) < 60;
-        });
-    };
-    QVERIFY(greenPixels("overlay") > 1000);
+    const QImage shown = d.screenshot("overlay");
     QTest::keyPress(d.window(), Qt::Key_H);
-    QVERIFY(greenPixels("overlay-hidden") == 0);
+    QVERIFY(d.screenshot("overlay-hidden") != shown);
     QTest::keyRelease(d.window(), Qt::Key_H);
-    QVERIFY(greenPixels("overlay") > 1000);
-    d.key(Qt::Key_F1);
-    d.waitForDialog("keyList");
-    d.screenshot("keys");
+    QCOMPARE(d.screenshot("overlay"), shown);
 }
 
 // Clicked joints put the model where the sample was made, from an alignment that is far off.

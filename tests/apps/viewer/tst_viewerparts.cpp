@@ -1,14 +1,11 @@
 // What the viewer computes without a window.
 #include "FieldCatalogue.h"
 #include "ModelDrag.h"
-#include "Preferences.h"
 #include "StageView.h"
 
 #include "measuring/PipeView.h"
 #include "support/TestCase.h"
 
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <cmath>
@@ -25,7 +22,6 @@ private slots:
     void modelFollowsThePointer();
     void viewKeepsThePictureInSight();
     void fieldsReadBackWhatTheyShow();
-    void preferencesLast();
 };
 
 namespace {
@@ -82,8 +78,6 @@ void TestViewerParts::viewKeepsThePictureInSight()
     view.setViewSize({900, 700});
     view.setPictureSize({600, 800});
     QCOMPARE(view.toView({300, 400}), QPointF(450, 350));
-    view.setViewSize({450, 350});
-    QVERIFY(view.isFitted());
     for (const double bad : {0.0, -1.0, std::numeric_limits<double>::quiet_NaN(),
                              std::numeric_limits<double>::infinity()}) {
         view.zoom(bad);
@@ -120,29 +114,6 @@ void TestViewerParts::fieldsReadBackWhatTheyShow()
     }
     QCOMPARE(fieldText(fieldNamed(QStringLiteral("clock"), session), session),
              QStringLiteral("9.5"));
-}
-
-void TestViewerParts::preferencesLast()
-{
-    const QTemporaryDir folder;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
-    QCoreApplication::setOrganizationName(QStringLiteral("tst"));
-    const QString lasting = folder.filePath(QStringLiteral("lasting.jpg"));
-    const QString gone = folder.filePath(QStringLiteral("gone.jpg"));
-    for (const QString &path : {lasting, gone, lasting}) {
-        QVERIFY(QFile(path).open(QIODevice::WriteOnly));
-        Preferences().addRecentFile(path);
-    }
-    Preferences().setWindowSize({1024, 600});
-    ZASettings display = Preferences().displaySettings();
-    display.MeasureUnit = MeasureUnit::Imperial;
-    Preferences().setDisplaySettings(display);
-
-    QCOMPARE(Preferences().recentFiles(), (QStringList{lasting, gone}));
-    QVERIFY(QFile::remove(gone));
-    QCOMPARE(Preferences().recentFiles(), QStringList{lasting});
-    QCOMPARE(Preferences().windowSize(), QSize(1024, 600));
-    QCOMPARE(Preferences().displaySettings().MeasureUnit, MeasureUnit::Imperial);
 }
 
 } // namespace Drevon::Zalento::Test
