@@ -6,6 +6,7 @@
 #include "support/TestCase.h"
 #include "support/Tolerances.h"
 
+#include <QDir>
 #include <QFile>
 #include <QImageReader>
 #include <QJsonArray>
@@ -91,7 +92,7 @@ private slots:
                      request.scene.camera.picture);
             ++drawn;
         }
-        QCOMPARE(drawn, int(sceneKinds().size()));
+        QCOMPARE(drawn, QDir(QStringLiteral(SAMPLES_FOLDER)).entryList({"*.jpg"}).size());
     }
 };
 
