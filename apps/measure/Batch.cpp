@@ -280,12 +280,7 @@ Outcome Batch::takeLaserScale(Work &work) const
     if (spots.isEmpty()) {
         return {};
     }
-    const Result<double> scale = laserScale(work.session, spots[0], spots[1]);
-    if (!scale) {
-        return scale.problem();
-    }
-    work.session.mmPerPixel = *scale;
-    return {};
+    return Measuring::takeLaserScale(work.session, spots[0], spots[1]);
 }
 
 Outcome Batch::placeClicks(Work &work) const

@@ -1,5 +1,7 @@
 #include "measure/SessionOptions.h"
 
+#include "measuring/Editing.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -345,10 +347,10 @@ void SessionOptions::applyTo(Session &session) const
     }
     if (calibrationText) {
         session.calibrationText = *calibrationText;
-        session.mmPerPixel.reset();
+        setScale(session, std::nullopt);
     }
     if (mmPerPixel) {
-        session.mmPerPixel = mmPerPixel;
+        setScale(session, mmPerPixel);
     }
     if (clicks) {
         session.points.clear();

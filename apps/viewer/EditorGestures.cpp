@@ -17,7 +17,6 @@ using Measuring::Uses;
 
 namespace {
 
-constexpr int laserSpotCount = 2;
 constexpr double mmPerMetre = 1000.0;
 
 // Beyond the modelled pipe one pixel is more than a diameter.
@@ -222,7 +221,7 @@ void MeasurementEditor::startCalibration()
     }
     chooseKind(infoOf(Measuring::Kind::CrackWidth).nameText());
     m_guidance.clearNotice();
-    expectLaserSpots(laserSpotCount, {});
+    expectLaserSpots(Measuring::laserSpotCount, {});
 }
 
 void MeasurementEditor::expectLaserSpots(int count, const QVariantList &spots)
@@ -242,19 +241,18 @@ void MeasurementEditor::expectLaserSpots(int count, const QVariantList &spots)
 void MeasurementEditor::addLaserSpot(const QPointF &pixel)
 {
     const QVariantList spots = m_laserSpots + QVariantList{pixel};
-    if (spots.size() < laserSpotCount) {
-        expectLaserSpots(laserSpotCount - spots.size(), spots);
+    if (spots.size() < Measuring::laserSpotCount) {
+        expectLaserSpots(Measuring::laserSpotCount - spots.size(), spots);
         return;
     }
     expectLaserSpots(0, {});
-    const auto scale =
-        Measuring::laserScale(*session(), spots.first().toPointF(), spots.last().toPointF());
-    if (!scale) {
-        m_guidance.notice(Guidance::Error, tr("No scale: %1.").arg(scale.problem().text()));
+    Session session = sessionCopy();
+    const auto problem =
+        Measuring::takeLaserScale(session, spots.first().toPointF(), spots.last().toPointF());
+    if (problem) {
+        m_guidance.notice(Guidance::Error, tr("No scale: %1.").arg(problem->text()));
         return;
     }
-    Session session = sessionCopy();
-    session.mmPerPixel = *scale;
     change(tr("Calibrate"), session, Moves::Nothing);
 }
 

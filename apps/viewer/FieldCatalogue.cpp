@@ -1,5 +1,6 @@
 #include "FieldCatalogue.h"
 
+#include "measuring/Editing.h"
 #include "measuring/Kind.h"
 
 #include <zalento/settings/UnitConv.h>
@@ -140,7 +141,7 @@ Field scaleField()
     field.mayBeEmpty = true;
     field.movesModel = false;
     field.get = [](const Session &s) { return s.mmPerPixel; };
-    field.set = [](Session &s, std::optional<double> v) { s.mmPerPixel = v; };
+    field.set = Measuring::setScale;
     return field;
 }
 

@@ -418,7 +418,7 @@ void MeasurementEditor::loadCalibration(const QString &path)
     chooseKind(infoOf(Measuring::Kind::CrackWidth).nameText());
     Session session = sessionCopy();
     session.calibrationText = *text;
-    session.mmPerPixel.reset();
+    Measuring::setScale(session, std::nullopt);
     change(tr("Calibration file"), session, Moves::Nothing);
     if (!hasScale()) {
         m_guidance.notice(Guidance::Warning, tr("%1 gives no scale for a diameter of %2 mm.")

@@ -190,6 +190,46 @@ void setCovariance(const FitProblem &problem, double spreadPX, AlignmentFit &fit
     }
 }
 
+// The derivatives of the distances with respect to one number.
+Eigen::VectorXd slopesOf(FitProblem problem, int number)
+{
+    problem.free = {number};
+    return derivatives(problem);
+}
+
+Eigen::VectorXd slopesOfDiameter(FitProblem problem)
+{
+    constexpr double stepMM = 1e-3;
+    problem.diameterMM += stepMM;
+    const Eigen::VectorXd larger = distances(problem);
+    problem.diameterMM -= 2 * stepMM;
+    return (larger - distances(problem)) / (2 * stepMM);
+}
+
+void setResponses(const FitProblem &problem, AlignmentFit &fit)
+{
+    const auto isFree = [&problem](int number) {
+        return std::find(problem.free.begin(), problem.free.end(), number) != problem.free.end();
+    };
+    const auto spread = [&](const Eigen::VectorXd &response, auto &&put) {
+        for (std::size_t i = 0; i < problem.free.size(); ++i) {
+            const auto field = static_cast<std::size_t>(problem.free[i]);
+            if (field < alignmentFieldCount) {
+                put(field, response[static_cast<Eigen::Index>(i)]);
+            }
+        }
+    };
+    for (std::size_t other = 0; other < alignmentFieldCount; ++other) {
+        const int number = static_cast<int>(other);
+        if (!isFree(number)) {
+            spread(responseTo(problem, slopesOf(problem, number)),
+                   [&](std::size_t field, double by) { fit.response[field][other] = by; });
+        }
+    }
+    spread(responseTo(problem, slopesOfDiameter(problem)),
+           [&](std::size_t field, double by) { fit.diameterResponse[field] = by; });
+}
+
 void setTargets(const FitTargets &targets, bool asksForFov, AlignmentFit &fit)
 {
     for (std::size_t i = 0; i < alignmentFieldCount; ++i) {
@@ -334,6 +374,7 @@ Result<AlignmentFit> fitAlignment(const AlignmentClicks &clicks, const Alignment
     AlignmentFit fit;
     setTargets(fitting->targets, clicks.fitsFov, fit);
     setCovariance(fitting->problem, spreadPX, fit);
+    setResponses(fitting->problem, fit);
     if (fitting->targets.place && !roundOffset(*fitting, fit)) {
         return problemWith(noneFits);
     }

@@ -89,6 +89,12 @@ struct AlignmentFit
         rows and columns of the other fields are 0: it holds for those as they stand. */
     std::array<AlignmentNumbers, alignmentFieldCount> covariance{};
 
+    /** How far each fitted field (row) follows when a field that is not fitted (column) moves by 1,
+        the clicks as they are; 0 elsewhere. */
+    std::array<AlignmentNumbers, alignmentFieldCount> response{};
+    /** The same for a diameter that is 1 mm larger: rings with distances come nearer. */
+    AlignmentNumbers diameterResponse{};
+
     /** Distances of the clicks that count from the curves that are drawn, in pixels. A click that
         is suspicious, or on a line that could not be used, does not count. */
     double rmsPX = 0.0;

@@ -153,7 +153,7 @@ std::optional<double> waterLevelAt(const Session &session, const QPointF &pixel)
     return std::clamp((heightMM / session.diameterMM + 0.5) * percentPerOne, 0.0, percentPerOne);
 }
 
-Result<double> laserScale(const Session &session, const QPointF &first, const QPointF &second)
+Outcome takeLaserScale(Session &session, const QPointF &first, const QPointF &second)
 {
     Session calibration = session;
     calibration.kind = Kind::CrackWidth;
@@ -179,7 +179,24 @@ Result<double> laserScale(const Session &session, const QPointF &first, const QP
                                             smallestMMPerPixel, largestMMPerPixel)) {
         return *problem;
     }
-    return pipe.laserScale;
+    session.mmPerPixel = pipe.laserScale;
+    session.laserSpots = {first, second};
+    return {};
+}
+
+void setScale(Session &session, std::optional<double> mmPerPixel)
+{
+    session.mmPerPixel = mmPerPixel;
+    session.laserSpots.clear();
+}
+
+std::optional<double> laserDistanceOf(const Session &session)
+{
+    Pipe pipe;
+    readCalibration(session, pipe);
+    return std::isfinite(pipe.laserDistance) && pipe.laserDistance > 0.0
+               ? std::optional<double>(pipe.laserDistance)
+               : std::nullopt;
 }
 
 std::optional<double> scaleOf(const Session &session)

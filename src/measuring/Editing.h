@@ -53,11 +53,17 @@ ZALENTO_MEASURING_EXPORT std::optional<double> waterLevelAt(const Session &sessi
                                                             const QPointF &pixel);
 
 /**
- * The scale that two clicks on the camera's laser spots give, in mm per pixel, with the distance
- * that the session's calibration text names.
+ * Takes the scale that two clicks on the camera's laser spots give, with the distance that the
+ * session's calibration text names. On a problem the session stays as it was.
  */
-ZALENTO_MEASURING_EXPORT Result<double> laserScale(const Session &session, const QPointF &first,
-                                                   const QPointF &second);
+ZALENTO_MEASURING_EXPORT Outcome takeLaserScale(Session &session, const QPointF &first,
+                                                const QPointF &second);
+
+/** Sets a scale that was typed, in mm per pixel, or none. */
+ZALENTO_MEASURING_EXPORT void setScale(Session &session, std::optional<double> mmPerPixel);
+
+/** Distance of the laser spots in mm that the session's calibration text names. */
+ZALENTO_MEASURING_EXPORT std::optional<double> laserDistanceOf(const Session &session);
 
 /** Millimetres per picture pixel: those of the session, else those of its calibration text. */
 ZALENTO_MEASURING_EXPORT std::optional<double> scaleOf(const Session &session);

@@ -109,6 +109,15 @@ public:
         return across(rayThrough(pixel)) / sqrt(gx * gx + gy * gy + T(tiny));
     }
 
+    /** Where a place of the scene is seen; a place behind the camera has no meaning. */
+    QPointF pixelOf(const FitVector<T> &place) const
+    {
+        const FitVector<T> v =
+            turnedBack({place.x - m_eye.x, place.y - m_eye.y, place.z - m_eye.z});
+        const T scale = T(-1.0) / (v.z * m_perPixel);
+        return {m_centre.x() - v.x * scale, m_centre.y() - v.y * scale};
+    }
+
     /** Direction from the eye through a pixel; its length is free. The camera shows the scene
         mirrored through its centre of projection. */
     FitVector<T> rayThrough(const QPointF &pixel) const
@@ -131,6 +140,13 @@ private:
     {
         const T z = m_sinY * v.x + m_cosY * v.z;
         return {m_cosY * v.x - m_sinY * v.z, m_cosX * v.y + m_sinX * z, m_cosX * z - m_sinX * v.y};
+    }
+
+    // The inverse of turned().
+    FitVector<T> turnedBack(const FitVector<T> &v) const
+    {
+        const T z = m_sinX * v.y + m_cosX * v.z;
+        return {m_cosY * v.x + m_sinY * z, m_cosX * v.y - m_sinX * v.z, m_cosY * z - m_sinY * v.x};
     }
 
     QPointF m_centre;

@@ -166,6 +166,13 @@ Eigen::MatrixXd unitCovariance(const FitProblem &problem)
     return inverseOfSquares(derivatives(problem));
 }
 
+// The normal equations of Gauss and Newton.
+Eigen::VectorXd responseTo(const FitProblem &problem, const Eigen::VectorXd &change)
+{
+    const Eigen::MatrixXd slopes = derivatives(problem);
+    return -inverseOfSquares(slopes) * (slopes.transpose() * change);
+}
+
 FitOutcome minimize(FitProblem &problem, FitLoss loss)
 {
     if (problem.clicks.empty() || problem.degreesOfFreedom() < 0) {

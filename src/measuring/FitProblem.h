@@ -60,6 +60,9 @@ Eigen::MatrixXd inverseOfSquares(const Eigen::MatrixXd &j);
     determine at all gets a variance that is very large, but finite. */
 Eigen::MatrixXd unitCovariance(const FitProblem &problem);
 
+/** How the free numbers follow at a minimum when the distances change by @p change, first order. */
+Eigen::VectorXd responseTo(const FitProblem &problem, const Eigen::VectorXd &change);
+
 /** Moves the free numbers to the nearest minimum of the loss (Levenberg-Marquardt); false when it
     finds none. @return also the loss there, in px². */
 struct FitOutcome

@@ -16,6 +16,7 @@ namespace {
 
 constexpr double mPerMM = 0.001;
 constexpr double fractionPerPercent = 0.01;
+constexpr double percentPerOne = 100.0;
 constexpr double halfPixel = 0.5;
 
 const Vec3 nowhere(std::numeric_limits<double>::quiet_NaN(), 0, 0);
@@ -100,6 +101,12 @@ void PipeView::placeCamera(const Session &session)
         return; // a camera that stands where it looks sees nothing
     }
     m_isPlaced = true;
+    m_drawn = {static_cast<double>(offset.x()),
+               m_pipe->cameraHeight * percentPerOne,
+               m_rotation.x * rearCircleRangeX,
+               m_rotation.y * rearCircleRangeY,
+               session.mouthPercent,
+               session.fovYDEG};
     if (m_pipe->measureMode == MeasureMode::CrackWidth) {
         m_toPixels = fractionsToPixels(m_drawingArea);
         return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "measuring/AlignmentFit.h"
 #include "measuring/Export.h"
 #include "measuring/Session.h"
 
@@ -51,6 +52,10 @@ public:
     /** Side in pixels of the square in which the item draws. */
     double drawingWidthPX() const { return m_drawingArea.width(); }
 
+    /** The alignment as it is drawn: in whole gesture units, the camera inside, and the far end
+        where drawing corrects it. */
+    const Alignment &drawnAlignment() const { return m_drawn; }
+
     /** Where a click of the session's kind at @p pixel lies; nothing on a miss. */
     std::optional<Vec3> pick(const QPointF &pixel) const;
     /** The same on the wall, whatever the kind. */
@@ -72,6 +77,7 @@ private:
     QPointF m_origin;     ///< of the item, in the picture
     QRectF m_drawingArea; ///< in the item
     Vec3 m_rotation;
+    Alignment m_drawn;
     Mat4 m_toPixels;
     bool m_isPlaced = false; ///< the camera does not stand where it looks
 };

@@ -1,5 +1,7 @@
 #include "measuring/Session.h"
 
+#include "measuring/Limit.h"
+
 #include <algorithm>
 #include <cmath>
 #include <tuple>
@@ -90,7 +92,8 @@ bool sameLines(const QVector<LineClicks> &a, const QVector<LineClicks> &b)
 auto choicesOf(const Session &s)
 {
     return std::tie(s.kind, s.unit, s.rearCircleActive, s.clockDEG, s.viewDownstream, s.jointShown,
-                    s.viewStyle, s.calibrationText, s.mmPerPixel, s.fitsFov, s.schemaMinor);
+                    s.viewStyle, s.calibrationText, s.mmPerPixel, s.fitsFov, s.limit,
+                    s.schemaMinor);
 }
 
 Outcome checkClicks(const QString &place, const QVector<QPointF> &points)
@@ -130,6 +133,25 @@ Outcome checkPoint(const SessionPoint &point, int index)
     return {};
 }
 
+Outcome checkStandardUncertainties(const StandardUncertainties &given)
+{
+    for (const StandardUncertaintyRow &row : standardUncertaintyRows()) {
+        const QString place =
+            QStringLiteral("standardUncertainties.%1").arg(QLatin1String(row.name));
+        if (const Outcome problem = checkNumber(place, (given.*row.member).value_or(0.0), 0.0,
+                                                largestStandardUncertainty)) {
+            return problem;
+        }
+    }
+    return {};
+}
+
+Outcome checkLimit(const QString &text)
+{
+    const Result<Limit> limit = text.isEmpty() ? Limit() : limitFromText(text);
+    return limit ? Outcome() : Outcome(limit.problem());
+}
+
 } // namespace
 
 bool operator==(const PictureIdentity &a, const PictureIdentity &b)
@@ -153,7 +175,8 @@ bool operator==(const Session &a, const Session &b)
     }
     return choicesOf(a) == choicesOf(b) && a.picture == b.picture && a.points == b.points &&
            sameRings(a.rings, b.rings) && sameLines(a.lines, b.lines) &&
-           a.unknownFields == b.unknownFields;
+           samePoints(a.laserSpots, b.laserSpots) &&
+           a.standardUncertainties == b.standardUncertainties && a.unknownFields == b.unknownFields;
 }
 
 const QVector<SessionNumber> &sessionNumbers()
@@ -231,6 +254,17 @@ Outcome checkSession(const Session &session)
                                                 smallestMMPerPixel, largestMMPerPixel)) {
             return problem;
         }
+    }
+    if (const Outcome problem = checkStandardUncertainties(session.standardUncertainties)) {
+        return problem;
+    }
+    if (const Outcome problem = checkLimit(session.limit)) {
+        return problem;
+    }
+    const int spots = session.laserSpots.size();
+    if (spots != 0 && spots != laserSpotCount) {
+        return Problem{QStringLiteral("laserSpots"),
+                       QStringLiteral("expected two places, found %1").arg(spots)};
     }
     for (int i = 0; i < session.rings.size(); ++i) {
         if (const Outcome problem = checkRing(session.rings[i], i)) {

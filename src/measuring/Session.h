@@ -4,6 +4,7 @@
 #include "measuring/Export.h"
 #include "measuring/Kind.h"
 #include "measuring/Result.h"
+#include "measuring/StandardUncertainties.h"
 
 #include "zalento/math/Vec3.h"
 #include "zalento/pipes/ViewStyle.h"
@@ -11,6 +12,7 @@
 
 #include <QByteArray>
 #include <QJsonObject>
+#include <QMap>
 #include <QPointF>
 #include <QSize>
 #include <QString>
@@ -83,6 +85,14 @@ struct Session
     QString calibrationText = QStringLiteral("LASER;;;50"); ///< see Pipe::parseIniFile()
     /** Millimetres per picture pixel; wins over what the calibration text gives. */
     std::optional<double> mmPerPixel;
+    /** Where the two laser spots were clicked that gave #mmPerPixel; empty for one that was typed.
+     */
+    QVector<QPointF> laserSpots;
+    StandardUncertainties standardUncertainties;
+    /** Results of the same measurement that were kept before it was done again: numbers by the
+       names of the values. */
+    QVector<QMap<QString, double>> repeats;
+    QString limit; ///< that values are held against, such as "< 0.5 mm"; may be empty
     QVector<SessionPoint> points;
     QJsonObject unknownFields; ///< of a file written by a later version; kept
     /** Minor version of the file that it goes into: ours, or the later one of the file it is from.
@@ -116,6 +126,8 @@ constexpr double smallestMouthPercent = 5.0;
 constexpr double largestMouthPercent = 400.0;
 /** Limit of RingClicks::distanceMM in both directions. */
 constexpr double largestRingDistanceMM = 1e7;
+/** The camera's laser throws this many spots. */
+constexpr int laserSpotCount = 2;
 /** Limit of Session::clockDEG in both directions. */
 constexpr int largestClockDEG = 3600;
 

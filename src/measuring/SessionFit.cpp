@@ -28,8 +28,9 @@ bool hasAlignmentClicks(const Session &session)
 Result<AlignmentFit> fitSession(Session &session)
 {
     const Alignment before = alignmentOf(session);
-    Result<AlignmentFit> fit = fitAlignment({session.rings, session.lines, session.fitsFov}, before,
-                                            session.diameterMM, session.picture.size);
+    Result<AlignmentFit> fit =
+        fitAlignment({session.rings, session.lines, session.fitsFov}, before, session.diameterMM,
+                     session.picture.size, inputUncertainties(session).clickPX);
     if (!fit) {
         return fit;
     }

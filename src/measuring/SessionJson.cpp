@@ -57,6 +57,15 @@ public:
         }
     }
 
+    void read(const char *name, std::optional<double> &number)
+    {
+        double given = std::numeric_limits<double>::quiet_NaN();
+        read(name, given);
+        if (!std::isnan(given)) {
+            number = given;
+        }
+    }
+
     void read(const char *name, int &number)
     {
         const QJsonValue value = take(name);
@@ -284,11 +293,13 @@ QByteArray linesToJson(const QVector<LineClicks> &lines)
     return jsonLines(texts, "  ");
 }
 
-QVector<QPointF> clicksFromJson(FieldReader &reader, const QString &place, Outcome &problem)
+// A list of places; the names of its problems begin with @p prefix.
+QVector<QPointF> clicksFromJson(FieldReader &reader, const char *name, const QString &prefix,
+                                Outcome &problem)
 {
-    const QJsonValue value = reader.take("points");
+    const QJsonValue value = reader.take(name);
     QVector<QPointF> points;
-    if (!reader.expect("points", value, value.isArray(), "a list of places [x, y]")) {
+    if (!reader.expect(name, value, value.isArray(), "a list of places [x, y]")) {
         return points;
     }
     const QJsonArray list = value.toArray();
@@ -297,7 +308,7 @@ QVector<QPointF> clicksFromJson(FieldReader &reader, const QString &place, Outco
         if (xy.size() == 2 && xy[0].isDouble() && xy[1].isDouble()) {
             points += QPointF(xy[0].toDouble(), xy[1].toDouble());
         } else {
-            problem = Problem{QStringLiteral("%1.points[%2]").arg(place).arg(i),
+            problem = Problem{QStringLiteral("%1%2[%3]").arg(prefix, QLatin1String(name)).arg(i),
                               QStringLiteral("expected a list of x and y in pixels, found %1")
                                   .arg(typeName(list[i]))};
         }
@@ -314,19 +325,19 @@ RingClicks ringFromJson(const QJsonObject &object, const QString &place, Outcome
         reader.expect("distanceMM", distance, distance.isDouble(), "a number or null")) {
         ring.distanceMM = distance.toDouble();
     }
-    ring.points = clicksFromJson(reader, place, problem);
+    ring.points = clicksFromJson(reader, "points", place + QLatin1Char('.'), problem);
     return ring;
 }
 
 LineClicks lineFromJson(const QJsonObject &object, const QString &place, Outcome &problem)
 {
     FieldReader reader(object, place + QLatin1Char('.'), problem);
-    return {clicksFromJson(reader, place, problem)};
+    return {clicksFromJson(reader, "points", place + QLatin1Char('.'), problem)};
 }
 
-template <typename Clicks, typename Read>
-void readClickLists(FieldReader &reader, const char *name, QVector<Clicks> &lists, Read read,
-                    Outcome &problem)
+template <typename Element, typename Read>
+void readObjects(FieldReader &reader, const char *name, QVector<Element> &lists, Read read,
+                 Outcome &problem)
 {
     const QJsonValue value = reader.take(name);
     if (!reader.expect(name, value, value.isArray(), "a list")) {
@@ -342,6 +353,60 @@ void readClickLists(FieldReader &reader, const char *name, QVector<Clicks> &list
                 place, QStringLiteral("expected an object, found %1").arg(typeName(list[i]))};
         }
     }
+}
+
+// Uncertainty
+
+QByteArray standardUncertaintiesToJson(const StandardUncertainties &given)
+{
+    OrderedJson json;
+    for (const StandardUncertaintyRow &row : standardUncertaintyRows()) {
+        if (const std::optional<double> &number = given.*row.member) {
+            json.add(QLatin1String(row.name), *number);
+        }
+    }
+    return json.toLine();
+}
+
+void readStandardUncertainties(FieldReader &reader, Session &session, Outcome &problem)
+{
+    const QJsonValue value = reader.take("standardUncertainties");
+    if (!reader.expect("standardUncertainties", value, value.isObject(), "an object")) {
+        return;
+    }
+    FieldReader numbers(value.toObject(), QStringLiteral("standardUncertainties."), problem);
+    for (const StandardUncertaintyRow &row : standardUncertaintyRows()) {
+        numbers.read(row.name, session.standardUncertainties.*row.member);
+    }
+}
+
+QByteArray repeatsToJson(const QVector<QMap<QString, double>> &repeats)
+{
+    QVector<QByteArray> texts;
+    for (const QMap<QString, double> &result : repeats) {
+        OrderedJson json;
+        for (auto number = result.begin(); number != result.end(); ++number) {
+            json.add(number.key(), number.value());
+        }
+        texts += json.toLine();
+    }
+    return jsonLines(texts, "  ");
+}
+
+QMap<QString, double> repeatFromJson(const QJsonObject &object, const QString &place,
+                                     Outcome &problem)
+{
+    QMap<QString, double> result;
+    for (auto member = object.begin(); member != object.end() && !problem; ++member) {
+        if (member.value().isDouble()) {
+            result.insert(member.key(), member.value().toDouble());
+        } else {
+            problem = Problem{
+                place + QLatin1Char('.') + member.key(),
+                QStringLiteral("expected a number, found %1").arg(typeName(member.value()))};
+        }
+    }
+    return result;
 }
 
 // Schema
@@ -390,11 +455,8 @@ void readChoices(FieldReader &reader, Session &session)
     reader.readChoice("viewStyle", session.viewStyle, viewStyleNamed,
                       "\"measure\", \"ends\" or \"full\"");
     reader.read("calibration", session.calibrationText);
-    double scale = std::numeric_limits<double>::quiet_NaN();
-    reader.read("mmPerPixel", scale);
-    if (!std::isnan(scale)) {
-        session.mmPerPixel = scale;
-    }
+    reader.read("mmPerPixel", session.mmPerPixel);
+    reader.read("limit", session.limit);
 }
 
 void addChoices(OrderedJson &json, const Session &session)
@@ -410,6 +472,10 @@ void addChoices(OrderedJson &json, const Session &session)
     if (session.mmPerPixel) {
         json.add(QStringLiteral("mmPerPixel"), *session.mmPerPixel);
     }
+    if (!session.laserSpots.isEmpty()) {
+        json.add(QStringLiteral("laserSpots"), clicksToJson(session.laserSpots));
+    }
+    json.add(QStringLiteral("limit"), session.limit);
 }
 
 void readFields(FieldReader &reader, Session &session, Outcome &problem)
@@ -426,8 +492,11 @@ void readFields(FieldReader &reader, Session &session, Outcome &problem)
     if (reader.expect("points", points, points.isArray(), "a list")) {
         session.points = pointsFromJson(points.toArray(), problem);
     }
-    readClickLists(reader, "rings", session.rings, ringFromJson, problem);
-    readClickLists(reader, "lines", session.lines, lineFromJson, problem);
+    readObjects(reader, "rings", session.rings, ringFromJson, problem);
+    readObjects(reader, "lines", session.lines, lineFromJson, problem);
+    session.laserSpots = clicksFromJson(reader, "laserSpots", QString(), problem);
+    readStandardUncertainties(reader, session, problem);
+    readObjects(reader, "repeats", session.repeats, repeatFromJson, problem);
     session.unknownFields = reader.rest();
 }
 
@@ -452,6 +521,9 @@ QByteArray sessionToJson(const Session &session)
     json.add(QStringLiteral("rings"), ringsToJson(session.rings));
     json.add(QStringLiteral("lines"), linesToJson(session.lines));
     json.add(QStringLiteral("fitsFov"), session.fitsFov);
+    json.add(QStringLiteral("standardUncertainties"),
+             standardUncertaintiesToJson(session.standardUncertainties));
+    json.add(QStringLiteral("repeats"), repeatsToJson(session.repeats));
     json.add(QStringLiteral("points"), pointsToJson(session.points));
     json.addAll(session.unknownFields);
     return json.toLines("") + "\n";

@@ -385,8 +385,8 @@ void TestEditing::laserSpotsGiveTheScale()
     Session session = exampleSession(Kind::CrackWidth);
     const auto scaleTo = [&](const char *calibration, const QPointF &second) {
         session.calibrationText = QLatin1String(calibration);
-        const auto scale = laserScale(session, QPointF(200, 300), second);
-        return scale ? *scale : 0.0;
+        const bool isTaken = !takeLaserScale(session, QPointF(200, 300), second);
+        return isTaken ? *session.mmPerPixel : 0.0;
     };
     COMPARE_NEAR(scaleTo("LASER;;;50", QPointF(400, 300)), 0.25, millimetreTolerance);
     COMPARE_NEAR(scaleTo("LASER;;;30", QPointF(200, 200)), 0.3, millimetreTolerance);

@@ -1,19 +1,17 @@
 #include "AlignmentTrial.h"
 
+#include "Pinhole.h"
+
 #include <QRectF>
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace Drevon::Zalento::Tools {
 
 using namespace Measuring;
 
 namespace {
-
-constexpr double pi = 3.14159265358979323846;
-constexpr double radians = pi / 180;
 
 constexpr int seed = 20;
 constexpr int clicksOnJoint = 6;
@@ -24,153 +22,16 @@ constexpr double smallestDiameterMM = 150.0;
 constexpr double largestDiameterMM = 900.0;
 constexpr double smallestFovDEG = 25.0;
 constexpr double largestFovDEG = 100.0;
-constexpr double largestEccentricity = 0.1; // of the diameter
-constexpr double largestTurn = 0.25;        // of the field of view
 
 // Of the mouth's middle above or below the picture's. The overlay's camera goes up to 0.5.
 constexpr double largestHeight = 0.45;
 
-// Radius of the first joint over the picture's shorter side, and of the second over the first.
-constexpr double smallestJoint = 0.25;
-constexpr double largestJoint = 0.48;
+// Radius of the second joint over the first.
 constexpr double smallestRatio = 0.3;
 constexpr double largestRatio = 0.6;
 
 // Operators keep about equal distances between their clicks.
 constexpr double unevenness = 0.3;
-
-struct Vector
-{
-    double x, y, z;
-};
-
-Vector operator+(const Vector &a, const Vector &b)
-{
-    return {a.x + b.x, a.y + b.y, a.z + b.z};
-}
-Vector operator-(const Vector &a, const Vector &b)
-{
-    return {a.x - b.x, a.y - b.y, a.z - b.z};
-}
-Vector operator*(double s, const Vector &v)
-{
-    return {s * v.x, s * v.y, s * v.z};
-}
-double dot(const Vector &a, const Vector &b)
-{
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-double norm(const Vector &v)
-{
-    return std::sqrt(dot(v, v));
-}
-
-class Random
-{
-public:
-    explicit Random(std::mt19937_64 &engine)
-        : m_engine(engine)
-    {}
-    double between(double a, double b) { return std::uniform_real_distribution(a, b)(m_engine); }
-    double normal(double spread) { return spread * std::normal_distribution<>()(m_engine); }
-
-private:
-    std::mt19937_64 &m_engine;
-};
-
-/** A pipe before a pinhole camera. Lengths are diameters. */
-struct View
-{
-    QSize picture;
-    double focalPX;
-    Vector mouth; // centre of the first joint
-    Vector axis;  // of length 1, into the pipe
-    Vector right; // across the pipe
-    Vector down;
-
-    static View towards(double yaw, double pitch, const QSize &picture, double fovDEG)
-    {
-        const double sideToFocal = 0.5 / std::tan(fovDEG * 0.5 * radians);
-        return {
-            picture,
-            std::min(picture.width(), picture.height()) * sideToFocal,
-            {},
-            {std::cos(pitch) * std::sin(yaw), std::sin(pitch), std::cos(pitch) * std::cos(yaw)},
-            {std::cos(yaw), 0, -std::sin(yaw)},
-            {-std::sin(pitch) * std::sin(yaw), std::cos(pitch), -std::sin(pitch) * std::cos(yaw)}};
-    }
-
-    Vector onWall(double angle, double depth) const
-    {
-        return mouth + depth * axis + 0.5 * std::cos(angle) * right + 0.5 * std::sin(angle) * down;
-    }
-
-    QPointF seen(const Vector &p) const
-    {
-        return {picture.width() * 0.5 + focalPX * p.x / p.z,
-                picture.height() * 0.5 + focalPX * p.y / p.z};
-    }
-
-    // Where the pixel's ray leaves the pipe.
-    std::optional<Vector> wallAt(const QPointF &pixel) const
-    {
-        const Vector ray{(pixel.x() - picture.width() * 0.5) / focalPX,
-                         (pixel.y() - picture.height() * 0.5) / focalPX, 1.0};
-        const Vector along = ray - dot(ray, axis) * axis;
-        const Vector eye = dot(mouth, axis) * axis - mouth; // from the axis, across it
-        const double a = dot(along, along);
-        const double b = dot(along, eye);
-        const double c = dot(eye, eye) - 0.25;
-        if (a == 0.0 || b * b < a * c) {
-            return std::nullopt;
-        }
-        return ((-b + std::sqrt(b * b - a * c)) / a) * ray;
-    }
-};
-
-// The fields of a session as the guide describes them: the mouth's centre in gesture units (576 a
-// diameter, to the left) and in percent of the height; the mouth's size; the turn of the axis, of
-// which half the field of view of the drawing area is 85 units to the left and 50 down.
-Alignment alignmentOf(const View &view, double fovDEG)
-{
-    const double k = 0.5 * 1.02 / view.mouth.z / std::tan(fovDEG * 0.5 * radians);
-    const double half = std::atan(0.5 * 1.02 / view.mouth.z);
-    return {-576.0 * view.mouth.x,
-            50.0 + 100.0 * view.mouth.y,
-            -85.0 * std::atan2(view.axis.x, view.axis.z) / half,
-            50.0 * std::asin(view.axis.y) / half,
-            100.0 * k,
-            fovDEG};
-}
-
-View viewOf(const Alignment &a, const QSize &picture)
-{
-    const double tangent = a.mouthPercent * 0.01 * std::tan(a.fovYDEG * 0.5 * radians);
-    const double half = std::atan(tangent);
-    View view = View::towards(-a.rearCircleX / 85.0 * half, a.rearCircleY / 50.0 * half, picture,
-                              a.fovYDEG);
-    view.mouth = {-a.offset / 576.0, (a.cameraHeightPercent - 50.0) * 0.01, 0.5 * 1.02 / tangent};
-    return view;
-}
-
-View drawView(Random &random, double fovDEG)
-{
-    constexpr std::array<std::array<int, 2>, 4> sizes{
-        {{768, 576}, {1024, 768}, {1280, 720}, {1600, 1200}}};
-    const auto &size = sizes[static_cast<std::size_t>(random.between(0, sizes.size()))];
-    const double turn = random.between(0, largestTurn) * fovDEG * radians;
-    const double side = random.between(-pi, pi);
-    View view = View::towards(turn * std::cos(side), turn * std::sin(side), QSize(size[0], size[1]),
-                              fovDEG);
-    const double radiusPX =
-        random.between(smallestJoint, largestJoint) * std::min(size[0], size[1]);
-    const double eccentricity = largestEccentricity * std::sqrt(random.between(0, 1));
-    const double angle = random.between(-pi, pi);
-    view.mouth = (view.focalPX * 0.5 / radiusPX) * view.axis +
-                 eccentricity * std::cos(angle) * view.right +
-                 eccentricity * std::sin(angle) * view.down;
-    return view;
-}
 
 QPointF clicked(const View &view, Random &random, double angle, double depth, double spreadPX)
 {

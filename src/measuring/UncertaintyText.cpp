@@ -1,0 +1,100 @@
+#include "measuring/UncertaintyText.h"
+
+#include "zalento/settings/UnitConv.h"
+
+#include <array>
+#include <cmath>
+#include <utility>
+
+namespace Drevon::Zalento::Measuring {
+
+namespace {
+
+constexpr double mmPerInch = 25.4;
+constexpr double mmPerFoot = 12 * mmPerInch;
+
+// From this leading digit on one digit is enough.
+constexpr int oneDigitFrom = 3;
+
+struct ShownUnit
+{
+    QString suffix; ///< with the space before it
+    double size;    ///< in the value's unit
+};
+
+// The suffixes of UnitConv's texts and of percentages and angles, longer ones first.
+const std::array<ShownUnit, 11> &shownUnits()
+{
+    static const std::array<ShownUnit, 11> units{{
+        {QStringLiteral(" cm²"), 100.0},
+        {QStringLiteral(" m²"), 1e6},
+        {QStringLiteral(" inch²"), mmPerInch * mmPerInch},
+        {QStringLiteral(" ft²"), mmPerFoot * mmPerFoot},
+        {QStringLiteral(" mm"), 1.0},
+        {QStringLiteral(" cm"), 10.0},
+        {QStringLiteral(" m"), 1000.0},
+        {QStringLiteral("''"), mmPerInch},
+        {QStringLiteral("'"), mmPerFoot},
+        {QStringLiteral(" %"), 1.0},
+        {QStringLiteral("°"), 1.0},
+    }};
+    return units;
+}
+
+ShownUnit shownUnitOf(const Value &value)
+{
+    for (const ShownUnit &unit : shownUnits()) {
+        if (value.text.endsWith(unit.suffix)) {
+            return unit;
+        }
+    }
+    return {QLatin1Char(' ') + value.unit, 1.0};
+}
+
+// Decimals with which an uncertainty is told; fewer than none for one of tens or hundreds.
+int decimalsOf(double uncertainty)
+{
+    if (!(uncertainty > 0.0)) {
+        return 0;
+    }
+    // 0.096 is told as 0.10: what rounds up to a 1 has the digits of a 1.
+    const double twoDigits = std::pow(10.0, 1.0 - std::floor(std::log10(uncertainty)));
+    const double leading = std::round(uncertainty * twoDigits / 10.0);
+    const bool isShort = leading >= oneDigitFrom && leading < 10.0;
+    const int exponent =
+        static_cast<int>(std::floor(std::log10(uncertainty))) + (leading < 10.0 ? 0 : 1);
+    return (isShort ? 0 : 1) - exponent;
+}
+
+QString rounded(double number, int decimals)
+{
+    const double place = std::pow(10.0, -std::min(decimals, 0));
+    return QString::number(std::round(number / place) * place, 'f', std::max(decimals, 0));
+}
+
+// Lengths and areas have the decimal mark of the overlay's texts.
+QString marked(const Value &value, const QString &number)
+{
+    const bool isSize = value.unit.startsWith(QLatin1String("mm"));
+    return isSize ? UnitConv::replaceDecimalSeparator(number) : number;
+}
+
+} // namespace
+
+QString textWithUncertainty(const Value &value, double expanded)
+{
+    const ShownUnit unit = shownUnitOf(value);
+    const int decimals = decimalsOf(expanded / unit.size);
+    return QStringLiteral("%1%2 %3").arg(marked(value, rounded(value.number / unit.size, decimals)),
+                                         unit.suffix, uncertaintyText(value, expanded));
+}
+
+QString uncertaintyText(const Value &value, double expanded)
+{
+    const ShownUnit unit = shownUnitOf(value);
+    const double shown = expanded / unit.size;
+    return QStringLiteral("± %1%2").arg(marked(value, rounded(shown, decimalsOf(shown))),
+                                        unit.suffix);
+}
+
+} // namespace Drevon::Zalento::Measuring
