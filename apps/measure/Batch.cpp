@@ -4,9 +4,12 @@
 #include "measuring/Measurement.h"
 #include "measuring/OverlayExport.h"
 #include "measuring/Picture.h"
+#include "measuring/PipeView.h"
 #include "measuring/Replay.h"
 #include "measuring/SessionFile.h"
 #include "measuring/SessionFit.h"
+
+#include "zalento/geometry/Cylinder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -42,6 +45,9 @@ Outcome clickOutside(const QVector<QPointF> &clicks, const QSize &size)
 QVector<QPointF> clicksOf(const Session &session, const SessionOptions &options)
 {
     QVector<QPointF> clicks = options.laserSpots;
+    if (session.kind == Kind::WaterLevel) {
+        clicks += options.clicks.value_or(QVector<QPointF>());
+    }
     for (const SessionPoint &point : session.points) {
         if (!point.position) {
             clicks += point.pixel;
@@ -50,19 +56,41 @@ QVector<QPointF> clicksOf(const Session &session, const SessionOptions &options)
     return clicks;
 }
 
-// A value that nobody gave is no measurement.
-Outcome missingOption(const KindInfo &info, const Session *start, const SessionOptions &options)
+// What gives the value of a kind that is set by eye.
+QString neededOption(const KindInfo &info)
 {
-    if (start && start->kind == info.kind) {
+    return info.has(Uses::Angle) ? QStringLiteral("needs --angle")
+                                 : QStringLiteral("needs --percentage or --click");
+}
+
+Problem missedWall(const QPointF &click)
+{
+    return {{}, QStringLiteral("the point %1 meets no wall of the pipe").arg(pointText(click))};
+}
+
+QStringList farPoint(const Session &session, const QString &name, const Vec3 &position)
+{
+    const double depth = depthInDiameters(session, position);
+    if (depth <= Cylinder::lengthInDiameters) {
         return {};
     }
-    if (info.has(Uses::Angle) && !options.hasNumber(&Session::angleDEG)) {
-        return Problem{{}, QStringLiteral("needs --angle")};
+    return {QStringLiteral("%1 lies %2 diameters down the pipe, beyond the modelled %3: its ray "
+                           "hardly meets the wall")
+                .arg(name)
+                .arg(depth, 0, 'f', 1)
+                .arg(Cylinder::lengthInDiameters)};
+}
+
+// What is measured and written is what is drawn.
+QStringList takeDrawnAngle(Session &session)
+{
+    const double asked = session.angleDEG;
+    if (!infoOf(session.kind).has(Uses::Angle) || asked == drawnAngleDEG(session)) {
+        return {};
     }
-    if (info.kind == Kind::WaterLevel && !options.hasNumber(&Session::percentage)) {
-        return Problem{{}, QStringLiteral("needs --percentage")};
-    }
-    return {};
+    session.angleDEG = drawnAngleDEG(session);
+    return {
+        QStringLiteral("an angle of %1 degrees is drawn as %2").arg(asked).arg(session.angleDEG)};
 }
 
 // A session's points move with the plane on which they lie.
@@ -214,13 +242,14 @@ Outcome Batch::measureSession(const Session *start, Work &work)
     if (const Outcome problem = placeClicks(work)) {
         return problem;
     }
-    const Measurement measurement = measure(work.session);
-    const Outcome missing = missingOption(infoOf(work.session.kind), start, m_command.session);
-    const bool isMeasured = measurement.state == MeasureState::Measured && !missing;
+    if (const Outcome problem = takeWaterLevel(work)) {
+        return problem;
+    }
     PictureValues &values = work.result.values;
-    values.status = isMeasured ? Status::Measured : Status::NoValue;
-    values.values = isMeasured ? measurement.values : QVector<Value>();
-    values.message = missing ? missing->text() : measurement.note;
+    setMeasurement(values, measure(work.session));
+    if (values.status == Status::NotSet) {
+        values.message = neededOption(infoOf(work.session.kind));
+    }
     writeFiles(work);
     return {};
 }
@@ -248,6 +277,7 @@ Outcome Batch::mergeSession(const Session *start, Work &work) const
             return problem;
         }
     }
+    work.result.warnings += takeDrawnAngle(session);
     movePlane(start, options, session);
     return {};
 }
@@ -288,14 +318,32 @@ Outcome Batch::placeClicks(Work &work) const
     const int pointCount = work.session.points.size();
     const QVector<QPointF> missed = placePoints(work.session);
     if (!missed.isEmpty()) {
-        return Problem{{},
-                       QStringLiteral("the point %1 meets no wall of the pipe")
-                           .arg(pointText(missed.first()))};
+        return missedWall(missed.first());
     }
     if (work.session.points.size() != pointCount) {
         work.result.warnings +=
             QStringLiteral("a point closed the outline, and a later one started a new outline");
     }
+    for (const int index : pointsBeyondModel(work.session)) {
+        work.result.warnings += farPoint(work.session, QStringLiteral("point %1").arg(index + 1),
+                                         *work.session.points[index].position);
+    }
+    return {};
+}
+
+Outcome Batch::takeWaterLevel(Work &work) const
+{
+    const std::optional<QVector<QPointF>> &clicks = m_command.session.clicks;
+    Session &session = work.session;
+    if (session.kind != Kind::WaterLevel || !clicks) {
+        return {};
+    }
+    const QPointF edge = clicks->first();
+    if (!setWaterLevelAt(session, edge)) {
+        return missedWall(edge);
+    }
+    work.result.warnings +=
+        farPoint(session, QStringLiteral("the water's edge"), *PipeView(session).pickWall(edge));
     return {};
 }
 
@@ -306,6 +354,10 @@ void Batch::writeFiles(Work &work)
     if (m_command.writesPng || m_command.writesSvg) {
         ZaItem item;
         showSession(work.session, item);
+        if (work.result.values.status == Status::NotSet) {
+            work.result.warnings += QStringLiteral("nobody has set what the overlay shows: %1")
+                                        .arg(neededOption(infoOf(work.session.kind)));
+        }
         const QString &picture = work.result.values.picture;
         if (m_command.writesPng) {
             write(overlayPathOf(picture, m_command.outputFolder, QStringLiteral("png")),

@@ -46,6 +46,7 @@ private:
     Outcome fitAlignment(const Session *start, Work &work) const;
     Outcome takeLaserScale(Work &work) const;
     Outcome placeClicks(Work &work) const;
+    Outcome takeWaterLevel(Work &work) const;
     void writeFiles(Work &work);
     void write(const QString &path, const QByteArray &content, PictureResult &result);
     void note(const Outcome &problem, const QString &path, PictureResult &result) const;

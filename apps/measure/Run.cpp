@@ -154,7 +154,7 @@ void tell(const PictureResult &result, bool isRender, Console &console)
         console.fail(CannotReadOrWrite, about(problem));
     }
     const bool isDone =
-        values.status == Status::Measured || (isRender && values.status == Status::NoValue);
+        values.status == Status::Measured || (isRender && values.status != Status::Failed);
     if (isDone) {
         return;
     }

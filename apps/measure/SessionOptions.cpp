@@ -287,6 +287,26 @@ void addOption(QCommandLineParser &parser, const char *name, const char *descrip
                                         QLatin1String(valueName)));
 }
 
+// The option that gives what is set by eye for the kind.
+double Session::*settingOf(const KindInfo &info)
+{
+    return info.has(Uses::Angle) ? &Session::angleDEG : &Session::percentage;
+}
+
+Outcome waterMisfit(const SessionOptions &options, const KindInfo &info)
+{
+    if (info.kind != Kind::WaterLevel || !options.clicks) {
+        return {};
+    }
+    if (options.clicks->size() > 1) {
+        return Problem{{}, QStringLiteral("the kind WaterLevel takes one --click")};
+    }
+    if (options.hasNumber(&Session::percentage)) {
+        return Problem{{}, QStringLiteral("--click and --percentage both give the water level")};
+    }
+    return {};
+}
+
 Outcome angleMisfit(const SessionOptions &options, const KindInfo &info)
 {
     for (const SessionOptions::Number &number : options.numbers) {
@@ -337,7 +357,9 @@ void SessionOptions::applyTo(Session &session) const
         session.kind = *kind;
         session.points.clear();
         session.jointShown = false;
+        session.isSet = !infoOf(*kind).has(Uses::SetByEye);
     }
+    session.isSet = session.isSet || hasNumber(settingOf(infoOf(session.kind)));
     for (const Number &number : numbers) {
         session.*number.member = number.value;
     }
@@ -352,7 +374,7 @@ void SessionOptions::applyTo(Session &session) const
     if (mmPerPixel) {
         setScale(session, mmPerPixel);
     }
-    if (clicks) {
+    if (clicks && infoOf(session.kind).has(Uses::Points)) {
         session.points.clear();
         for (const QPointF &pixel : *clicks) {
             session.points.append({pixel, {}, {}});
@@ -377,7 +399,7 @@ Outcome SessionOptions::misfit(const KindInfo &info) const
         Uses use;
         const char *option;
     } checks[] = {
-        {clicks.has_value(), Uses::Points, "--click"},
+        {clicks.has_value(), Uses::Clicks, "--click"},
         {!laserSpots.isEmpty(), Uses::Scale, "--laser"},
         {mmPerPixel.has_value(), Uses::Scale, "--mm-per-pixel"},
         {hasNumber(&Session::percentage), Uses::Percentage, "--percentage"},
@@ -395,7 +417,8 @@ Outcome SessionOptions::misfit(const KindInfo &info) const
                                .arg(info.nameText(), QLatin1String(check.option))};
         }
     }
-    return angleMisfit(*this, info);
+    const Outcome problem = waterMisfit(*this, info);
+    return problem ? problem : angleMisfit(*this, info);
 }
 
 QStringList optionsOf(const KindInfo &info)
@@ -405,7 +428,7 @@ QStringList optionsOf(const KindInfo &info)
         Uses use;
         const char *option;
     } rows[] = {
-        {Uses::Points, "--click"},          {Uses::Scale, "--mm-per-pixel"},
+        {Uses::Clicks, "--click"},          {Uses::Scale, "--mm-per-pixel"},
         {Uses::Scale, "--laser"},           {Uses::Scale, "--calibration"},
         {Uses::Percentage, "--percentage"}, {Uses::Angle, "--angle"},
         {Uses::Clock, "--clock"},           {Uses::Direction, "--direction"},
@@ -443,9 +466,11 @@ void addSessionOptions(QCommandLineParser &parser)
     addOption(parser, "view-style", "How much is drawn: measure, ends or full.", "NAME");
     addOption(parser, "unit", "Unit of the texts: metric or imperial. Numbers stay metric.",
               "NAME");
-    addOption(parser, "click",
-              "A measurement point in picture pixels from the top left; repeat it for more points.",
-              "X,Y");
+    addOption(
+        parser, "click",
+        "A measurement point in picture pixels from the top left, repeated for more points; or "
+        "where the water meets the wall.",
+        "X,Y");
     addOption(
         parser, "ring",
         "Three points or more on the edge of a joint, which the alignment is fitted to; @MM at "

@@ -37,7 +37,7 @@ struct SessionOptions
     std::optional<ViewStyle> viewStyle;
     std::optional<QString> calibrationText;
     std::optional<double> mmPerPixel;
-    std::optional<QVector<QPointF>> clicks;   ///< replace the session's points
+    std::optional<QVector<QPointF>> clicks;   ///< replace the session's points, or set the level
     QVector<QPointF> laserSpots;              ///< two, or none
     std::optional<QVector<RingClicks>> rings; ///< replace the session's
     std::optional<QVector<LineClicks>> lines;
@@ -48,7 +48,10 @@ struct SessionOptions
     /** True when an option gives the session's field of this name, one of the alignment's. */
     bool givesAlignment(const QString &fieldName) const;
 
-    /** Changes the session. A change of the kind drops points that were made for another. */
+    /**
+     * Changes the session. A change of the kind drops points that were made for another; a value
+     * that is set by eye is set by its own option alone.
+     */
     void applyTo(Session &session) const;
 
     /** Names the first option that means nothing to the kind. */

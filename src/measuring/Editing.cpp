@@ -2,6 +2,7 @@
 
 #include "measuring/PipeView.h"
 
+#include "zalento/geometry/Cylinder.h"
 #include "zalento/measure/measureLine.h"
 #include "zalento/pipes/Pipe.h"
 
@@ -61,6 +62,17 @@ void readCalibration(const Session &session, Pipe &pipe)
 
 } // namespace
 
+void startKind(Session &session, Kind kind)
+{
+    const KindInfo &info = infoOf(kind);
+    session.kind = kind;
+    session.points.clear();
+    session.percentage = info.percentage.initial;
+    session.angleDEG = info.angle.initialDEG;
+    session.jointShown = false;
+    session.isSet = !info.has(Uses::SetByEye);
+}
+
 ClickResult clickPoint(Session &session, const QPointF &pixel)
 {
     if (!infoOf(session.kind).has(Uses::Points)) {
@@ -90,6 +102,26 @@ QVector<QPointF> placePoints(Session &session)
         }
     }
     return missed;
+}
+
+double depthInDiameters(const Session &session, const Vec3 &position)
+{
+    return -position.z * mmPerM / session.diameterMM;
+}
+
+QVector<int> pointsBeyondModel(const Session &session)
+{
+    QVector<int> beyond;
+    if (infoOf(session.kind).mode != MeasureMode::PipeDimension) {
+        return beyond;
+    }
+    for (int i = 0; i < session.points.size(); ++i) {
+        const std::optional<Vec3> &position = session.points[i].position;
+        if (position && depthInDiameters(session, *position) > Cylinder::lengthInDiameters) {
+            beyond += i;
+        }
+    }
+    return beyond;
 }
 
 bool movePoint(Session &session, int index, const QPointF &pixel)
@@ -151,6 +183,14 @@ std::optional<double> waterLevelAt(const Session &session, const QPointF &pixel)
     }
     const double heightMM = surface->y * mmPerM;
     return std::clamp((heightMM / session.diameterMM + 0.5) * percentPerOne, 0.0, percentPerOne);
+}
+
+bool setWaterLevelAt(Session &session, const QPointF &pixel)
+{
+    const std::optional<double> level = waterLevelAt(session, pixel);
+    session.percentage = level.value_or(session.percentage);
+    session.isSet = session.isSet || level;
+    return level.has_value();
 }
 
 Outcome takeLaserScale(Session &session, const QPointF &first, const QPointF &second)

@@ -16,6 +16,12 @@
  */
 namespace Drevon::Zalento::Measuring {
 
+/**
+ * Measures another kind: without points, with the numbers that the kind begins with, and not set
+ * where they are set by eye.
+ */
+ZALENTO_MEASURING_EXPORT void startKind(Session &session, Kind kind);
+
 /** What a click did to the points. */
 enum class ClickResult {
     Added,
@@ -31,6 +37,15 @@ ZALENTO_MEASURING_EXPORT ClickResult clickPoint(Session &session, const QPointF 
  * @return the pixels of those that met nothing; they are no longer in the session
  */
 ZALENTO_MEASURING_EXPORT QVector<QPointF> placePoints(Session &session);
+
+/**
+ * Points of the session on the wall beyond the modelled pipe, as indices: so far down the pipe that
+ * the ray of a click hardly meets the wall, and their place says little.
+ */
+ZALENTO_MEASURING_EXPORT QVector<int> pointsBeyondModel(const Session &session);
+
+/** How far down the pipe a position on the wall lies behind the mouth, in diameters. */
+ZALENTO_MEASURING_EXPORT double depthInDiameters(const Session &session, const Vec3 &position);
 
 /**
  * Moves a point to where a click at @p pixel lies; the point where a polygon starts and ends moves
@@ -51,6 +66,9 @@ ZALENTO_MEASURING_EXPORT void changePercentage(Session &session, double percent)
 /** The water level in percent whose surface meets the wall at @p pixel; nothing on a miss. */
 ZALENTO_MEASURING_EXPORT std::optional<double> waterLevelAt(const Session &session,
                                                             const QPointF &pixel);
+
+/** Sets that level. @return false, and nothing changed, on a miss */
+ZALENTO_MEASURING_EXPORT bool setWaterLevelAt(Session &session, const QPointF &pixel);
 
 /**
  * Takes the scale that two clicks on the camera's laser spots give, with the distance that the

@@ -11,18 +11,24 @@ namespace {
 const char *const lengthenLine = QT_TRANSLATE_NOOP(
     "Kind", "A click lengthens the line. Drag a point, or nudge it with the arrow keys.");
 
+const char *const lengthenCrack = QT_TRANSLATE_NOOP(
+    "Kind", "Two points are a width; with a third click the length of the path is measured. Drag a "
+            "point, or nudge it with the arrow keys.");
+
 const KindInfo crackWidth{
     Kind::CrackWidth,
     "CrackWidth",
     QT_TRANSLATE_NOOP("Kind", "Crack width"),
-    "Length of the line through the points, in the plane of the picture; needs a scale.",
+    "Width between two points in the plane of the picture, or the length of a path through more; "
+    "needs a scale.",
     ViewObject::StraightPipe,
     MeasureMode::CrackWidth,
-    Uses::Points | Uses::Scale,
+    Uses::Points | Uses::Clicks | Uses::Scale,
     {},
     {},
     {QT_TRANSLATE_NOOP("Kind", "Click one edge of the crack. A drag pans the picture."),
-     QT_TRANSLATE_NOOP("Kind", "Click the other edge of the crack."), lengthenLine, lengthenLine}};
+     QT_TRANSLATE_NOOP("Kind", "Click the other edge of the crack."), lengthenCrack,
+     lengthenCrack}};
 
 const KindInfo pipeDimension{
     Kind::PipeDimension,
@@ -31,7 +37,7 @@ const KindInfo pipeDimension{
     "Length of the line through points on the pipe's wall.",
     ViewObject::StraightPipe,
     MeasureMode::PipeDimension,
-    Uses::Points | Uses::Diameter | Uses::Model,
+    Uses::Points | Uses::Clicks | Uses::Diameter | Uses::Model,
     {},
     {},
     {QT_TRANSLATE_NOOP("Kind",
@@ -49,7 +55,7 @@ const KindInfo waterLevel{
     "Depth of the water in percent of the diameter; set until it matches.",
     ViewObject::StraightPipe,
     MeasureMode::WaterLevel,
-    Uses::Percentage | Uses::Model,
+    Uses::Clicks | Uses::Percentage | Uses::Model | Uses::SetByEye,
     {20.0, QT_TRANSLATE_NOOP("Kind", "Water level"), "water level in percent of the diameter"},
     {},
     {setWater, setWater, setWater, setWater}};
@@ -66,7 +72,7 @@ const KindInfo branchAngle{
     "matches the branch's mouth.",
     ViewObject::Lateral,
     MeasureMode::NoMeasure,
-    Uses::Percentage | Uses::Angle | Uses::Clock | Uses::Model,
+    Uses::Percentage | Uses::Angle | Uses::Clock | Uses::Model | Uses::SetByEye,
     {50.0, QT_TRANSLATE_NOOP("Kind", "Branch size"),
      "diameter of the branch in percent of the pipe's"},
     {90.0, 30.0, 150.0, 1.0},
@@ -84,7 +90,7 @@ const KindInfo bendAngle{
     "lengths is measured alike.",
     ViewObject::Bend,
     MeasureMode::NoMeasure,
-    Uses::Percentage | Uses::Angle | Uses::Clock | Uses::Direction | Uses::Model,
+    Uses::Percentage | Uses::Angle | Uses::Clock | Uses::Direction | Uses::Model | Uses::SetByEye,
     {50.0, QT_TRANSLATE_NOOP("Kind", "Piece length"),
      "length of a joint's continuation in percent of the diameter"},
     {45.0, 0.0, 90.0, 5.0},
@@ -98,7 +104,7 @@ const KindInfo crossSection{
     "points measure a length and its share of the diameter.",
     ViewObject::StraightPipe,
     MeasureMode::CrossSection,
-    Uses::Points | Uses::Percentage | Uses::Diameter | Uses::Model,
+    Uses::Points | Uses::Clicks | Uses::Percentage | Uses::Diameter | Uses::Model,
     {0.0, QT_TRANSLATE_NOOP("Kind", "Plane depth"),
      "place of the plane in percent of the modelled length of 10 diameters"},
     {},

@@ -34,6 +34,8 @@ enum class Uses {
     Direction = 0x20, ///< seen downstream or upstream, as a bend or a joint
     Diameter = 0x40,  ///< the value grows with the nominal diameter
     Model = 0x80,     ///< a pipe is laid over the picture
+    Clicks = 0x100,   ///< what is measured is clicked: points, or the water's edge
+    SetByEye = 0x200, ///< the value is a number that the operator sets until the model matches
 };
 Q_DECLARE_FLAGS(UsesFlags, Uses)
 Q_DECLARE_OPERATORS_FOR_FLAGS(UsesFlags)

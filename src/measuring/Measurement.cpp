@@ -59,22 +59,27 @@ Measurement waterLevel(const Session &session)
                       waterLevelText(fraction)}});
 }
 
-Measurement branchAngle(const Session &session)
+Measurement angle(const char *name, const Session &session)
 {
-    const AngleRow &angles = infoOf(session.kind).angle;
-    const double angleDEG = std::clamp(session.angleDEG, angles.smallestDEG, angles.largestDEG);
     return measured(
-        {named("branchAngle", {Quantity::Angle, angleDEG, NoValue::None}, session.unit)});
+        {named(name, {Quantity::Angle, drawnAngleDEG(session), NoValue::None}, session.unit)});
 }
 
-// The bend itself knows the steps that it is drawn in.
-Measurement bendAngle(const Session &session)
+Measurement measuredByEye(const Session &session)
 {
-    const AngleRow &angles = infoOf(session.kind).angle;
-    PipeBend bend;
-    bend.setAngleDeg(std::clamp(session.angleDEG, angles.smallestDEG, angles.largestDEG));
-    return measured(
-        {named("bendAngle", {Quantity::Angle, bend.angleDeg, NoValue::None}, session.unit)});
+    if (!session.isSet) {
+        return unmeasured(MeasureState::NotSet,
+                          QStringLiteral("not set: set the value until the model matches the "
+                                         "picture, or confirm it"));
+    }
+    switch (session.kind) {
+    case Kind::WaterLevel:
+        return waterLevel(session);
+    case Kind::BranchAngle:
+        return angle("branchAngle", session);
+    default:
+        return angle("bendAngle", session);
+    }
 }
 
 LineMeasure lineMeasure(const Session &session)
@@ -89,9 +94,10 @@ LineMeasure lineMeasure(const Session &session)
     return measureLine(positions, infoOf(session.kind).mode, scale);
 }
 
-const char *lengthName(Kind kind)
+// A width has two points; more are a path.
+const char *lengthName(const Session &session)
 {
-    return kind == Kind::CrackWidth ? "crackWidth" : "length";
+    return session.kind == Kind::CrackWidth && session.points.size() == 2 ? "crackWidth" : "length";
 }
 
 Measurement lineMeasurement(const Session &session)
@@ -112,7 +118,7 @@ Measurement lineMeasurement(const Session &session)
         return measured({named("area", line.value, session.unit),
                          named("areaShare", line.share, session.unit)});
     }
-    QVector<Value> values{named(lengthName(session.kind), line.value, session.unit)};
+    QVector<Value> values{named(lengthName(session), line.value, session.unit)};
     if (line.share.isMeasured()) {
         values += named("diameterShare", line.share, session.unit);
     }
@@ -123,19 +129,25 @@ Measurement lineMeasurement(const Session &session)
 
 Measurement measure(const Session &session)
 {
-    switch (session.kind) {
-    case Kind::WaterLevel:
-        return waterLevel(session);
-    case Kind::BranchAngle:
-        return branchAngle(session);
-    case Kind::BendAngle:
-        return bendAngle(session);
-    default:
-        break;
+    if (infoOf(session.kind).has(Uses::SetByEye)) {
+        return measuredByEye(session);
     }
     Session placed = session;
     placePoints(placed);
     return lineMeasurement(placed);
+}
+
+// The bend itself knows the steps that it is drawn in.
+double drawnAngleDEG(const Session &session)
+{
+    const AngleRow &angles = infoOf(session.kind).angle;
+    const double angleDEG = std::clamp(session.angleDEG, angles.smallestDEG, angles.largestDEG);
+    if (session.kind != Kind::BendAngle) {
+        return angleDEG;
+    }
+    PipeBend bend;
+    bend.setAngleDeg(angleDEG);
+    return bend.angleDeg;
 }
 
 } // namespace Drevon::Zalento::Measuring

@@ -11,7 +11,7 @@ namespace Drevon::Zalento::Measuring {
 /** A measured value. */
 struct Value
 {
-    QString name;        ///< "crackWidth", "area", ... ; stable
+    QString name;        ///< "crackWidth", "area", ... ; stable. A path of a crack has a "length"
     double number = 0.0; ///< in #unit
     QString unit;        ///< "mm", "mm²", "%" or "deg", whatever unit the texts have
     QString text;        ///< as the overlay shows it, in the session's unit
@@ -22,6 +22,7 @@ enum class MeasureState {
     Measured,
     NeedsPoints, ///< too few points, or all on one place
     NoScale,     ///< a crack in a picture whose millimetres per pixel are not known yet
+    NotSet,      ///< what is set by eye was neither set nor confirmed, see Session::isSet
 };
 
 /** What a session measures. */
@@ -34,5 +35,11 @@ struct Measurement
 
 /** Measures a session; points without a position are looked up where they were clicked. */
 ZALENTO_MEASURING_EXPORT Measurement measure(const Session &session);
+
+/**
+ * The angle in degrees that the model of the session's kind is drawn with: within the kind's
+ * limits, and a bend's in whole steps.
+ */
+ZALENTO_MEASURING_EXPORT double drawnAngleDEG(const Session &session);
 
 } // namespace Drevon::Zalento::Measuring

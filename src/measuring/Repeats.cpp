@@ -16,6 +16,7 @@ bool measureAgain(Session &session)
     }
     session.repeats += result;
     session.points.clear();
+    session.isSet = !infoOf(session.kind).has(Uses::SetByEye);
     return true;
 }
 

@@ -92,7 +92,7 @@ bool sameLines(const QVector<LineClicks> &a, const QVector<LineClicks> &b)
 auto choicesOf(const Session &s)
 {
     return std::tie(s.kind, s.unit, s.rearCircleActive, s.clockDEG, s.viewDownstream, s.jointShown,
-                    s.viewStyle, s.calibrationText, s.mmPerPixel, s.fitsFov, s.limit,
+                    s.isSet, s.viewStyle, s.calibrationText, s.mmPerPixel, s.fitsFov, s.limit,
                     s.schemaMinor);
 }
 

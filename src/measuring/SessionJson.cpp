@@ -451,6 +451,7 @@ void readChoices(FieldReader &reader, Session &session)
     reader.readChoice("direction", session.viewDownstream, directionNamed,
                       "\"downstream\" or \"upstream\"");
     reader.read("jointShown", session.jointShown);
+    reader.read("isSet", session.isSet);
     reader.read("fitsFov", session.fitsFov);
     reader.readChoice("viewStyle", session.viewStyle, viewStyleNamed,
                       "\"measure\", \"ends\" or \"full\"");
@@ -467,6 +468,7 @@ void addChoices(OrderedJson &json, const Session &session)
     json.add(QStringLiteral("clockDEG"), session.clockDEG);
     json.add(QStringLiteral("direction"), directionName(session.viewDownstream));
     json.add(QStringLiteral("jointShown"), session.jointShown);
+    json.add(QStringLiteral("isSet"), session.isSet);
     json.add(QStringLiteral("viewStyle"), viewStyleName(session.viewStyle));
     json.add(QStringLiteral("calibration"), session.calibrationText);
     if (session.mmPerPixel) {

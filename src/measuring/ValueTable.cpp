@@ -96,10 +96,32 @@ QString statusName(Status status)
         return QStringLiteral("measured");
     case Status::NoValue:
         return QStringLiteral("no value");
+    case Status::NotSet:
+        return QStringLiteral("not set");
+    case Status::NotMeasured:
+        return QStringLiteral("not measured");
     case Status::Failed:
         break;
     }
     return QStringLiteral("failed");
+}
+
+void setMeasurement(PictureValues &picture, const Measurement &measurement)
+{
+    switch (measurement.state) {
+    case MeasureState::Measured:
+        picture.status = Status::Measured;
+        break;
+    case MeasureState::NotSet:
+        picture.status = Status::NotSet;
+        break;
+    case MeasureState::NeedsPoints:
+    case MeasureState::NoScale:
+        picture.status = Status::NoValue;
+        break;
+    }
+    picture.values = measurement.values;
+    picture.message = measurement.note;
 }
 
 AlignmentSummary alignmentSummary(const Session &session, const std::optional<AlignmentFit> &fit)

@@ -21,9 +21,15 @@
 namespace Drevon::Zalento::Measuring {
 
 /** What came of measuring a picture. */
-enum class Status { Measured, NoValue, Failed };
+enum class Status {
+    Measured,
+    NoValue,
+    NotSet,      ///< as MeasureState::NotSet
+    NotMeasured, ///< nobody has begun to
+    Failed,
+};
 
-/** "measured", "no value" or "failed". */
+/** "measured", "no value", "not set", "not measured" or "failed". */
 ZALENTO_MEASURING_EXPORT QString statusName(Status status);
 
 /** Where the model stands, and what its fit says. */
@@ -54,6 +60,10 @@ struct PictureValues
     QString message;                           ///< why there is no value; else empty
     QStringList written;                       ///< files
 };
+
+/** Takes over the measurement's state, values and note. */
+ZALENTO_MEASURING_EXPORT void setMeasurement(PictureValues &picture,
+                                             const Measurement &measurement);
 
 /** The first record of a table, with the names of its columns. */
 ZALENTO_MEASURING_EXPORT QByteArray csvHeader();

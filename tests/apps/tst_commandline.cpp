@@ -65,7 +65,9 @@ void TestCommandLine::refusesWrongUsage_data()
     row("unknown unit", "measure --unit inch a", "--unit: expected metric or imperial");
     row("unknown format", "measure --format xml a", "--format: expected text, json, jsonl or csv");
     row("unknown overlay", "measure --overlay gif a", "--overlay: expected png, svg or both");
-    row("click on water", "measure --kind WaterLevel --click 1,2 a", "takes no --click");
+    row("click on a branch", "measure --kind BranchAngle --click 1,2 a", "takes no --click");
+    row("two clicks on water", "measure --kind WaterLevel --click 1,2 --click 3,4 a", "takes one");
+    row("two water levels", "measure --kind WaterLevel --click 1,2 --percentage 5 a", "both give");
     row("scale of a dimension", "measure --kind PipeDimension --laser 1,2 3,4 a",
         "takes no --laser");
     row("bend beyond 90 degrees", "measure --kind BendAngle --angle 95 a", "from 0 to 90");

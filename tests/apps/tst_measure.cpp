@@ -127,12 +127,24 @@ void TestMeasure::answers_data()
 
     row("session ignored", "measure --no-session w.png", SomeNotMeasured, "there is no session",
         "--kind is missing");
-    row("session of another kind", "measure --click 1,1 w.png", SomeNotMeasured, "failed",
-        "the kind WaterLevel takes no --click");
+    row("session of another kind", "measure --angle 40 w.png", SomeNotMeasured, "failed",
+        "the kind WaterLevel takes no --angle");
     row("session without a picture", "measure --session w.png.zalento.json", SomeNotMeasured,
         "failed", "the session names no picture");
-    row("no level", "measure --kind WaterLevel a.png", SomeNotMeasured, "no value",
-        "needs --percentage");
+    row("no level", "measure --kind WaterLevel a.png", SomeNotMeasured, "not set",
+        "needs --percentage or --click");
+    row("branch turned only", "measure --kind BranchAngle --clock 90 a.png", SomeNotMeasured,
+        "not set", "needs --angle");
+    row("overlay of no level", "render --kind WaterLevel --output out a.png", AllMeasured, "",
+        "nobody has set what the overlay shows");
+    row("level clicked", "measure --click 12,24 w.png", AllMeasured, "waterLevel 50 %", "");
+    row("level clicked beside the pipe", "measure --offset 2000 --click 9,24 w.png",
+        SomeNotMeasured, "failed", "the point 9,24 meets no wall");
+    row("angle between steps", "measure --kind BendAngle --angle 12 --diameter 300 a.png",
+        AllMeasured, "(10 deg)", "an angle of 12 degrees is drawn as 10");
+    row("point beyond the model",
+        "measure --kind PipeDimension --diameter 300 --click 9,24 --click 33,24 a.png", AllMeasured,
+        "length", "point 2 lies 33.8 diameters down the pipe, beyond the modelled 10:");
     row("point outside", "measure --kind CrackWidth --click 64,1 a.png", SomeNotMeasured, "failed",
         "the point 64,1 lies outside the picture of 64 x 48 pixels");
     row("laser spots on one pixel", "measure --kind CrackWidth --laser 1,1 1,1 a.png",

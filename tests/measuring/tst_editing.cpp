@@ -248,6 +248,8 @@ void TestEditing::measuresValuesAndTexts_data()
     const QVector<SessionPoint> crack{{{}, Vec3(0.25, 0.5, 0), {}}, {{}, Vec3(0.75, 0.5, 0), {}}};
     row("crack of 300 pixels", Kind::CrackWidth, crack, {"crackWidth mm 30 mm"}, {30},
         [](Session &s) { s.mmPerPixel = 0.1; });
+    row("path along a crack", Kind::CrackWidth, crack + crack.mid(0, 1), {"length mm 60 mm"}, {60},
+        [](Session &s) { s.mmPerPixel = 0.1; });
     row("crack, scale of a table", Kind::CrackWidth, crack, {"crackWidth mm 60 mm"}, {60},
         [](Session &s) { s.calibrationText = QStringLiteral("200;10;1\n400;10;3"); });
 }
@@ -276,6 +278,7 @@ void TestEditing::saysWhyThereIsNoValue_data()
     const auto row = [](const char *name, Kind kind, bool hasScale, const QVector<QPointF> &clicks,
                         MeasureState state) {
         Session session = emptySession(kind);
+        startKind(session, kind);
         if (!hasScale) {
             session.mmPerPixel.reset();
         }
@@ -288,6 +291,8 @@ void TestEditing::saysWhyThereIsNoValue_data()
     row("crack without a scale", Kind::CrackWidth, false, {a, b}, MeasureState::NoScale);
     row("neither points nor scale", Kind::CrackWidth, false, {}, MeasureState::NoScale);
     row("dimension of one point", Kind::PipeDimension, true, {a}, MeasureState::NeedsPoints);
+    row("level that was only chosen", Kind::WaterLevel, true, {}, MeasureState::NotSet);
+    row("bend that was only chosen", Kind::BendAngle, true, {}, MeasureState::NotSet);
 }
 
 void TestEditing::saysWhyThereIsNoValue()

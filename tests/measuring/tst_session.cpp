@@ -39,6 +39,7 @@ Session fullSession()
     session.clockDEG = -90;
     session.viewDownstream = false;
     session.jointShown = true;
+    session.isSet = false;
     session.viewStyle = ViewStyle::Ends;
     session.calibrationText = QStringLiteral("150;768;120\n300;768;240\n");
     session.mmPerPixel = 0.1 + 0.2;
