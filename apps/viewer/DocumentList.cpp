@@ -253,13 +253,11 @@ Session DocumentList::newSession() const
     Session fresh;
     if (current() && current()->session) {
         const Session &last = *current()->session;
-        fresh.kind = last.kind;
+        Measuring::startKind(fresh, last.kind);
         fresh.unit = last.unit;
         fresh.diameterMM = last.diameterMM;
         fresh.fovYDEG = last.fovYDEG;
         fresh.calibrationText = last.calibrationText;
-        fresh.percentage = Measuring::infoOf(fresh.kind).percentage.initial;
-        fresh.angleDEG = Measuring::infoOf(fresh.kind).angle.initialDEG;
         return fresh;
     }
     const ZASettings display = m_preferences.displaySettings();

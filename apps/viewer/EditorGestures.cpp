@@ -3,6 +3,7 @@
 #include "ModelDrag.h"
 
 #include "measuring/Editing.h"
+#include "measuring/PipeView.h"
 
 #include <zalento/geometry/Cylinder.h>
 
@@ -17,14 +18,10 @@ using Measuring::Uses;
 
 namespace {
 
-constexpr double mmPerMetre = 1000.0;
-
-// Beyond the modelled pipe one pixel is more than a diameter.
-bool isBeyondModel(const Session &session)
+bool isBeyondModel(const Session &session, const QPointF &pixel)
 {
-    const double depthMM = -session.points.last().position->z * mmPerMetre;
-    return infoOf(session.kind).has(Uses::Diameter) &&
-           depthMM > Cylinder::lengthInDiameters * session.diameterMM;
+    const std::optional<Vec3> place = Measuring::PipeView(session).pickWall(pixel);
+    return place && Measuring::depthInDiameters(session, *place) > Cylinder::lengthInDiameters;
 }
 
 } // namespace
@@ -59,23 +56,27 @@ void MeasurementEditor::setPointAt(const QPointF &pixel)
     }
     change(tr("Set point"), session, Moves::Nothing);
     selectPoint(m_points.count() - 1);
-    if (isBeyondModel(session)) {
+    if (Measuring::pointsBeyondModel(session).contains(session.points.size() - 1)) {
         m_guidance.notice(Guidance::Warning,
-                          tr("That point lies beyond the pipe's modelled end: a pixel there is "
-                             "metres of pipe. Backspace drops it."));
+                          tr("That point lies beyond the modelled pipe: the line of sight hardly "
+                             "meets the wall there. Backspace drops it."));
     }
 }
 
 void MeasurementEditor::setWaterLineAt(const QPointF &pixel)
 {
-    const auto level = Measuring::waterLevelAt(*session(), pixel);
-    if (!level) {
+    Session session = sessionCopy();
+    if (!Measuring::setWaterLevelAt(session, pixel)) {
         m_guidance.notice(Guidance::Warning, tr("The pipe's wall is not there: the level stays."));
         return;
     }
-    Session session = sessionCopy();
-    session.percentage = *level;
     change(tr("Water level"), session, Moves::Nothing);
+    if (isBeyondModel(session, pixel)) {
+        m_guidance.notice(
+            Guidance::Warning,
+            tr("That is beyond the modelled pipe, where the line of sight hardly meets "
+               "the wall: click nearer."));
+    }
 }
 
 bool MeasurementEditor::beginDrag(const QPointF &pixel, double radius)

@@ -2,6 +2,7 @@
 
 #include "measuring/Editing.h"
 #include "measuring/Kind.h"
+#include "measuring/Measurement.h"
 
 #include <zalento/settings/UnitConv.h>
 
@@ -55,6 +56,16 @@ Field with(Field field, const char *label, const QString &unit, double step, int
     return field;
 }
 
+// One that belongs to what is measured: setting it sets what is set by eye.
+Field setting(Field field)
+{
+    field.set = [setNumber = field.set](Session &s, std::optional<double> v) {
+        setNumber(s, v);
+        s.isSet = true;
+    };
+    return field;
+}
+
 // In inches while the unit is imperial.
 Field diameterField(const Session &session)
 {
@@ -79,9 +90,10 @@ Field percentageField(const Session &session)
     Field field = with(numberField(QStringLiteral("percentage"), &Session::percentage),
                        infoOf(session.kind).percentage.label, QStringLiteral("%"), 1, 1);
     field.hasSlider = true;
-    return field;
+    return setting(field);
 }
 
+// Shows the angle that is drawn.
 Field angleField(const Session &session)
 {
     Field field = with(numberField(QStringLiteral("angleDEG"), &Session::angleDEG),
@@ -94,7 +106,12 @@ Field angleField(const Session &session)
         field.step = angles.stepDEG;
         field.decimals = 0;
     }
-    return field;
+    field.get = [](const Session &s) { return Measuring::drawnAngleDEG(s); };
+    field.set = [](Session &s, std::optional<double> v) {
+        s.angleDEG = v.value_or(0.0);
+        s.angleDEG = Measuring::drawnAngleDEG(s);
+    };
+    return setting(field);
 }
 
 // The hour at which the branch or the bend leaves the pipe: 12 is up, 3 is right.
@@ -111,7 +128,7 @@ Field clockField()
     field.set = [](Session &s, std::optional<double> hours) {
         s.clockDEG = static_cast<int>(std::lround(hours.value_or(0.0) * degreesPerHour));
     };
-    return field;
+    return setting(field);
 }
 
 Field laserField()

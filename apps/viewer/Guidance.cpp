@@ -64,6 +64,9 @@ QString guidanceFor(const Situation &s)
                   "or load a calibration file. A click sets point %1.")
             .arg(s.session.points.size() + 1);
     }
+    if (s.state == Measuring::MeasureState::NotSet) {
+        return nextStep(s) + QLatin1Char(' ') + tr("If it matches already, press \"Confirm\".");
+    }
     return nextStep(s);
 }
 

@@ -43,6 +43,17 @@ QString fitDescription(const Measuring::AlignmentFit &fit)
                                     .arg(left.join(QLatin1String("; ")));
 }
 
+QString noteOn(const Session &session)
+{
+    const QVector<int> beyond = Measuring::pointsBeyondModel(session);
+    if (!beyond.isEmpty()) {
+        return MeasurementEditor::tr("Point %1 lies beyond the modelled pipe")
+            .arg(beyond.first() + 1);
+    }
+    const bool isPath = session.kind == Measuring::Kind::CrackWidth && session.points.size() > 2;
+    return isPath ? MeasurementEditor::tr("Length of the path") : QString();
+}
+
 } // namespace
 
 MeasurementEditor::MeasurementEditor(DocumentList &documents, Preferences &preferences,
@@ -157,6 +168,8 @@ MeasurementEditor::Shown MeasurementEditor::shownNow() const
     now.hasModel = infoOf(s.kind).has(Uses::Model);
     now.value = values.isEmpty() ? QString() : values.first().text;
     now.secondValue = values.size() > 1 ? values.at(1).text : QString();
+    now.isSet = s.isSet;
+    now.valueNote = noteOn(s);
     now.isImperial = s.unit != MeasureUnit::Metric;
     if (const auto scale = Measuring::scaleOf(s)) {
         now.hasScale = true;
@@ -192,6 +205,8 @@ void MeasurementEditor::tell(const Shown &now)
     tellOf(&Shown::hasModel, &MeasurementEditor::hasModelChanged);
     tellOf(&Shown::value, &MeasurementEditor::valueChanged);
     tellOf(&Shown::secondValue, &MeasurementEditor::secondValueChanged);
+    tellOf(&Shown::isSet, &MeasurementEditor::isSetChanged);
+    tellOf(&Shown::valueNote, &MeasurementEditor::valueNoteChanged);
     tellOf(&Shown::isImperial, &MeasurementEditor::isImperialChanged);
     tellOf(&Shown::hasScale, &MeasurementEditor::hasScaleChanged);
     tellOf(&Shown::scaleText, &MeasurementEditor::scaleTextChanged);
@@ -317,14 +332,9 @@ void MeasurementEditor::chooseKind(const QString &name)
         return;
     }
     expectLaserSpots(0, {});
-    const Measuring::KindInfo &info = infoOf(*kind);
     Session session = sessionCopy();
-    session.kind = *kind;
-    session.points.clear();
-    session.percentage = info.percentage.initial;
-    session.angleDEG = info.angle.initialDEG;
-    session.jointShown = false;
-    change(Measuring::translated(info.title), session, Moves::Nothing);
+    Measuring::startKind(session, *kind);
+    change(Measuring::translated(infoOf(*kind).title), session, Moves::Nothing);
 }
 
 void MeasurementEditor::chooseKindAt(int row)
@@ -332,6 +342,15 @@ void MeasurementEditor::chooseKindAt(int row)
     const auto &kinds = Measuring::kinds();
     if (row >= 0 && row < static_cast<int>(kinds.size())) {
         chooseKind(kinds[static_cast<std::size_t>(row)].nameText());
+    }
+}
+
+void MeasurementEditor::confirm()
+{
+    if (isReady()) {
+        Session session = sessionCopy();
+        session.isSet = true;
+        change(tr("Confirm"), session, Moves::Nothing);
     }
 }
 
@@ -443,6 +462,7 @@ void MeasurementEditor::setViewDownstream(bool downstream)
     if (isReady()) {
         Session session = sessionCopy();
         session.viewDownstream = downstream;
+        session.isSet = true;
         change(tr("Viewing direction"), session, Moves::Nothing);
     }
 }

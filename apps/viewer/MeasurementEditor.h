@@ -43,6 +43,10 @@ class MeasurementEditor : public QObject
 
     Q_PROPERTY(QString value READ value NOTIFY valueChanged)
     Q_PROPERTY(QString secondValue READ secondValue NOTIFY secondValueChanged)
+    /** False while a value that is set by eye was neither set nor confirmed. */
+    Q_PROPERTY(bool isSet READ isSet NOTIFY isSetChanged)
+    /** What to know about the value, such as a point that lies too far away; may be empty. */
+    Q_PROPERTY(QString valueNote READ valueNote NOTIFY valueNoteChanged)
     Q_PROPERTY(bool isImperial READ isImperial NOTIFY isImperialChanged)
     Q_PROPERTY(bool hasScale READ hasScale NOTIFY hasScaleChanged)
     Q_PROPERTY(QString scaleText READ scaleText NOTIFY scaleTextChanged)
@@ -92,6 +96,8 @@ public:
 
     QString value() const { return m_shown.value; }
     QString secondValue() const { return m_shown.secondValue; }
+    bool isSet() const { return m_shown.isSet; }
+    QString valueNote() const { return m_shown.valueNote; }
     bool isImperial() const { return m_shown.isImperial; }
     bool hasScale() const { return m_shown.hasScale; }
     QString scaleText() const { return m_shown.scaleText; }
@@ -160,6 +166,8 @@ public:
     Q_INVOKABLE void chooseKind(const QString &kind);
     /** The kind of this row of the list of kinds. */
     Q_INVOKABLE void chooseKindAt(int row);
+    /** What is set by eye is as it is shown. */
+    Q_INVOKABLE void confirm();
     Q_INVOKABLE void toggleUnit();
     Q_INVOKABLE void undo();
     Q_INVOKABLE void redo();
@@ -204,6 +212,8 @@ Q_SIGNALS:
     void hasModelChanged();
     void valueChanged();
     void secondValueChanged();
+    void isSetChanged();
+    void valueNoteChanged();
     void isImperialChanged();
     void hasScaleChanged();
     void scaleTextChanged();
@@ -234,6 +244,8 @@ private:
         bool hasModel = false;
         QString value;
         QString secondValue;
+        bool isSet = true;
+        QString valueNote;
         bool isImperial = false;
         bool hasScale = false;
         QString scaleText;

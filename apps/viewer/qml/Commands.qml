@@ -75,6 +75,13 @@ Item {
         enabled: Viewer.editor.points.count > 0
         onTriggered: Viewer.editor.clearPoints()
     }
+    readonly property Command confirm: Command {
+        text: qsTr("Confirm")
+        hint: qsTr("Confirm the value as it is shown")
+        shortcut: "C"
+        enabled: Viewer.documents.hasPicture && !Viewer.editor.isSet
+        onTriggered: Viewer.editor.confirm()
+    }
     readonly property Command unit: Command {
         text: Viewer.editor.isImperial ? qsTr("in") : qsTr("mm")
         hint: Viewer.editor.isImperial ? qsTr("Imperial units; switch to metric")
@@ -117,7 +124,7 @@ Item {
 
     // In the order of the list of keys; the kinds follow, under their numbers.
     readonly property var all: [open, save, copy, previous, next, undo, redo, giveUp, dropLastPoint,
-                                unit, zoomIn, zoomOut, fit, actualSize, keys]
+                                confirm, unit, zoomIn, zoomOut, fit, actualSize, keys]
     // What the list of keys says: [keys, text].
     readonly property var keyRows: {
         const rows = all.map(command => [command.keyText, command.hint])

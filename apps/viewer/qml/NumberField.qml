@@ -103,8 +103,12 @@ FocusScope {
 
                     function accept() {
                         root.commit()
-                        if (!root.problem)
-                            Viewer.focusStage()
+                        if (root.problem)
+                            return
+                        // Enter on what the field shows already is an answer, too.
+                        if (root.fields === Viewer.kindFields && !Viewer.editor.isSet)
+                            Viewer.editor.confirm()
+                        Viewer.focusStage()
                     }
                 }
                 Text {

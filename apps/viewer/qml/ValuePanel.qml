@@ -17,8 +17,14 @@ Item {
         y: panel.isLow ? 4 : 8
         height: 50
         verticalAlignment: Text.AlignVCenter
-        text: Viewer.editor.value || (Viewer.documents.hasPicture && Viewer.editor.usesScale
-                               && !Viewer.editor.hasScale ? qsTr("no scale yet") : "–")
+        text: Viewer.editor.value || lack
+        readonly property string lack: {
+            if (!Viewer.documents.hasPicture)
+                return "–"
+            if (!Viewer.editor.isSet)
+                return qsTr("not set")
+            return Viewer.editor.usesScale && !Viewer.editor.hasScale ? qsTr("no scale yet") : "–"
+        }
         color: Viewer.editor.value ? Theme.accent : Theme.quiet
         font {
             family: Theme.family
@@ -33,15 +39,17 @@ Item {
     Text {
         objectName: "secondValueText"
         anchors { left: label.left; right: label.right; top: label.bottom }
-        text: Viewer.editor.secondValue ? Viewer.editor.secondValue + shareOf : note
+        text: Viewer.editor.secondValue
+              ? Viewer.editor.secondValue + shareOf
+              : [Viewer.editor.valueNote, scale].filter(part => part).join(", ")
         color: Theme.text
         elide: Text.ElideRight
         font { family: Theme.family; pixelSize: Theme.normal }
 
         readonly property string shareOf: Viewer.editor.points.count > 2 ? qsTr(" of the section")
                                                                    : qsTr(" of the diameter")
-        readonly property string note: Viewer.editor.usesScale && Viewer.editor.hasScale
-                                       ? Viewer.editor.scaleText : ""
+        readonly property string scale: Viewer.editor.usesScale && Viewer.editor.hasScale
+                                        ? Viewer.editor.scaleText : ""
     }
     Row {
         id: keys
@@ -49,7 +57,14 @@ Item {
         y: label.y + 2
         spacing: 6
         ToolKey {
+            objectName: "confirmKey"
+            visible: !Viewer.editor.isSet
+            action: panel.commands.confirm
+            emphasized: true
+        }
+        ToolKey {
             objectName: "copyKey"
+            visible: Viewer.editor.isSet
             action: panel.commands.copy
         }
         ToolKey {

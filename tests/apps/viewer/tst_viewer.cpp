@@ -99,11 +99,11 @@ void TestViewer::measures_data()
                         double slack) {
         QTest::newRow(sample) << int(key) << start << fields << clicks << value << slack;
     };
-    row("dimension", Qt::Key_2, "", "", "dimensions.0.clicks", "dimensions.0.lengthMm", 0.03);
-    row("water", Qt::Key_3, "20 %", "", "water.edges.1.clicks", "water.percent", 0.02);
-    row("branch", Qt::Key_4, "90°", "angleDEG=45 clock=3", "", "branch.angleDeg", 0.0);
-    row("bend", Qt::Key_5, "45°", "angleDEG=30 clock=3", "", "bend.angleDeg", 0.0);
-    row("section", Qt::Key_6, "", "percentage=10", "section.clicks", "section.areaMm2", 0.03);
+    row("dimension", Qt::Key_2, "–", "", "dimensions.0.clicks", "dimensions.0.lengthMm", 0.03);
+    row("water", Qt::Key_3, "not set", "", "water.edges.1.clicks", "water.percent", 0.02);
+    row("branch", Qt::Key_4, "not set", "angleDEG=45 clock=3", "", "branch.angleDeg", 0.0);
+    row("bend", Qt::Key_5, "not set", "angleDEG=30 clock=3", "", "bend.angleDeg", 0.0);
+    row("section", Qt::Key_6, "–", "percentage=10", "section.clicks", "section.areaMm2", 0.03);
 }
 
 // Every kind with keys and clicks; all of it can be saved, and undone.
@@ -120,7 +120,7 @@ void TestViewer::measures()
     const QByteArray pictureBefore = contentOf(picture);
     const Session opened = *d.editor.session();
     d.key(key);
-    QTEST(d.editor.value(), "start");
+    QTEST(d.text("valueText"), "start");
     for (const QString &field : fields.split(' ', Qt::SkipEmptyParts)) {
         d.type("field." + field.section('=', 0, 0), field.section('=', 1));
     }
@@ -218,6 +218,7 @@ void TestViewer::pointsAreCorrected()
     QCOMPARE(d.editor.points()->count(), 1);
     d.click(390, 290);
     QVERIFY(d.guidance.text().contains("beyond"));
+    QVERIFY(d.text("secondValueText").startsWith("Point 2 lies beyond"));
 }
 
 void TestViewer::dragIsOneStep()
@@ -326,6 +327,13 @@ void TestViewer::badValuesStayVisible()
     d.openSample("branch.jpg");
     d.key(Qt::Key_4);
     const Session before = *d.editor.session();
+    d.type("field.angleDEG", "90"); // what it shows already
+    QCOMPARE(number(d), 90.0);
+    d.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(d.text("valueText"), QString("not set"));
+    d.clickItem("confirmKey");
+    QCOMPARE(number(d), 90.0);
+    d.key(Qt::Key_Z, Qt::ControlModifier);
     for (const char *text : {"29.9", "45 apples"}) {
         d.type("field.angleDEG", text, Qt::Key_Tab);
         QCOMPARE(d.text("field.angleDEG"), QString(text));

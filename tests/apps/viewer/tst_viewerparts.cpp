@@ -114,6 +114,10 @@ void TestViewerParts::fieldsReadBackWhatTheyShow()
     }
     QCOMPARE(fieldText(fieldNamed(QStringLiteral("clock"), session), session),
              QStringLiteral("9.5"));
+    session.kind = Measuring::Kind::BendAngle;
+    const Field angle = fieldNamed(QStringLiteral("angleDEG"), session);
+    angle.set(session, 12.0); // drawn in steps of five
+    QCOMPARE(fieldText(angle, session), QStringLiteral("10"));
 }
 
 } // namespace Drevon::Zalento::Test
