@@ -3,7 +3,9 @@
 #include "measuring/Measurement.h"
 #include "measuring/OutputFile.h"
 #include "measuring/OverlayExport.h"
+#include "measuring/Picture.h"
 #include "measuring/SessionFile.h"
+#include "measuring/SessionFit.h"
 #include "measuring/ValueTable.h"
 
 #include <QClipboard>
@@ -20,24 +22,61 @@ const QLatin1String png("png");
 const QLatin1String svg("svg");
 const QLatin1String csv("csv");
 
-QVector<Measuring::PictureValues> measuredValues(DocumentList &documents)
+// As it is when its picture is shown, which is read only where the session does not know its size.
+Measuring::Result<Measuring::Session> savedSession(const Document &document)
+{
+    Measuring::Result<Measuring::Session> saved = Measuring::loadSession(document.sessionPath);
+    if (saved && saved->picture.size.isEmpty()) {
+        const auto picture = Measuring::loadPicture(document.picturePath);
+        if (!picture) {
+            return picture.problem();
+        }
+        saved->picture = picture->identity;
+    }
+    if (saved && Measuring::hasAlignmentClicks(*saved)) {
+        const auto fit = Measuring::fitSession(*saved);
+        if (!fit) {
+            return fit.problem();
+        }
+    }
+    return saved;
+}
+
+void setMeasured(Measuring::PictureValues &picture, const Measuring::Session &measured)
+{
+    picture.identity = measured.picture;
+    picture.kind = measured.kind;
+    Measuring::setMeasurement(picture, Measuring::measure(measured));
+}
+
+// A picture that was only looked at, or not yet, has what is saved beside it, if anything is.
+Measuring::PictureValues valuesOf(const Document &document)
+{
+    Measuring::PictureValues picture;
+    picture.picture = document.picturePath;
+    const bool isBegun = document.isModified() || document.sessionStamp.isValid();
+    if (document.session && isBegun) {
+        setMeasured(picture, *document.session);
+    } else if (QFileInfo::exists(document.sessionPath)) {
+        const auto saved = savedSession(document);
+        if (saved) {
+            setMeasured(picture, *saved);
+        } else {
+            picture.message = saved.problem().text();
+        }
+    } else if (document.problem.isEmpty()) {
+        picture.status = Measuring::Status::NotMeasured;
+    } else {
+        picture.message = document.problem;
+    }
+    return picture;
+}
+
+QVector<Measuring::PictureValues> valuesOfAll(DocumentList &documents)
 {
     QVector<Measuring::PictureValues> pictures;
     for (int i = 0; i < documents.count(); ++i) {
-        const Document &document = documents.at(i);
-        if (!document.session) {
-            continue;
-        }
-        const Measuring::Measurement measured = Measuring::measure(*document.session);
-        if (!measured.values.isEmpty()) {
-            Measuring::PictureValues picture;
-            picture.picture = document.picturePath;
-            picture.identity = document.session->picture;
-            picture.kind = document.session->kind;
-            picture.status = Measuring::Status::Measured;
-            picture.values = measured.values;
-            pictures.append(picture);
-        }
+        pictures.append(valuesOf(documents.at(i)));
     }
     return pictures;
 }
@@ -182,8 +221,11 @@ bool Exporter::exportTo(const QString &what, const QString &path)
     if (!m_editor.isReady()) {
         return false;
     }
+    const bool isUnset = (what == png || what == svg) && !m_editor.isSet();
     return report(Measuring::writeFile(path, exported(what), Measuring::Overwrite::Allow),
-                  tr("Written: %1").arg(path));
+                  isUnset
+                      ? tr("Written: %1. What it shows was neither set nor confirmed.").arg(path)
+                      : tr("Written: %1").arg(path));
 }
 
 QByteArray Exporter::exported(const QString &what) const
@@ -194,7 +236,7 @@ QByteArray Exporter::exported(const QString &what) const
     if (what == svg) {
         return Measuring::overlaySvg(*m_editor.item(), m_documents.pictureSize());
     }
-    const auto values = measuredValues(m_documents);
+    const auto values = valuesOfAll(m_documents);
     return what == csv ? valuesAsCsv(values) : Measuring::jsonDocument(values);
 }
 

@@ -22,7 +22,8 @@ public:
     Q_INVOKABLE bool saveAnyway();
     /** Saves every modified session; stops at the first that needs a confirmation or fails. */
     Q_INVOKABLE bool saveAll();
-    /** Suggested file: "png", "svg" of the overlay; "csv", "json" of the values; "session". */
+    /** Suggested file: "png", "svg" of the overlay; "csv", "json" of the values of every picture
+     * that is open; "session". */
     Q_INVOKABLE QString suggestedPath(const QString &what) const;
     /** Writes what suggestedPath() names, over what is there; confirm that first. */
     Q_INVOKABLE bool exportTo(const QString &what, const QString &path);

@@ -535,6 +535,15 @@ void TestViewer::severalPictures()
     QVERIFY(!d.editor.canUndo());
     d.doubleClickItem("previousKey");
     QCOMPARE(d.editor.points()->count(), 1);
+    const QString table = d.folder.filePath("table.csv");
+    d.documents.openPaths({first, d.copySample("bend.jpg"), d.copySample("crack.jpg")});
+    d.copySample("crack.jpg.zalento.json");
+    QVERIFY(d.exporter.exportTo("csv", table));
+    for (const char *record :
+         {"dimension.jpg,PipeDimension,no value", "broken.jpg,,failed", "water.jpg,,not measured",
+          "bend.jpg,,not measured", "crack.jpg,CrackWidth,measured,crackWidth,"}) {
+        QVERIFY2(contentOf(table).contains(record), contentOf(table));
+    }
     d.key(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(d.editor.points()->count(), 0);
     QCOMPARE(d.viewer.preferences()->recentFiles().first(), first);
