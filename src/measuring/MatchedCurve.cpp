@@ -92,12 +92,12 @@ void addTurnedCircle(double angleDEG, double before, double behind, std::vector<
     }
 }
 
-// The circles that follow the angle: those behind the turn.
+// The circles that follow the angle: the one at the end of the turn, where it is drawn, and the
+// last one.
 std::vector<Vec3> bendEnds(const Session &session, double angleDEG)
 {
     std::vector<Vec3> places;
     if (session.jointShown) {
-        addTurnedCircle(angleDEG, 0.0, 0.0, places);
         addTurnedCircle(angleDEG, 0.0, session.percentage * fractionPerPercent, places);
         return places;
     }
@@ -107,7 +107,9 @@ std::vector<Vec3> bendEnds(const Session &session, double angleDEG)
     const double front = 2 * 0.2 * bend.diameterM / bend.getDiameterM();
     const double before = session.viewDownstream ? 0.0 : straight;
     const double behind = session.viewDownstream ? straight : front;
-    addTurnedCircle(angleDEG, before, 0.0, places);
+    if (session.viewStyle == ViewStyle::Full) {
+        addTurnedCircle(angleDEG, before, 0.0, places);
+    }
     addTurnedCircle(angleDEG, before, behind, places);
     return places;
 }

@@ -16,7 +16,7 @@ namespace Drevon::Zalento::Measuring {
  * Only what a curve moves across itself can be seen. Curves are compared point by point, with
  * weights by the length of the curve around a point.
  */
-class MatchedCurve
+class ZALENTO_MEASURING_EXPORT MatchedCurve
 {
 public:
     /** @param session of a kind with a setting; for a cross section the depth of the plane */

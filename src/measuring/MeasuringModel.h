@@ -1,5 +1,6 @@
 #pragma once
 
+#include "measuring/Export.h"
 #include "measuring/Session.h"
 
 #include <Eigen/Core>
@@ -30,7 +31,7 @@ constexpr Eigen::Index firstClick = mmPerPixel + 1;
  * when it was clicked. Points on one place are one click, such as the first and the last one of a
  * closed outline.
  */
-class MeasuringModel
+class ZALENTO_MEASURING_EXPORT MeasuringModel
 {
 public:
     /** @param session one that measures something, its points placed */

@@ -13,8 +13,9 @@ namespace {
 constexpr double mmPerInch = 25.4;
 constexpr double mmPerFoot = 12 * mmPerInch;
 
-// From this leading digit on one digit is enough.
-constexpr int oneDigitFrom = 3;
+// Of an uncertainty's first two digits: from here on one is enough; from here on it becomes a 1.
+constexpr double oneDigitFrom = 30.0;
+constexpr double roundsUpFrom = 95.0;
 
 struct ShownUnit
 {
@@ -57,19 +58,22 @@ int decimalsOf(double uncertainty)
     if (!(uncertainty > 0.0)) {
         return 0;
     }
+    const int exponent = static_cast<int>(std::floor(std::log10(uncertainty)));
+    const double twoDigits = std::round(uncertainty * std::pow(10.0, 1 - exponent));
     // 0.096 is told as 0.10: what rounds up to a 1 has the digits of a 1.
-    const double twoDigits = std::pow(10.0, 1.0 - std::floor(std::log10(uncertainty)));
-    const double leading = std::round(uncertainty * twoDigits / 10.0);
-    const bool isShort = leading >= oneDigitFrom && leading < 10.0;
-    const int exponent =
-        static_cast<int>(std::floor(std::log10(uncertainty))) + (leading < 10.0 ? 0 : 1);
-    return (isShort ? 0 : 1) - exponent;
+    if (twoDigits >= roundsUpFrom) {
+        return -exponent;
+    }
+    return twoDigits < oneDigitFrom ? 1 - exponent : -exponent;
 }
 
 QString rounded(double number, int decimals)
 {
-    const double place = std::pow(10.0, -std::min(decimals, 0));
-    return QString::number(std::round(number / place) * place, 'f', std::max(decimals, 0));
+    if (decimals >= 0) {
+        return QString::number(number, 'f', decimals);
+    }
+    const double place = std::pow(10.0, -decimals);
+    return QString::number(std::round(number / place) * place, 'f', 0);
 }
 
 // Lengths and areas have the decimal mark of the overlay's texts.
