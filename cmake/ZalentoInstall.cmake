@@ -12,9 +12,10 @@ install(TARGETS ${installed_targets} EXPORT ZalentoTargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 # Headers that only our own sources include stay at home.
-set(internal_headers CLocale.h CompletePicture.h FitCamera.h MatchedCurve.h MeasuringModel.h UncertaintyFactors.h FitDrawing.h FitOutliers.h FitPlan.h
-  FitProblem.h FitStart.h MarkerPens.h ModelViewScope.h PainterPens.h clearVectorRegisters.h
-  squaredDistance.h truncatedRect.h)
+set(internal_headers CLocale.h CompletePicture.h FitCamera.h FitDrawing.h FitOutliers.h FitPlan.h
+  FitProblem.h FitStart.h MarkerPens.h MatchedCurve.h MeasuringModel.h ModelPlace.h
+  ModelViewScope.h PainterPens.h UncertaintyFactors.h clearVectorRegisters.h squaredDistance.h
+  truncatedRect.h)
 list(TRANSFORM internal_headers REPLACE "(.+)" "PATTERN;\\1;EXCLUDE")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/zalento" "${PROJECT_SOURCE_DIR}/src/measuring"
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"

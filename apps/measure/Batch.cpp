@@ -5,6 +5,7 @@
 #include "measuring/OverlayExport.h"
 #include "measuring/Picture.h"
 #include "measuring/PipeView.h"
+#include "measuring/PlaceUncertainty.h"
 #include "measuring/Replay.h"
 #include "measuring/SessionFile.h"
 #include "measuring/SessionFit.h"
@@ -14,11 +15,15 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Drevon::Zalento::Apps {
 
 namespace {
+
+// What a map tells changes slowly: more pixels would tell no more.
+constexpr int largestMapWidth = 800;
 
 QString pointText(const QPointF &point)
 {
@@ -157,6 +162,7 @@ struct Batch::Work
     PictureResult result;
     Picture picture;
     Session session;
+    std::optional<AlignmentFit> fit;
     bool isOtherPicture = false; // than the one of the session
 };
 
@@ -245,13 +251,20 @@ Outcome Batch::measureSession(const Session *start, Work &work)
     if (const Outcome problem = takeWaterLevel(work)) {
         return problem;
     }
+    tellValues(work);
+    writeFiles(work);
+    return {};
+}
+
+void Batch::tellValues(Work &work) const
+{
     PictureValues &values = work.result.values;
-    setMeasurement(values, measure(work.session));
+    values = pictureValues(values.picture, work.session, work.fit,
+                           m_command.drawsValues ? UncertaintyEffort::MonteCarlo
+                                                 : UncertaintyEffort::Checked);
     if (values.status == Status::NotSet) {
         values.message = neededOption(infoOf(work.session.kind));
     }
-    writeFiles(work);
-    return {};
 }
 
 Outcome Batch::mergeSession(const Session *start, Work &work) const
@@ -287,20 +300,19 @@ Outcome Batch::fitAlignment(const Session *start, Work &work) const
 {
     Session &session = work.session;
     const Alignment asked = alignmentOf(session);
-    std::optional<AlignmentFit> fit;
     if (hasAlignmentClicks(session)) {
         const Result<AlignmentFit> fitted = fitSession(session);
         if (!fitted) {
             return fitted.problem();
         }
-        fit = *fitted;
-        work.result.warnings += overriddenOptions(*fit, m_command.session, asked);
-        work.result.warnings += suspiciousClicks(*fit, session);
+        work.fit = *fitted;
+        work.result.warnings += overriddenOptions(*fitted, m_command.session, asked);
+        work.result.warnings += suspiciousClicks(*fitted, session);
     }
     if (start && hasMoved(*start, session)) {
         pickPointsAnew(session);
     }
-    work.result.values.alignment = alignmentSummary(session, fit);
+    work.result.values.alignment = alignmentSummary(session, work.fit);
     return {};
 }
 
@@ -368,9 +380,26 @@ void Batch::writeFiles(Work &work)
                   overlaySvg(item, work.picture.image.size()), work.result);
         }
     }
+    if (m_command.map) {
+        writeMap(work);
+    }
     if (m_command.savesSession) {
         saveSessionOf(work);
     }
+}
+
+void Batch::writeMap(Work &work)
+{
+    PictureResult &result = work.result;
+    if (!infoOf(work.session.kind).has(Uses::Model)) {
+        result.warnings += QStringLiteral("the kind %1 lays no pipe over the picture: no map")
+                               .arg(infoOf(work.session.kind).nameText());
+        return;
+    }
+    const int width = std::min(work.picture.image.width(), largestMapWidth);
+    const QImage map = wallMap(work.session, work.fit, *m_command.map, width);
+    write(mapPathOf(result.values.picture, m_command.outputFolder),
+          mapPng(map, *m_command.map, work.picture.image), result);
 }
 
 bool Batch::isFreeToWrite(const QString &path, PictureResult &result)

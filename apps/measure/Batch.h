@@ -47,7 +47,9 @@ private:
     Outcome takeLaserScale(Work &work) const;
     Outcome placeClicks(Work &work) const;
     Outcome takeWaterLevel(Work &work) const;
+    void tellValues(Work &work) const;
     void writeFiles(Work &work);
+    void writeMap(Work &work);
     void write(const QString &path, const QByteArray &content, PictureResult &result);
     void note(const Outcome &problem, const QString &path, PictureResult &result) const;
     bool isFreeToWrite(const QString &path, PictureResult &result);

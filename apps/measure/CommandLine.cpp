@@ -31,7 +31,12 @@ void addOptions(QCommandLineParser &parser)
     addValue(parser, "format", "Of the values: text (default), json, jsonl or csv.", "NAME");
     addValue(parser, "overlay", "Writes <stem>.overlay.png, <stem>.overlay.svg: png, svg or both.",
              "NAME");
+    addValue(parser, "map",
+             "Writes <stem>.map.png, what a pixel is worth on the wall: scale or uncertainty.",
+             "NAME");
     addValue(parser, "output", "Folder for written files; made when missing.", "DIR");
+    addFlag(parser, "monte-carlo",
+            "Finds every uncertainty with 10,000 draws, not only where it is needed.");
     addFlag(parser, "force", "Writes over existing files.");
     parser.addOption(QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")},
                                         QStringLiteral("Prints this help.")));
@@ -118,9 +123,10 @@ QString readOverlay(const QCommandLineParser &parser, CommandLine &command)
 {
     const QString name = parser.value(QStringLiteral("overlay"));
     const bool isGiven = parser.isSet(QStringLiteral("overlay"));
+    const bool isAsked = isGiven || parser.isSet(QStringLiteral("map"));
     const bool isBoth = name == QLatin1String("both");
     command.writesPng =
-        isBoth || name == QLatin1String("png") || (!isGiven && command.verb == Verb::Render);
+        isBoth || name == QLatin1String("png") || (!isAsked && command.verb == Verb::Render);
     command.writesSvg = isBoth || name == QLatin1String("svg");
     if (isGiven && !command.writesPng && !command.writesSvg) {
         return QStringLiteral("--overlay: expected png, svg or both, found \"%1\"").arg(name);
@@ -128,10 +134,23 @@ QString readOverlay(const QCommandLineParser &parser, CommandLine &command)
     return {};
 }
 
+QString readMap(const QCommandLineParser &parser, CommandLine &command)
+{
+    const QString name = parser.value(QStringLiteral("map"));
+    if (name == QLatin1String("scale")) {
+        command.map = MapQuantity::Scale;
+    } else if (name == QLatin1String("uncertainty")) {
+        command.map = MapQuantity::Uncertainty;
+    } else if (parser.isSet(QStringLiteral("map"))) {
+        return QStringLiteral("--map: expected scale or uncertainty, found \"%1\"").arg(name);
+    }
+    return {};
+}
+
 // Every value option but --click means one thing.
 QString repeatedOption(const QCommandLineParser &parser)
 {
-    for (const char *name : {"session", "format", "overlay", "output"}) {
+    for (const char *name : {"session", "format", "overlay", "map", "output"}) {
         if (parser.values(QLatin1String(name)).size() > 1) {
             return QStringLiteral("--%1 is given more than once").arg(QLatin1String(name));
         }
@@ -144,6 +163,7 @@ void readFlagsAndFiles(const QCommandLineParser &parser, CommandLine &command)
     command.recursive = parser.isSet(QStringLiteral("recursive"));
     command.ignoresSessions = parser.isSet(QStringLiteral("no-session"));
     command.savesSession = parser.isSet(QStringLiteral("save-session"));
+    command.drawsValues = parser.isSet(QStringLiteral("monte-carlo"));
     command.overwrites = parser.isSet(QStringLiteral("force"));
     command.sessionFile = parser.value(QStringLiteral("session"));
     command.calibrationFile = parser.value(QStringLiteral("calibration"));
@@ -182,9 +202,11 @@ QString contradiction(const QCommandLineParser &parser, const CommandLine &comma
     if (command.verb == Verb::Render && parser.isSet(QStringLiteral("format"))) {
         return QStringLiteral("render prints no values: it takes no --format");
     }
-    const bool writes = command.writesPng || command.writesSvg || command.savesSession;
+    const bool writes =
+        command.writesPng || command.writesSvg || command.map || command.savesSession;
     if (!command.outputFolder.isEmpty() && !writes) {
-        return QStringLiteral("--output needs something to write: --overlay or --save-session");
+        return QStringLiteral(
+            "--output needs something to write: --overlay, --map or --save-session");
     }
     return {};
 }
@@ -192,7 +214,7 @@ QString contradiction(const QCommandLineParser &parser, const CommandLine &comma
 QString readCommand(const QCommandLineParser &parser, CommandLine &command)
 {
     QString problem = readVerb(parser.positionalArguments(), command);
-    for (const auto step : {readFormat, readOverlay}) {
+    for (const auto step : {readFormat, readOverlay, readMap}) {
         if (problem.isEmpty()) {
             problem = step(parser, command);
         }

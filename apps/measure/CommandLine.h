@@ -2,6 +2,8 @@
 
 #include "measure/SessionOptions.h"
 
+#include "measuring/PlaceUncertainty.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -28,8 +30,10 @@ struct CommandLine
     QString calibrationFile;
     SessionOptions session;
     Format format = Format::Text;
+    bool drawsValues = false; ///< Monte Carlo for every uncertainty
     bool writesPng = false;
     bool writesSvg = false;
+    std::optional<MapQuantity> map;
     bool savesSession = false;
     QString outputFolder; ///< empty: beside each picture
     bool overwrites = false;

@@ -4,6 +4,13 @@ namespace Drevon::Zalento::Apps {
 
 namespace {
 
+QString decisionOf(const Value &value)
+{
+    const bool isDecided = value.uncertainty && value.uncertainty->decision;
+    return isDecided ? QStringLiteral(": ") + decisionText(*value.uncertainty->decision)
+                     : QString();
+}
+
 QByteArray textLines(const PictureValues &result)
 {
     if (result.values.isEmpty()) {
@@ -18,10 +25,10 @@ QByteArray textLines(const PictureValues &result)
                      .toUtf8();
     }
     for (const Value &value : result.values) {
-        lines +=
-            QStringLiteral("%1: %2 %3 (%4 %5)\n")
-                .arg(result.picture, value.name, value.text, numberText(value.number), value.unit)
-                .toUtf8();
+        lines += QStringLiteral("%1: %2 %3 (%4 %5)%6\n")
+                     .arg(result.picture, value.name, value.fullText(), numberText(value.number),
+                          value.unit, decisionOf(value))
+                     .toUtf8();
     }
     return lines;
 }

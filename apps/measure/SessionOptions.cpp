@@ -1,6 +1,7 @@
 #include "measure/SessionOptions.h"
 
 #include "measuring/Editing.h"
+#include "measuring/Limit.h"
 
 #include <QStringList>
 
@@ -280,6 +281,20 @@ void readClicks(const QCommandLineParser &parser, OptionReader &reader, SessionO
     }
 }
 
+void readUncertainties(OptionReader &reader, SessionOptions &options)
+{
+    for (const StandardUncertaintyRow &row : standardUncertaintyRows()) {
+        options.standardUncertainties.*row.member =
+            reader.number(row.option, 0.0, largestStandardUncertainty);
+    }
+    options.limit = reader.value("limit");
+    if (options.limit) {
+        const Result<Limit> limit = limitFromText(*options.limit);
+        reader.note(limit ? Outcome()
+                          : Outcome(Problem{QStringLiteral("--limit"), limit.problem().what}));
+    }
+}
+
 void addOption(QCommandLineParser &parser, const char *name, const char *description,
                const char *valueName)
 {
@@ -389,6 +404,12 @@ void SessionOptions::applyTo(Session &session) const
     session.viewDownstream = viewDownstream.value_or(session.viewDownstream);
     session.jointShown = jointShown.value_or(session.jointShown);
     session.viewStyle = viewStyle.value_or(session.viewStyle);
+    session.limit = limit.value_or(session.limit);
+    for (const StandardUncertaintyRow &row : standardUncertaintyRows()) {
+        if (const std::optional<double> &given = standardUncertainties.*row.member) {
+            session.standardUncertainties.*row.member = given;
+        }
+    }
 }
 
 Outcome SessionOptions::misfit(const KindInfo &info) const
@@ -488,6 +509,16 @@ void addSessionOptions(QCommandLineParser &parser)
               "The two laser spots in picture pixels; gives the scale for crack widths.",
               "X,Y X,Y");
     addOption(parser, "calibration", "Camera calibration file.", "FILE");
+    for (const StandardUncertaintyRow &row : standardUncertaintyRows()) {
+        parser.addOption(QCommandLineOption(
+            QLatin1String(row.option),
+            QStringLiteral("Standard uncertainty %1.").arg(QLatin1String(row.meaning)),
+            QStringLiteral("NUMBER")));
+    }
+    addOption(parser, "limit",
+              "What values are held against: \"< 0.5 mm\", \"> 20 %\"; told is whether they lie "
+              "below or above.",
+              "TEXT");
 }
 
 Result<SessionOptions> readSessionOptions(const QCommandLineParser &parser)
@@ -501,6 +532,7 @@ Result<SessionOptions> readSessionOptions(const QCommandLineParser &parser)
     readLaserSpots(reader, options);
     readClicks(parser, reader, options);
     readAlignmentClicks(parser, reader, options);
+    readUncertainties(reader, options);
     reader.value("calibration");
     if (options.kind) {
         reader.note(options.misfit(infoOf(*options.kind)));

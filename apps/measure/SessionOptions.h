@@ -42,6 +42,8 @@ struct SessionOptions
     std::optional<QVector<RingClicks>> rings; ///< replace the session's
     std::optional<QVector<LineClicks>> lines;
     bool fitsFov = false;
+    StandardUncertainties standardUncertainties; ///< replace the session's, one by one
+    std::optional<QString> limit;
 
     bool hasNumber(double Session::*member) const;
 

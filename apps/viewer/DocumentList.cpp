@@ -254,6 +254,8 @@ Session DocumentList::newSession() const
     if (current() && current()->session) {
         const Session &last = *current()->session;
         Measuring::startKind(fresh, last.kind);
+        fresh.standardUncertainties = last.standardUncertainties;
+        fresh.limit = last.limit;
         fresh.unit = last.unit;
         fresh.diameterMM = last.diameterMM;
         fresh.fovYDEG = last.fovYDEG;

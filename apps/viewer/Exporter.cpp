@@ -1,6 +1,5 @@
 #include "Exporter.h"
 
-#include "measuring/Measurement.h"
 #include "measuring/OutputFile.h"
 #include "measuring/OverlayExport.h"
 #include "measuring/Picture.h"
@@ -42,34 +41,30 @@ Measuring::Result<Measuring::Session> savedSession(const Document &document)
     return saved;
 }
 
-void setMeasured(Measuring::PictureValues &picture, const Measuring::Session &measured)
-{
-    picture.identity = measured.picture;
-    picture.kind = measured.kind;
-    Measuring::setMeasurement(picture, Measuring::measure(measured));
-}
-
 // A picture that was only looked at, or not yet, has what is saved beside it, if anything is.
 Measuring::PictureValues valuesOf(const Document &document)
 {
-    Measuring::PictureValues picture;
-    picture.picture = document.picturePath;
+    const auto valuesOfSession = [&document](const Measuring::Session &measured) {
+        return Measuring::pictureValues(document.picturePath, measured, Measuring::fitOf(measured));
+    };
     const bool isBegun = document.isModified() || document.sessionStamp.isValid();
     if (document.session && isBegun) {
-        setMeasured(picture, *document.session);
-    } else if (QFileInfo::exists(document.sessionPath)) {
+        return valuesOfSession(*document.session);
+    }
+    Measuring::PictureValues values;
+    values.picture = document.picturePath;
+    if (QFileInfo::exists(document.sessionPath)) {
         const auto saved = savedSession(document);
         if (saved) {
-            setMeasured(picture, *saved);
-        } else {
-            picture.message = saved.problem().text();
+            return valuesOfSession(*saved);
         }
+        values.message = saved.problem().text();
     } else if (document.problem.isEmpty()) {
-        picture.status = Measuring::Status::NotMeasured;
+        values.status = Measuring::Status::NotMeasured;
     } else {
-        picture.message = document.problem;
+        values.message = document.problem;
     }
-    return picture;
+    return values;
 }
 
 QVector<Measuring::PictureValues> valuesOfAll(DocumentList &documents)

@@ -99,6 +99,12 @@ Field angleField(const Session &session)
     Field field = with(numberField(QStringLiteral("angleDEG"), &Session::angleDEG),
                        QT_TRANSLATE_NOOP("Field", "Angle"), QStringLiteral("°"), 1, 1);
     field.hasSlider = true;
+    field.get = Measuring::drawnAngleDEG;
+    field.set = [](Session &s, std::optional<double> angleDEG) {
+        s.angleDEG = angleDEG.value_or(0.0);
+        s.angleDEG = Measuring::drawnAngleDEG(s);
+        s.isSet = true;
+    };
     const Measuring::AngleRow &angles = infoOf(session.kind).angle;
     field.smallest = angles.smallestDEG;
     field.largest = angles.largestDEG;

@@ -4,6 +4,7 @@
 #include "measuring/CalibrationFile.h"
 #include "measuring/Editing.h"
 #include "measuring/PipeView.h"
+#include "measuring/Repeats.h"
 #include "measuring/Replay.h"
 #include "measuring/SessionFit.h"
 
@@ -140,9 +141,17 @@ void MeasurementEditor::show(const Session &session)
     if (isReady()) {
         Measuring::showSession(session, *m_item);
     }
-    m_measurement = Measuring::measure(session);
+    assess(m_gestureStart ? Measuring::UncertaintyEffort::FirstOrder
+                          : Measuring::UncertaintyEffort::Checked);
     refresh();
     Q_EMIT sessionChanged();
+}
+
+// While a gesture lasts the number has to follow it.
+void MeasurementEditor::assess(Measuring::UncertaintyEffort effort)
+{
+    m_measurement = Measuring::measureWithUncertainty(*session(), m_fit, effort);
+    Q_EMIT measurementChanged();
 }
 
 void MeasurementEditor::refresh()
@@ -166,8 +175,8 @@ MeasurementEditor::Shown MeasurementEditor::shownNow() const
     const auto &values = m_measurement.values;
     now.kind = infoOf(s.kind).nameText();
     now.hasModel = infoOf(s.kind).has(Uses::Model);
-    now.value = values.isEmpty() ? QString() : values.first().text;
-    now.secondValue = values.size() > 1 ? values.at(1).text : QString();
+    now.value = values.isEmpty() ? QString() : values.first().fullText();
+    now.secondValue = values.size() > 1 ? values.at(1).fullText() : QString();
     now.isSet = s.isSet;
     now.valueNote = noteOn(s);
     now.isImperial = s.unit != MeasureUnit::Metric;
@@ -295,6 +304,7 @@ void MeasurementEditor::finishGesture(const QString &name, int mergeNumber)
     const Session before = *m_gestureStart;
     m_gestureStart.reset();
     const Session after = sessionCopy();
+    assess(Measuring::UncertaintyEffort::Checked);
     if (before != after) {
         const auto showAgain = [this](const Session &session) {
             m_guidance.clearNotice();
@@ -367,6 +377,14 @@ void MeasurementEditor::toggleUnit()
     change(tr("Unit"), session, Moves::Nothing);
 }
 
+void MeasurementEditor::measureAgain()
+{
+    Session session = sessionCopy();
+    if (isReady() && Measuring::measureAgain(session)) {
+        change(tr("Measure again"), session, Moves::Nothing);
+    }
+}
+
 void MeasurementEditor::undo()
 {
     if (m_gestureStart) {
@@ -412,13 +430,8 @@ void MeasurementEditor::resetAlignment()
     }
     const Session fresh = m_documents.newSession();
     Session session = sessionCopy();
-    session.offset = fresh.offset;
+    Measuring::setAlignment(session, Measuring::alignmentOf(fresh));
     session.rollDEG = fresh.rollDEG;
-    session.cameraHeightPercent = fresh.cameraHeightPercent;
-    session.fovYDEG = fresh.fovYDEG;
-    session.rearCircleX = fresh.rearCircleX;
-    session.rearCircleY = fresh.rearCircleY;
-    session.mouthPercent = fresh.mouthPercent;
     session.rings.clear();
     session.lines.clear();
     change(tr("Reset alignment"), session, Moves::Model);

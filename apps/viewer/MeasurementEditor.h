@@ -138,6 +138,10 @@ public:
     /** Null without a picture. */
     const Measuring::Session *session() const;
     const Measuring::Measurement &measurement() const { return m_measurement; }
+    /** Of the session's alignment, if it has clicks that fit. */
+    const std::optional<Measuring::AlignmentFit> &alignmentFit() const { return m_fit; }
+    /** A gesture is under way: its steps come often. */
+    bool isInGesture() const { return m_gestureStart.has_value(); }
 
     /** @name Gestures, in picture pixels */
     /** @{ */
@@ -168,6 +172,8 @@ public:
     Q_INVOKABLE void chooseKindAt(int row);
     /** What is set by eye is as it is shown. */
     Q_INVOKABLE void confirm();
+    /** Keeps the value as an earlier result, and takes it away. */
+    Q_INVOKABLE void measureAgain();
     Q_INVOKABLE void toggleUnit();
     Q_INVOKABLE void undo();
     Q_INVOKABLE void redo();
@@ -208,6 +214,8 @@ Q_SIGNALS:
     void itemChanged();
     /** Another session is on view: everything that was read of it may be different. */
     void sessionChanged();
+    /** The values or their uncertainties were found anew. */
+    void measurementChanged();
     void kindChanged();
     void hasModelChanged();
     void valueChanged();
@@ -263,6 +271,7 @@ private:
     };
 
     void show(const Measuring::Session &session);
+    void assess(Measuring::UncertaintyEffort effort);
     void refresh();
     Shown shownNow() const;
     void tell(const Shown &now);

@@ -5,7 +5,7 @@
 
 namespace Drevon::Zalento {
 
-/** Hands the picture on view to the scene, as "image://picture/<any id>". GUI thread only. */
+/** Hands one picture at a time to the scene, as "image://<name>/<any id>". GUI thread only. */
 class PictureProvider : public QQuickImageProvider
 {
 public:

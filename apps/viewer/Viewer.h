@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Assessment.h"
 #include "CameraProfiles.h"
 #include "DocumentList.h"
 #include "Exporter.h"
@@ -24,6 +25,7 @@ class Viewer : public QObject
     Q_PROPERTY(Drevon::Zalento::Guidance *guidance READ guidance CONSTANT)
     Q_PROPERTY(Drevon::Zalento::DocumentList *documents READ documents CONSTANT)
     Q_PROPERTY(Drevon::Zalento::MeasurementEditor *editor READ editor CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::Assessment *assessment READ assessment CONSTANT)
     Q_PROPERTY(Drevon::Zalento::KindModel *kinds READ kinds CONSTANT)
     Q_PROPERTY(Drevon::Zalento::FieldModel *kindFields READ kindFields CONSTANT)
     Q_PROPERTY(Drevon::Zalento::FieldModel *alignmentFields READ alignmentFields CONSTANT)
@@ -40,6 +42,7 @@ public:
     Guidance *guidance() { return &m_guidance; }
     DocumentList *documents() { return &m_documents; }
     MeasurementEditor *editor() { return &m_editor; }
+    Assessment *assessment() { return &m_assessment; }
     KindModel *kinds() { return &m_kinds; }
     FieldModel *kindFields() { return &m_kindFields; }
     FieldModel *alignmentFields() { return &m_alignmentFields; }
@@ -63,6 +66,7 @@ private:
     Guidance m_guidance;
     DocumentList m_documents{m_preferences, m_guidance};
     MeasurementEditor m_editor{m_documents, m_preferences, m_guidance};
+    Assessment m_assessment{m_editor};
     KindModel m_kinds;
     FieldModel m_kindFields;
     FieldModel m_alignmentFields;

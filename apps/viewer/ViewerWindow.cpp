@@ -56,6 +56,7 @@ void prepareScene()
     qmlRegisterUncreatableType<Guidance>(module, 1, 0, "Guidance", reason);
     qmlRegisterUncreatableType<DocumentList>(module, 1, 0, "DocumentList", reason);
     qmlRegisterUncreatableType<MeasurementEditor>(module, 1, 0, "MeasurementEditor", reason);
+    qmlRegisterUncreatableType<Assessment>(module, 1, 0, "Assessment", reason);
     qmlRegisterUncreatableType<FeatureModel>(module, 1, 0, "FeatureModel", reason);
     qmlRegisterUncreatableType<PointModel>(module, 1, 0, "PointModel", reason);
     qmlRegisterUncreatableType<KindModel>(module, 1, 0, "KindModel", reason);
@@ -75,6 +76,9 @@ ViewerWindow::ViewerWindow(Viewer &viewer)
     auto *provider = new PictureProvider;
     viewer.documents()->setPictureProvider(provider);
     m_engine.addImageProvider(QStringLiteral("picture"), provider);
+    auto *maps = new PictureProvider;
+    viewer.assessment()->setMapProvider(maps);
+    m_engine.addImageProvider(QStringLiteral("map"), maps);
     m_engine.setProperty(viewerProperty, QVariant::fromValue<QObject *>(&viewer));
 }
 

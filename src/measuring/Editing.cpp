@@ -67,6 +67,7 @@ void startKind(Session &session, Kind kind)
     const KindInfo &info = infoOf(kind);
     session.kind = kind;
     session.points.clear();
+    session.repeats.clear();
     session.percentage = info.percentage.initial;
     session.angleDEG = info.angle.initialDEG;
     session.jointShown = false;

@@ -2,7 +2,9 @@
 
 #include "measuring/Editing.h"
 #include "measuring/PipeView.h"
+#include "measuring/UncertaintyText.h"
 
+#include "zalento/geometry/Cylinder.h"
 #include "zalento/measure/measureLine.h"
 #include "zalento/measure/valueTexts.h"
 #include "zalento/pipes/Pipe.h"
@@ -49,14 +51,17 @@ Value named(const char *name, const MeasuredValue &value, MeasureUnit unit)
 {
     const double number =
         value.quantity == Quantity::Fraction ? value.number * percentPerOne : value.number;
-    return {QLatin1String(name), number, unitOf(value.quantity), valueText(value, unit)};
+    return {QLatin1String(name), number, unitOf(value.quantity), valueText(value, unit), {}};
 }
 
 Measurement waterLevel(const Session &session)
 {
     const double fraction = session.percentage * fractionPerPercent;
-    return measured({{QStringLiteral("waterLevel"), fraction * percentPerOne, QStringLiteral("%"),
-                      waterLevelText(fraction)}});
+    return measured({{QStringLiteral("waterLevel"),
+                      fraction * percentPerOne,
+                      QStringLiteral("%"),
+                      waterLevelText(fraction),
+                      {}}});
 }
 
 Measurement angle(const char *name, const Session &session)
@@ -135,6 +140,22 @@ Measurement measure(const Session &session)
     Session placed = session;
     placePoints(placed);
     return lineMeasurement(placed);
+}
+
+Measurement measureWithUncertainty(const Session &session, const std::optional<AlignmentFit> &fit,
+                                   UncertaintyEffort effort)
+{
+    Measurement measurement = measure(session);
+    const auto uncertainties = uncertaintiesOf(session, fit, effort);
+    for (int i = 0; i < uncertainties.size(); ++i) {
+        measurement.values[i].uncertainty = uncertainties[i];
+    }
+    return measurement;
+}
+
+QString Value::fullText() const
+{
+    return uncertainty ? textWithUncertainty(*this, uncertainty->expanded()) : text;
 }
 
 // The bend itself knows the steps that it is drawn in.

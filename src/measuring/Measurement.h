@@ -2,9 +2,13 @@
 
 #include "measuring/Export.h"
 #include "measuring/Session.h"
+#include "measuring/Uncertainty.h"
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
+
+#include <optional>
 
 namespace Drevon::Zalento::Measuring {
 
@@ -15,6 +19,11 @@ struct Value
     double number = 0.0; ///< in #unit
     QString unit;        ///< "mm", "mm²", "%" or "deg", whatever unit the texts have
     QString text;        ///< as the overlay shows it, in the session's unit
+    /** Filled by measureWithUncertainty(); nothing where it has no number. */
+    std::optional<Uncertainty> uncertainty;
+
+    /** The text with the expanded uncertainty, where there is one. */
+    ZALENTO_MEASURING_EXPORT QString fullText() const;
 };
 
 /** Why there is a value, or none. */
@@ -35,6 +44,11 @@ struct Measurement
 
 /** Measures a session; points without a position are looked up where they were clicked. */
 ZALENTO_MEASURING_EXPORT Measurement measure(const Session &session);
+
+/** The same with uncertainties. @param fit of the session's alignment, if it has one */
+ZALENTO_MEASURING_EXPORT Measurement
+measureWithUncertainty(const Session &session, const std::optional<AlignmentFit> &fit,
+                       UncertaintyEffort effort = UncertaintyEffort::Checked);
 
 /**
  * The angle in degrees that the model of the session's kind is drawn with: within the kind's

@@ -1,11 +1,11 @@
 #include "measuring/MeasuringModel.h"
 
 #include "measuring/Editing.h"
-#include "measuring/FitCamera.h"
+#include "measuring/Measurement.h"
+#include "measuring/ModelPlace.h"
 #include "measuring/PipeView.h"
 #include "measuring/SessionFit.h"
 
-#include "zalento/geometry/Cylinder.h"
 #include "zalento/measure/measureLine.h"
 
 #include <algorithm>
@@ -16,9 +16,7 @@ namespace Drevon::Zalento::Measuring {
 namespace {
 
 constexpr double percentPerOne = 100.0;
-constexpr double fractionPerPercent = 0.01;
 constexpr double mPerMM = 0.001;
-constexpr double radiusInDiameters = 0.5;
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 AlignmentNumbers alignmentIn(const Eigen::VectorXd &inputs)
@@ -28,40 +26,9 @@ AlignmentNumbers alignmentIn(const Eigen::VectorXd &inputs)
     return fields;
 }
 
-Vec3 along(const FitCamera<double> &camera, const FitVector<double> &ray, double reach)
-{
-    return {camera.eye().x + reach * ray.x, camera.eye().y + reach * ray.y,
-            camera.eye().z + reach * ray.z};
-}
-
-// The farther of the places where a ray meets the wall, in diameters: the one that is seen from
-// inside.
-Vec3 onWall(const FitCamera<double> &camera, const QPointF &pixel)
-{
-    const FitVector<double> ray = camera.rayThrough(pixel);
-    const FitVector<double> &eye = camera.eye();
-    const double a = ray.x * ray.x + ray.y * ray.y;
-    const double b = eye.x * ray.x + eye.y * ray.y;
-    const double c = eye.x * eye.x + eye.y * eye.y - radiusInDiameters * radiusInDiameters;
-    const double reach = (std::sqrt(b * b - a * c) - b) / a;
-    return reach > 0.0 ? along(camera, ray, reach) : Vec3(notANumber, 0, 0);
-}
-
-Vec3 onPlane(const FitCamera<double> &camera, const QPointF &pixel, double planePercent)
-{
-    const double depth = planePercent * fractionPerPercent * Cylinder::lengthInDiameters;
-    const FitVector<double> ray = camera.rayThrough(pixel);
-    Vec3 place = along(camera, ray, (-depth - camera.eye().z) / ray.z);
-    place.z = -depth;
-    return place;
-}
-
 double settingOf(const Session &session)
 {
-    const KindInfo &info = infoOf(session.kind);
-    return info.has(Uses::Angle)
-               ? std::clamp(session.angleDEG, info.angle.smallestDEG, info.angle.largestDEG)
-               : session.percentage;
+    return infoOf(session.kind).has(Uses::Angle) ? drawnAngleDEG(session) : session.percentage;
 }
 
 } // namespace
@@ -138,10 +105,11 @@ std::vector<Vec3> MeasuringModel::pickedPoints(const Eigen::VectorXd &inputs) co
             places.emplace_back(pixel.x() / m_drawingWidthPX, pixel.y() / m_drawingWidthPX, 0);
             break;
         case Kind::CrossSection:
-            places.push_back(onPlane(camera, pixel, inputs[ModelInput::planePercent]) * diameterM);
+            places.push_back(placeOnPlane(camera, pixel, inputs[ModelInput::planePercent]) *
+                             diameterM);
             break;
         default:
-            places.push_back(onWall(camera, pixel) * diameterM);
+            places.push_back(placeOnWall(camera, pixel) * diameterM);
             break;
         }
     }

@@ -2,6 +2,7 @@
 
 #include "measuring/Export.h"
 #include "measuring/OutputFile.h"
+#include "measuring/PlaceUncertainty.h"
 
 #include "zalento/item/ZaItem.h"
 
@@ -15,6 +16,13 @@ namespace Drevon::Zalento::Measuring {
 /** "<stem>.overlay.png" or "<stem>.overlay.svg" in @p folder; beside the picture when empty. */
 ZALENTO_MEASURING_EXPORT QString overlayPathOf(const QString &picturePath, const QString &folder,
                                                const QString &suffix);
+
+/** "<stem>.map.png", likewise. */
+ZALENTO_MEASURING_EXPORT QString mapPathOf(const QString &picturePath, const QString &folder);
+
+/** The picture under a map with its legend, as a PNG file's bytes. @param map of wallMap() */
+ZALENTO_MEASURING_EXPORT QByteArray mapPng(const QImage &map, MapQuantity quantity,
+                                           const QImage &picture);
 
 /** The picture with the item's overlay over it, pixel for pixel. */
 ZALENTO_MEASURING_EXPORT QImage pictureWithOverlay(ZaItem &item, const QImage &picture);

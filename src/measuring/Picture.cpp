@@ -13,8 +13,9 @@ namespace Drevon::Zalento::Measuring {
 
 namespace {
 
-// How the names of pictures end that an overlay was painted over.
+// How the names of pictures end that an overlay or a map was painted over.
 const QLatin1String overlayMark(".overlay");
+const QLatin1String mapMark(".map");
 
 constexpr qint64 pixelsPerMegapixel = 1'000'000;
 // A file beyond this is no picture of an inspection, and would not fit into memory twice.
@@ -117,7 +118,8 @@ bool isPictureToMeasure(const QString &path)
 {
     const QFileInfo info(path);
     return pictureFormats().contains(info.suffix().toLower().toLatin1()) &&
-           !info.completeBaseName().endsWith(overlayMark);
+           !info.completeBaseName().endsWith(overlayMark) &&
+           !info.completeBaseName().endsWith(mapMark);
 }
 
 QStringList picturesIn(const QString &folder, bool recursive)

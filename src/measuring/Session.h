@@ -81,8 +81,8 @@ struct Session
     int clockDEG = 0;        ///< where a branch, a bend or a joint points, clockwise from the top
     bool viewDownstream = true; ///< a bend is seen from the straight pipe
     bool jointShown = false;    ///< in the kind BendAngle: a joint instead of a bend
-    bool isSet =
-        true; ///< of a kind that is set by eye: the operator has set or confirmed its value
+    /** Of a kind that is set by eye: the operator has set or confirmed its value. */
+    bool isSet = true;
     ViewStyle viewStyle = ViewStyle::Full;
     QString calibrationText = QStringLiteral("LASER;;;50"); ///< see Pipe::parseIniFile()
     /** Millimetres per picture pixel; wins over what the calibration text gives. */

@@ -46,4 +46,14 @@ Result<AlignmentFit> fitSession(Session &session)
     return fit;
 }
 
+std::optional<AlignmentFit> fitOf(const Session &session)
+{
+    Session fitted = session;
+    if (!hasAlignmentClicks(fitted)) {
+        return std::nullopt;
+    }
+    const Result<AlignmentFit> fit = fitSession(fitted);
+    return fit ? std::optional<AlignmentFit>(*fit) : std::nullopt;
+}
+
 } // namespace Drevon::Zalento::Measuring

@@ -4,6 +4,8 @@
 #include "measuring/Result.h"
 #include "measuring/Session.h"
 
+#include <optional>
+
 namespace Drevon::Zalento::Measuring {
 
 /** The session's fields that place the model, the roll aside; and back. */
@@ -19,5 +21,8 @@ ZALENTO_MEASURING_EXPORT bool hasAlignmentClicks(const Session &session);
  * looked up where they were clicked. On a problem the session stays as it was.
  */
 ZALENTO_MEASURING_EXPORT Result<AlignmentFit> fitSession(Session &session);
+
+/** The fit that the session's alignment stands for; nothing without clicks, or where none fits. */
+ZALENTO_MEASURING_EXPORT std::optional<AlignmentFit> fitOf(const Session &session);
 
 } // namespace Drevon::Zalento::Measuring

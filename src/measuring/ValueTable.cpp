@@ -1,5 +1,7 @@
 #include "measuring/ValueTable.h"
 
+#include "measuring/Editing.h"
+
 #include <QJsonArray>
 #include <QLocale>
 
@@ -12,23 +14,119 @@ QString kindName(const PictureValues &picture)
     return picture.kind ? infoOf(*picture.kind).nameText() : QString();
 }
 
-QByteArray valueJson(const Value &value)
+QByteArray budgetJson(const QVector<BudgetRow> &budget)
+{
+    QByteArrayList rows;
+    for (const BudgetRow &row : budget) {
+        OrderedJson json;
+        json.add(QStringLiteral("source"), uncertaintySourceName(row.source));
+        json.add(QStringLiteral("standardUncertainty"), row.standardUncertainty);
+        json.add(QStringLiteral("share"), row.share);
+        rows += json.toLine();
+    }
+    return "[" + rows.join(", ") + "]";
+}
+
+void addUncertainty(OrderedJson &json, const Uncertainty &uncertainty)
+{
+    json.add(QStringLiteral("standardUncertainty"), uncertainty.standard);
+    json.add(QStringLiteral("expandedUncertainty"), uncertainty.expanded());
+    json.add(QStringLiteral("coverageFactor"), coverageFactor);
+    json.add(QStringLiteral("method"), uncertaintyMethodName(uncertainty.method));
+    if (uncertainty.interval) {
+        json.add(QStringLiteral("interval"),
+                 QJsonArray{uncertainty.interval->first, uncertainty.interval->second});
+    }
+    json.add(QStringLiteral("budget"), budgetJson(uncertainty.budget));
+    if (uncertainty.decision) {
+        json.add(QStringLiteral("decision"), decisionText(*uncertainty.decision));
+    }
+}
+
+void addInputs(OrderedJson &json, const ValueInputs &inputs)
+{
+    const auto add = [&json](const char *name, const std::optional<double> &number) {
+        if (number) {
+            json.add(QLatin1String(name), *number);
+        }
+    };
+    add("diameterMM", inputs.diameterMM);
+    add("fovYDEG", inputs.fovYDEG);
+    add("mmPerPixel", inputs.mmPerPixel);
+}
+
+QByteArray valueJson(const Value &value, const ValueInputs &inputs)
 {
     OrderedJson json;
     json.add(QStringLiteral("name"), value.name);
     json.add(QStringLiteral("number"), value.number);
     json.add(QStringLiteral("unit"), value.unit);
     json.add(QStringLiteral("text"), value.text);
+    if (value.uncertainty) {
+        json.add(QStringLiteral("textWithUncertainty"), value.fullText());
+        addUncertainty(json, *value.uncertainty);
+    }
+    addInputs(json, inputs);
     return json.toLine();
 }
 
-QByteArray valueList(const QVector<Value> &values)
+QByteArray valueList(const PictureValues &picture)
 {
     QByteArrayList texts;
-    for (const Value &value : values) {
-        texts += valueJson(value);
+    for (const Value &value : picture.values) {
+        texts += valueJson(value, picture.inputs);
     }
     return "[" + texts.join(", ") + "]";
+}
+
+QString optionalText(const std::optional<double> &number)
+{
+    return number ? numberText(*number) : QString();
+}
+
+// The columns behind the message.
+QStringList uncertaintyFields(const Value &value, const ValueInputs &inputs)
+{
+    QStringList fields;
+    if (const std::optional<Uncertainty> &known = value.uncertainty) {
+        fields = QStringList{numberText(known->standard), numberText(known->expanded()),
+                             numberText(coverageFactor), uncertaintyMethodName(known->method)};
+        fields += known->interval ? QStringList{numberText(known->interval->first),
+                                                numberText(known->interval->second)}
+                                  : QStringList{{}, {}};
+        fields += value.fullText();
+        fields += known->decision ? decisionText(*known->decision) : QString();
+    } else {
+        fields = QStringList{{}, {}, {}, {}, {}, {}, {}, {}};
+    }
+    return fields + QStringList{optionalText(inputs.diameterMM), optionalText(inputs.fovYDEG),
+                                optionalText(inputs.mmPerPixel)};
+}
+
+Status statusOf(MeasureState state)
+{
+    switch (state) {
+    case MeasureState::Measured:
+        return Status::Measured;
+    case MeasureState::NotSet:
+        return Status::NotSet;
+    default:
+        return Status::NoValue;
+    }
+}
+
+ValueInputs inputsOf(const Session &session)
+{
+    const KindInfo &info = infoOf(session.kind);
+    ValueInputs inputs;
+    if (info.has(Uses::Model)) {
+        inputs.diameterMM = session.diameterMM;
+        inputs.fovYDEG = session.fovYDEG;
+    }
+    if (info.has(Uses::Scale)) {
+        inputs.mmPerPixel = scaleOf(session);
+    }
+    return inputs;
 }
 
 QByteArray namesJson(const QVector<AlignmentField> &fields)
@@ -106,27 +204,25 @@ QString statusName(Status status)
     return QStringLiteral("failed");
 }
 
-void setMeasurement(PictureValues &picture, const Measurement &measurement)
-{
-    switch (measurement.state) {
-    case MeasureState::Measured:
-        picture.status = Status::Measured;
-        break;
-    case MeasureState::NotSet:
-        picture.status = Status::NotSet;
-        break;
-    case MeasureState::NeedsPoints:
-    case MeasureState::NoScale:
-        picture.status = Status::NoValue;
-        break;
-    }
-    picture.values = measurement.values;
-    picture.message = measurement.note;
-}
-
 AlignmentSummary alignmentSummary(const Session &session, const std::optional<AlignmentFit> &fit)
 {
     return {alignmentOf(session), session.rings.size(), session.lines.size(), fit};
+}
+
+PictureValues pictureValues(const QString &picture, const Session &session,
+                            const std::optional<AlignmentFit> &fit, UncertaintyEffort effort)
+{
+    const Measurement measurement = measureWithUncertainty(session, fit, effort);
+    PictureValues result;
+    result.picture = picture;
+    result.identity = session.picture;
+    result.kind = session.kind;
+    result.status = statusOf(measurement.state);
+    result.values = measurement.values;
+    result.inputs = inputsOf(session);
+    result.alignment = alignmentSummary(session, fit);
+    result.message = measurement.note;
+    return result;
 }
 
 QString fitText(const AlignmentSummary &summary)
@@ -165,19 +261,24 @@ QByteArray csvRecord(const QStringList &fields)
 
 QByteArray csvHeader()
 {
-    return "picture,kind,status,name,number,unit,text,message\r\n";
+    return "picture,kind,status,name,number,unit,text,message,standardUncertainty,"
+           "expandedUncertainty,coverageFactor,method,intervalLow,intervalHigh,"
+           "textWithUncertainty,decision,diameterMM,fovYDEG,mmPerPixel\r\n";
 }
 
 QByteArray csvRecords(const PictureValues &picture)
 {
     const QStringList common{picture.picture, kindName(picture), statusName(picture.status)};
     if (picture.values.isEmpty()) {
-        return csvRecord(common + QStringList{{}, {}, {}, {}, picture.message});
+        return csvRecord(common + QStringList{{}, {}, {}, {}, picture.message} +
+                         uncertaintyFields(Value(), picture.inputs));
     }
     QByteArray records;
     for (const Value &value : picture.values) {
-        records += csvRecord(common + QStringList{value.name, numberText(value.number), value.unit,
-                                                  value.text, picture.message});
+        records += csvRecord(common +
+                             QStringList{value.name, numberText(value.number), value.unit,
+                                         value.text, picture.message} +
+                             uncertaintyFields(value, picture.inputs));
     }
     return records;
 }
@@ -193,7 +294,7 @@ OrderedJson valuesJson(const PictureValues &picture)
     }
     json.add(QStringLiteral("kind"), kindName(picture));
     json.add(QStringLiteral("status"), statusName(picture.status));
-    json.add(QStringLiteral("values"), valueList(picture.values));
+    json.add(QStringLiteral("values"), valueList(picture));
     if (picture.alignment) {
         json.add(QStringLiteral("alignment"), alignmentJson(*picture.alignment));
     }

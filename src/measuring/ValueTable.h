@@ -48,6 +48,14 @@ ZALENTO_MEASURING_EXPORT AlignmentSummary alignmentSummary(const Session &sessio
 /** What a fit says, in a line: "fitted to 2 joints, rms 0.8 px, largest 1.9 px". */
 ZALENTO_MEASURING_EXPORT QString fitText(const AlignmentSummary &alignment);
 
+/** What values are measured with, where they depend on it. */
+struct ValueInputs
+{
+    std::optional<double> diameterMM;
+    std::optional<double> fovYDEG;
+    std::optional<double> mmPerPixel;
+};
+
 /** The values measured on one picture. */
 struct PictureValues
 {
@@ -56,14 +64,20 @@ struct PictureValues
     std::optional<Kind> kind; ///< nothing before it is known
     Status status = Status::Failed;
     QVector<Value> values;
+    ValueInputs inputs;
     std::optional<AlignmentSummary> alignment; ///< of the model; nothing before it is known
     QString message;                           ///< why there is no value; else empty
     QStringList written;                       ///< files
 };
 
-/** Takes over the measurement's state, values and note. */
-ZALENTO_MEASURING_EXPORT void setMeasurement(PictureValues &picture,
-                                             const Measurement &measurement);
+/**
+ * A session's values with everything that is told beside them.
+ * @param picture its path as given
+ * @param fit of the session's alignment, if it has one
+ */
+ZALENTO_MEASURING_EXPORT PictureValues pictureValues(
+    const QString &picture, const Session &session, const std::optional<AlignmentFit> &fit,
+    UncertaintyEffort effort = UncertaintyEffort::Checked);
 
 /** The first record of a table, with the names of its columns. */
 ZALENTO_MEASURING_EXPORT QByteArray csvHeader();

@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 
 namespace Drevon::Zalento::Test {
 
@@ -32,7 +33,7 @@ inline Run runProgram(const QStringList &arguments, const QByteArray &list = {})
 /** Words separated by blanks. */
 inline QStringList words(const char *line)
 {
-    return QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return QProcess::splitCommand(QString::fromUtf8(line));
 }
 
 /** The values of a result in JSON. */

@@ -72,6 +72,13 @@ void TestCommandLine::refusesWrongUsage_data()
         "takes no --laser");
     row("bend beyond 90 degrees", "measure --kind BendAngle --angle 95 a", "from 0 to 90");
     row("branch below 30 degrees", "measure --kind BranchAngle --angle 29 a", "from 30 to 150");
+    row("ring of two", "measure --ring \"1,2 3,4\" a", "--ring: expected three points or more");
+    row("ring with a bad distance", "measure --ring \"1,2 3,4 5,6 @x\" a", "--ring: expected");
+    row("line of one", "measure --line 1,2 a", "--line: expected two points or more");
+    row("ring of a crack", "measure --kind CrackWidth --ring \"1,2 3,4 5,6\" a", "takes no --ring");
+    row("mouth too small", "measure --mouth 4 a", "--mouth: expected a number from 5 to 400");
+    row("negative uncertainty", "measure --click-sd -1 a", "--click-sd: expected a number from 0");
+    row("limit without a unit", "measure --limit <2 a", "--limit: expected a limit such as");
     row("session and none", "measure --session s --no-session a", "contradict");
     row("empty session", "measure --session= a", "--session is empty");
     row("format of files", "render --format csv a", "it takes no --format");

@@ -52,12 +52,16 @@ QStringList alignment(const QJsonObject &truth)
             "--camera-height", number(camera["heightPercent"])};
 }
 
-// NaN when there is no value.
-double measuredNumber(const QStringList &arguments)
+// The first value; its number is NaN when there is none.
+QJsonObject measuredValue(const QStringList &arguments)
 {
     const QStringList command = words("measure --format jsonl");
-    const QJsonArray values = valuesOf(runProgram(command + arguments).output);
-    return values.isEmpty() ? qQNaN() : values[0].toObject()["number"].toDouble();
+    return valuesOf(runProgram(command + arguments).output)[0].toObject();
+}
+
+double measuredNumber(const QStringList &arguments)
+{
+    return measuredValue(arguments)["number"].toDouble(qQNaN());
 }
 
 // Clicks of joints are rounded to half a pixel: of a length 0.3 % are left.
@@ -252,8 +256,12 @@ void TestSamples::sessionsMeasureTheTruth()
              QCryptographicHash::hash(readBytes(picture), QCryptographicHash::Sha256).toHex());
     // Angles and levels are set, the others clicked.
     const double limit = session->points.isEmpty() ? 0.0 : clickTolerance * expected;
-    const double value = measuredNumber({"--session", sessionPathOf(picture)});
-    QVERIFY(std::abs(value - expected) <= limit);
+    const QJsonObject value = measuredValue({"--session", sessionPathOf(picture)});
+    const double error = std::abs(value["number"].toDouble(qQNaN()) - expected);
+    QVERIFY(error <= limit);
+    // The operator's clicks were good: the uncertainty says more, but not out of proportion.
+    const double expanded = value["expandedUncertainty"].toDouble();
+    QVERIFY(error < expanded && expanded < 0.45 * expected);
 }
 
 QTEST_MAIN(TestSamples)

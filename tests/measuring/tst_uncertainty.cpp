@@ -391,7 +391,8 @@ void TestUncertainty::isTold()
     QFETCH(double, number);
     QFETCH(double, expanded);
     QFETCH(QString, told);
-    QCOMPARE(textWithUncertainty({QStringLiteral("value"), number, unit, text}, expanded), told);
+    const Value value{QStringLiteral("value"), number, unit, text, {}};
+    QCOMPARE(textWithUncertainty(value, expanded), told);
 }
 
 void TestUncertainty::limitsDecide_data()

@@ -82,6 +82,20 @@ Item {
         enabled: Viewer.documents.hasPicture && !Viewer.editor.isSet
         onTriggered: Viewer.editor.confirm()
     }
+    readonly property Command measureAgain: Command {
+        text: qsTr("Measure again")
+        hint: qsTr("Keep the value, and measure once more")
+        shortcut: "R"
+        enabled: Viewer.assessment.canMeasureAgain
+        onTriggered: Viewer.editor.measureAgain()
+    }
+    readonly property Command map: Command {
+        text: qsTr("Map")
+        hint: qsTr("Map of what a pixel is worth; again: of the uncertainty")
+        shortcut: "M"
+        enabled: Viewer.editor.hasModel
+        onTriggered: Viewer.assessment.showNextMap()
+    }
     readonly property Command unit: Command {
         text: Viewer.editor.isImperial ? qsTr("in") : qsTr("mm")
         hint: Viewer.editor.isImperial ? qsTr("Imperial units; switch to metric")
@@ -124,7 +138,7 @@ Item {
 
     // In the order of the list of keys; the kinds follow, under their numbers.
     readonly property var all: [open, save, copy, previous, next, undo, redo, giveUp, dropLastPoint,
-                                confirm, unit, zoomIn, zoomOut, fit, actualSize, keys]
+                                confirm, measureAgain, unit, map, zoomIn, zoomOut, fit, actualSize, keys]
     // What the list of keys says: [keys, text].
     readonly property var keyRows: {
         const rows = all.map(command => [command.keyText, command.hint])

@@ -104,6 +104,17 @@ FocusScope {
         smooth: stageView.scale < 3
         mipmap: true
     }
+    Image {
+        objectName: "map"
+        x: stageView.offset.x
+        y: stageView.offset.y
+        width: Viewer.documents.pictureSize.width * stageView.scale
+        height: Viewer.documents.pictureSize.height * stageView.scale
+        visible: Viewer.assessment.map > 0 && !stage.isOverlayHidden
+        source: Viewer.assessment.mapSource
+        cache: false
+        asynchronous: false
+    }
     // As large as the picture, so that its pixels are the picture's; OverlayView shows it.
     ZaItem {
         id: item
@@ -130,6 +141,19 @@ FocusScope {
             visible: !stage.isOverlayHidden
             isSelected: index === Viewer.editor.selectedPoint
             number: index + 1
+        }
+    }
+    // Where the selected point may lie: dots on an ellipse.
+    Repeater {
+        model: Viewer.assessment.ellipse
+        Rectangle {
+            x: modelData.x * stageView.scale + stageView.offset.x - 1
+            y: modelData.y * stageView.scale + stageView.offset.y - 1
+            width: 3
+            height: 3
+            radius: 1.5
+            color: Theme.warning
+            visible: !stage.isOverlayHidden
         }
     }
     Repeater {
@@ -251,6 +275,9 @@ FocusScope {
                 border { width: 1; color: "black" }
             }
         }
+    }
+    MapLegend {
+        anchors { left: parent.left; bottom: parent.bottom; margins: 10 }
     }
     Loupe {
         id: loupe

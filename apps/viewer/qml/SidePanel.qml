@@ -67,6 +67,10 @@ Rectangle {
             y: 6
             width: parent.width - 2 * Theme.gap - 6
             spacing: 6
+            AssessmentPanel {
+                width: parent.width
+                commands: panel.commands
+            }
             KindPanel {
                 width: parent.width
                 onCalibrationRequested: panel.calibrationRequested()

@@ -15,6 +15,11 @@ QtObject {
     readonly property color warning: "#ffc061"
     readonly property color error: "#ff7a70"
 
+    // Of the sources of uncertainty, in their order; told apart by all kinds of sight (M. Okabe and
+    // K. Ito, 2008).
+    readonly property var sources: ["#56b4e9", "#0072b2", "#e69f00", "#009e73", "#f0e442",
+                                    "#d55e00", "#cc79a7", "#a0a0a0"]
+
     // The smallest side of anything that a finger is to hit.
     readonly property int touch: 46
     readonly property int gap: 8

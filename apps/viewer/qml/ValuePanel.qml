@@ -8,14 +8,14 @@ Item {
     property bool isLow: false
     required property var commands
 
-    height: isLow ? 80 : 92
+    height: isLow ? 124 : 148
 
     Text {
         id: label
         objectName: "valueText"
-        anchors { left: parent.left; leftMargin: 14; right: keys.left; rightMargin: 6 }
-        y: panel.isLow ? 4 : 8
-        height: 50
+        anchors { left: parent.left; leftMargin: 14; right: parent.right; rightMargin: 14 }
+        y: panel.isLow ? 2 : 6
+        height: panel.isLow ? 42 : 48
         verticalAlignment: Text.AlignVCenter
         text: Viewer.editor.value || lack
         readonly property string lack: {
@@ -38,7 +38,9 @@ Item {
     }
     Text {
         objectName: "secondValueText"
-        anchors { left: label.left; right: label.right; top: label.bottom }
+        anchors { left: label.left; right: keys.left; rightMargin: 6; verticalCenter: keys.verticalCenter }
+        wrapMode: Text.WordWrap
+        maximumLineCount: 2
         text: Viewer.editor.secondValue
               ? Viewer.editor.secondValue + shareOf
               : [Viewer.editor.valueNote, scale].filter(part => part).join(", ")
@@ -51,10 +53,14 @@ Item {
         readonly property string scale: Viewer.editor.usesScale && Viewer.editor.hasScale
                                         ? Viewer.editor.scaleText : ""
     }
+    BudgetBar {
+        anchors { left: label.left; right: label.right; top: keys.bottom; topMargin: 4 }
+        height: panel.height - y
+        isLow: panel.isLow
+    }
     Row {
         id: keys
-        anchors { right: parent.right; rightMargin: Theme.gap }
-        y: label.y + 2
+        anchors { right: parent.right; rightMargin: Theme.gap; top: label.bottom }
         spacing: 6
         ToolKey {
             objectName: "confirmKey"

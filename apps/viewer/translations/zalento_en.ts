@@ -10,6 +10,13 @@
     </message>
 </context>
 <context>
+    <name>Drevon::Zalento::Assessment</name>
+    <message numerus="yes">
+        <source>%n result(s) kept</source>
+        <translation><numerusform>%n result kept</numerusform><numerusform>%n results kept</numerusform></translation>
+    </message>
+</context>
+<context>
     <name>Drevon::Zalento::DocumentList</name>
     <message numerus="yes">
         <source>%n point(s) of the session meet no wall and were left out.</source>
