@@ -94,6 +94,35 @@ def picture_rows(programs):
         yield [f"{count:,}", entry["pictures_per_s"], count / entry["cpu_s"], entry["peak_MB"]]
 
 
+FIELDS = ("offset", "cameraHeightPercent", "rearCircleX", "rearCircleY", "mouthPercent", "fovYDEG")
+
+
+def trials(results, prefix):
+    """The counters of runs of simulated operators, by the rest of their names."""
+    return {
+        name[len(prefix):].split("/")[0]: entry for name, entry in results.items() if name.startswith(prefix)
+    }
+
+
+def fit_rows(results):
+    for name, entry in trials(results, "alignment/truth/").items():
+        ratios = [entry[f"e/u {field}"] for field in FIELDS]
+        time = results[f"alignment/time/{name}"]["cpu_time"]
+        yield [name, entry["fitted%"], entry["length%"], *(f"{r:.2f}" if r else "" for r in ratios), time]
+
+
+def uncertainty_rows(results):
+    for name, entry in trials(results, "uncertainty/truth/").items():
+        yield [name, f"{entry['covered%']:.1f}", f"{entry['e/u']:.2f}", entry["first-order%"],
+               entry["agreeing%"], entry["U%"]]
+
+
+def uncertainty_times(results):
+    for title, key in (("first order", "first-order"), ("first order, checked", "checked"),
+                       ("10,000 draws", "monte-carlo"), ("map of 240 pixels' width", "map")):
+        yield [title, results[f"uncertainty/time/{key}"]["cpu_time"]]
+
+
 def main():
     folder = Path(sys.argv[1])
     paints = benchmarks(folder, "bench_paint")
@@ -117,6 +146,20 @@ def main():
          "click (µs)", "nearest point (µs)", "program, cpu (s)", "peak (MB)"],
         growth_rows(paints, benchmarks(folder, "bench_clicks"), programs),
     )
+    table(
+        "Alignment from clicks, 1,000 operators each",
+        ["clicks", "fitted (%)", "median error of a length (%)", *(f"e/u {field}" for field in FIELDS),
+         "a fit (ms)"],
+        fit_rows(benchmarks(folder, "bench_alignmentfit")),
+    )
+    uncertainty = benchmarks(folder, "bench_uncertainty")
+    table(
+        "Uncertainty, 1,000 operators each",
+        ["measured, aligned by", "covered (%)", "error over u", "first order holds (%)",
+         "of these agreeing (%)", "median U (%)"],
+        uncertainty_rows(uncertainty),
+    )
+    table("Uncertainty of a line of ten points", ["", "ms"], uncertainty_times(uncertainty))
     table("Programs", ["program", "ms", "processor (ms)", "peak (MB)"], program_rows(programs))
     table(
         "Growth with the number of pictures",

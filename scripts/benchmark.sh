@@ -95,7 +95,8 @@ count_instructions() {
     rm -f "$results"/callgrind*
 }
 
-for program in bench_paint bench_clicks bench_picking bench_lateral bench_correction bench_curve bench_math; do
+for program in bench_paint bench_clicks bench_picking bench_lateral bench_correction bench_curve bench_math \
+    bench_alignmentfit bench_uncertainty; do
     run_benchmark "$program"
 done
 if ! is_current "$results/instructions.json" "$programs/count_paint" "$library"; then

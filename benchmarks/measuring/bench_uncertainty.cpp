@@ -4,6 +4,7 @@
 #include "support/require.h"
 
 #include "measuring/Editing.h"
+#include "measuring/Measurement.h"
 #include "measuring/PlaceUncertainty.h"
 #include "measuring/SessionFit.h"
 #include "measuring/Uncertainty.h"

@@ -212,20 +212,23 @@ bool allHold(const Propagation &given, const QVector<std::optional<Uncertainty>>
     return true;
 }
 
-void decide(const QVector<Value> &values, const Limit &limit, const Eigen::MatrixXd &draws,
-            QVector<std::optional<Uncertainty>> &results)
+Decision decisionOn(double limit, double value, const Uncertainty &uncertainty,
+                    const std::optional<Sample> &sample)
 {
-    for (int i = 0; i < results.size(); ++i) {
-        if (!results[i] || values[i].unit != limit.unit) {
-            continue;
-        }
-        Uncertainty &result = *results[i];
-        const bool isDrawn = result.method == UncertaintyMethod::MonteCarlo;
-        const double below =
-            isDrawn ? Sample(draws.row(i)).shareBelow(limit.number)
-                    : normalShareBelow(limit.number, values[i].number, result.standard);
-        result.decision = decisionFor(below);
+    return decisionFor(sample ? sample->shareBelow(limit)
+                              : normalShareBelow(limit, value, uncertainty.standard));
+}
+
+// One value's uncertainty; drawn where there is a sample.
+std::optional<Uncertainty> finished(const std::optional<Uncertainty> &first,
+                                    const std::optional<Sample> &sample, const Value &value,
+                                    const std::optional<Limit> &limit)
+{
+    std::optional<Uncertainty> result = sample ? monteCarlo(first, *sample) : first;
+    if (result && limit && limit->unit == value.unit) {
+        result->decision = decisionOn(limit->number, value.number, *result, sample);
     }
+    return result;
 }
 
 QVector<std::optional<Uncertainty>> propagated(const Propagation &given, UncertaintyEffort effort,
@@ -233,18 +236,17 @@ QVector<std::optional<Uncertainty>> propagated(const Propagation &given, Uncerta
                                                const std::optional<Limit> &limit)
 {
     const Eigen::MatrixXd effects = effectsOf(given);
-    QVector<std::optional<Uncertainty>> results;
+    QVector<std::optional<Uncertainty>> first;
     for (Eigen::Index i = 0; i < given.values.size(); ++i) {
-        results += firstOrder(given, effects.row(i));
+        first += firstOrder(given, effects.row(i));
     }
     const bool isDrawn = effort == UncertaintyEffort::MonteCarlo ||
-                         (effort == UncertaintyEffort::Checked && !allHold(given, results));
+                         (effort == UncertaintyEffort::Checked && !allHold(given, first));
     const Eigen::MatrixXd draws = isDrawn ? drawnValues(given, fullDraws) : Eigen::MatrixXd();
-    for (int i = 0; isDrawn && i < results.size(); ++i) {
-        results[i] = monteCarlo(results[i], Sample(draws.row(i)));
-    }
-    if (limit) {
-        decide(values, *limit, draws, results);
+    QVector<std::optional<Uncertainty>> results;
+    for (int i = 0; i < first.size(); ++i) {
+        const auto sample = isDrawn ? std::optional<Sample>(draws.row(i)) : std::nullopt;
+        results += finished(first.at(i), sample, values.at(i), limit);
     }
     return results;
 }
