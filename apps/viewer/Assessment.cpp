@@ -3,7 +3,6 @@
 #include "PictureProvider.h"
 
 #include "measuring/PlaceUncertainty.h"
-#include "measuring/Repeats.h"
 #include "measuring/UncertaintyText.h"
 
 #include <QColor>
@@ -72,7 +71,7 @@ QString adviceFor(Measuring::UncertaintySource source, bool isFitted)
 
 QString millimetres(double mm)
 {
-    return Measuring::uncertaintyText({{}, mm, QStringLiteral("mm"), QStringLiteral(" mm"), {}},
+    return Measuring::uncertaintyText({{}, mm, QStringLiteral("mm"), QStringLiteral(" mm"), {}, {}},
                                       mm);
 }
 
@@ -185,7 +184,7 @@ QString Assessment::repeats() const
     if (values.isEmpty()) {
         return kept > 0 ? tr("%n result(s) kept", nullptr, kept) : QString();
     }
-    const auto statistics = Measuring::repeatStatistics(*m_editor.session(), values.first());
+    const auto &statistics = values.first().repeats;
     if (!statistics) {
         return {};
     }

@@ -2,6 +2,7 @@
 
 #include "measuring/Editing.h"
 #include "measuring/PipeView.h"
+#include "measuring/Repeats.h"
 #include "measuring/UncertaintyText.h"
 
 #include "zalento/geometry/Cylinder.h"
@@ -51,7 +52,7 @@ Value named(const char *name, const MeasuredValue &value, MeasureUnit unit)
 {
     const double number =
         value.quantity == Quantity::Fraction ? value.number * percentPerOne : value.number;
-    return {QLatin1String(name), number, unitOf(value.quantity), valueText(value, unit), {}};
+    return {QLatin1String(name), number, unitOf(value.quantity), valueText(value, unit), {}, {}};
 }
 
 Measurement waterLevel(const Session &session)
@@ -61,6 +62,7 @@ Measurement waterLevel(const Session &session)
                       fraction * percentPerOne,
                       QStringLiteral("%"),
                       waterLevelText(fraction),
+                      {},
                       {}}});
 }
 
@@ -148,7 +150,9 @@ Measurement measureWithUncertainty(const Session &session, const std::optional<A
     Measurement measurement = measure(session);
     const auto uncertainties = uncertaintiesOf(session, fit, effort);
     for (int i = 0; i < uncertainties.size(); ++i) {
-        measurement.values[i].uncertainty = uncertainties[i];
+        Value &value = measurement.values[i];
+        value.uncertainty = uncertainties[i];
+        value.repeats = repeatStatistics(session, value);
     }
     return measurement;
 }

@@ -12,6 +12,15 @@
 
 namespace Drevon::Zalento::Measuring {
 
+/** What the results of a measurement that was repeated say of it (JCGM 100, 4.2). */
+struct RepeatStatistics
+{
+    int count = 0;
+    double mean = 0.0;
+    double standardDeviation = 0.0; ///< of one result
+    double standardDeviationOfMean = 0.0;
+};
+
 /** A measured value. */
 struct Value
 {
@@ -21,6 +30,8 @@ struct Value
     QString text;        ///< as the overlay shows it, in the session's unit
     /** Filled by measureWithUncertainty(); nothing where it has no number. */
     std::optional<Uncertainty> uncertainty;
+    /** Filled likewise, with the results that the session kept; nothing for fewer than two. */
+    std::optional<RepeatStatistics> repeats;
 
     /** The text with the expanded uncertainty, where there is one. */
     ZALENTO_MEASURING_EXPORT QString fullText() const;

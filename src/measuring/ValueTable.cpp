@@ -43,6 +43,16 @@ void addUncertainty(OrderedJson &json, const Uncertainty &uncertainty)
     }
 }
 
+QByteArray repeatsJson(const RepeatStatistics &repeats)
+{
+    OrderedJson json;
+    json.add(QStringLiteral("count"), repeats.count);
+    json.add(QStringLiteral("mean"), repeats.mean);
+    json.add(QStringLiteral("standardDeviation"), repeats.standardDeviation);
+    json.add(QStringLiteral("standardDeviationOfMean"), repeats.standardDeviationOfMean);
+    return json.toLine();
+}
+
 void addInputs(OrderedJson &json, const ValueInputs &inputs)
 {
     const auto add = [&json](const char *name, const std::optional<double> &number) {
@@ -65,6 +75,9 @@ QByteArray valueJson(const Value &value, const ValueInputs &inputs)
     if (value.uncertainty) {
         json.add(QStringLiteral("textWithUncertainty"), value.fullText());
         addUncertainty(json, *value.uncertainty);
+    }
+    if (value.repeats) {
+        json.add(QStringLiteral("repeats"), repeatsJson(*value.repeats));
     }
     addInputs(json, inputs);
     return json.toLine();

@@ -5,6 +5,7 @@
 #include "measuring/Editing.h"
 #include "measuring/MatchedCurve.h"
 #include "measuring/Measurement.h"
+#include "measuring/PlaceUncertainty.h"
 #include "measuring/Repeats.h"
 #include "measuring/Replay.h"
 #include "measuring/SessionFit.h"
@@ -124,6 +125,7 @@ private slots:
     void sourcesAddUp();
     void settingsErrByWhatTheEyeLetsPass();
     void drawsTakeOverWhereTheFirstOrderFails();
+    void placesAreWorthTheirPixels();
     void operatorsAreCovered_data();
     void operatorsAreCovered();
     void isTold_data();
@@ -328,6 +330,49 @@ void TestUncertainty::drawsTakeOverWhereTheFirstOrderFails()
     QVERIFY(deep.interval->second - length > 1.2 * (length - deep.interval->first));
 }
 
+// On the axis the wall is seen at r = f R / d pixels from the middle for a place d before the eye:
+// a pixel there is worth d^2 / (f R) along the pipe and d / f around it.
+void TestUncertainty::placesAreWorthTheirPixels()
+{
+    Session session;
+    session.picture.size = QSize(600, 600);
+    session.fovYDEG = 60.0;
+    StandardUncertainties &known = session.standardUncertainties;
+    known.clickPX = 2.0;
+    known.alignmentPX = known.fovDEG = known.diameterMM = 0.0;
+    const double focalPX = 300 * std::sqrt(3.0);
+    const double r = 200.0;
+    const double d = focalPX * 150 / r;
+    const double alongMM = d * d / (focalPX * 150);
+    const double expandedPX = 2 * std::sqrt(2.0 * 2.0 + 1.0 / 12);
+
+    const PlaceUncertainty places(session, {});
+    const auto place = places.at(QPointF(300, 300 - r));
+    const Tolerance tolerance{1e-3, "mm"};
+    COMPARE_NEAR(place->mmPerPixel, alongMM, tolerance);
+    COMPARE_NEAR(place->alongMM, expandedPX * alongMM, tolerance);
+    COMPARE_NEAR(place->aroundMM, expandedPX * d / focalPX, tolerance);
+    COMPARE_NEAR(place->largestMM, place->alongMM, tolerance);
+    QVERIFY(!places.at(QPointF(300, 297))); // beyond the modelled pipe
+    // In the picture the ellipse is a circle around the click.
+    const QRectF ellipse = places.ellipse(QPointF(300, 300 - r)).boundingRect();
+    COMPARE_NEAR(ellipse.width() / (2.4477 * expandedPX), 1.0, (Tolerance{0.01, ""}));
+    COMPARE_NEAR(ellipse.height() / (2.4477 * expandedPX), 1.0, (Tolerance{0.05, ""}));
+
+    const QImage map = wallMap(session, {}, MapQuantity::Scale, 300);
+    QCOMPARE(map.size(), QSize(300, 300));
+    QCOMPARE(qAlpha(map.pixel(150, 150)), 0);
+    const auto colourFor = [](double mm) {
+        const auto &steps = mapSteps();
+        return std::find_if(steps.begin(), steps.end(),
+                            [mm](const MapStep &s) { return mm <= s.upToMM; })
+                   ->colour &
+               RGB_MASK;
+    };
+    QCOMPARE(map.pixel(150, 50) & RGB_MASK, colourFor(alongMM));
+    QCOMPARE(map.pixel(150, 120) & RGB_MASK, colourFor(alongMM * 11.5));
+}
+
 void TestUncertainty::operatorsAreCovered_data()
 {
     QTest::addColumn<Task>("task");
@@ -391,7 +436,7 @@ void TestUncertainty::isTold()
     QFETCH(double, number);
     QFETCH(double, expanded);
     QFETCH(QString, told);
-    const Value value{QStringLiteral("value"), number, unit, text, {}};
+    const Value value{QStringLiteral("value"), number, unit, text, {}, {}};
     QCOMPARE(textWithUncertainty(value, expanded), told);
 }
 
@@ -453,8 +498,8 @@ void TestUncertainty::repeatsAreKept()
             QVERIFY(!measureAgain(session)); // nothing is measured now
         }
     }
-    const Value last = measure(session).values.first();
-    const auto statistics = repeatStatistics(session, last);
+    const Value last = measureWithUncertainty(session, {}).values.first();
+    const auto statistics = last.repeats;
     const double unit = last.number / 1.2;
     QCOMPARE(statistics->count, 3);
     const Tolerance tolerance{1e-9, "mm"};

@@ -84,6 +84,7 @@ private slots:
     void recordSetsTheDiameter();
     void overlayHidesWhileHeld();
     void jointsAlignTheModel();
+    void valuesAreAssessed();
 };
 
 void TestViewer::measures_data()
@@ -621,6 +622,49 @@ void TestViewer::jointsAlignTheModel()
         d.editor.undo();
     }
     QVERIFY(*d.editor.session() == start);
+}
+
+// A limit, a map, and the same once more.
+void TestViewer::valuesAreAssessed()
+{
+    ViewerDriver d;
+    d.openSample("dimension.jpg");
+    const auto ends = truePixels("dimension", "dimensions.0.clicks");
+    const auto measureOnce = [&] {
+        for (const QPointF &end : ends) {
+            d.click(end.x(), end.y());
+        }
+    };
+    Assessment &assessment = *d.viewer.assessment();
+    QVERIFY(assessment.budget().isEmpty() && !assessment.canMeasureAgain());
+    measureOnce();
+    QVERIFY(d.editor.value().contains(" ± "));
+    QVERIFY(!assessment.ellipse().isEmpty() && assessment.pointText().contains("around"));
+    double shares = 0.0;
+    for (const QVariant &row : assessment.budget()) {
+        shares += row.toMap()["share"].toDouble();
+    }
+    QVERIFY(std::abs(shares - 1.0) < 1e-9);
+    QVERIFY(!d.text("adviceText").isEmpty());
+
+    QVERIFY(!assessment.setLimit("about a metre").isEmpty());
+    QVERIFY(d.editor.session()->limit.isEmpty());
+    QCOMPARE(assessment.setLimit("> 1 mm"), QString());
+    QCOMPARE(d.text("decisionText"), QString("above the limit"));
+
+    d.key(Qt::Key_R);
+    QVERIFY(d.editor.value().isEmpty() && d.editor.points()->count() == 0);
+    QCOMPARE(d.text("repeatsText"), QString("1 result kept"));
+    measureOnce();
+    QVERIFY2(assessment.repeats().startsWith("2 results: mean"), qPrintable(assessment.repeats()));
+
+    d.key(Qt::Key_M);
+    QCOMPARE(assessment.map(), int(Assessment::ScaleMap));
+    d.key(Qt::Key_M);
+    QVERIFY(d.find("map")->isVisible());
+    d.screenshot("map");
+    d.key(Qt::Key_1); // a crack has no pipe
+    QCOMPARE(assessment.map(), int(Assessment::NoMap));
 }
 
 } // namespace Drevon::Zalento::Test
