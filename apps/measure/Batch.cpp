@@ -9,6 +9,7 @@
 #include "measuring/Replay.h"
 #include "measuring/SessionFile.h"
 #include "measuring/SessionFit.h"
+#include "measuring/UnrollExport.h"
 
 #include "zalento/geometry/Cylinder.h"
 
@@ -252,6 +253,9 @@ Outcome Batch::measureSession(const Session *start, Work &work)
         return problem;
     }
     tellValues(work);
+    if (m_command.verb == Verb::Unroll) {
+        return unroll(work);
+    }
     writeFiles(work);
     return {};
 }
@@ -386,6 +390,23 @@ void Batch::writeFiles(Work &work)
     if (m_command.savesSession) {
         saveSessionOf(work);
     }
+}
+
+Outcome Batch::unroll(Work &work)
+{
+    UnrollRange range = Unrolling::defaultRange(work.session);
+    range.mmPerPixel = m_command.unrollMMPerPixel.value_or(range.mmPerPixel);
+    range.fromMM = m_command.unrollFromMM.value_or(range.fromMM);
+    range.toMM = m_command.unrollToMM.value_or(range.toMM);
+    const Result<Unrolling> unrolling = Unrolling::of(work.session, range);
+    if (!unrolling) {
+        work.result.values.status = Status::Failed;
+        return unrolling.problem();
+    }
+    const QImage flat = unrolling->flattened(work.picture.image);
+    write(unrolledPathOf(work.result.values.picture, m_command.outputFolder),
+          pngBytes(m_command.unrollsPlain ? flat : withAxes(*unrolling, flat)), work.result);
+    return {};
 }
 
 void Batch::writeMap(Work &work)

@@ -50,6 +50,7 @@ private:
     void tellValues(Work &work) const;
     void writeFiles(Work &work);
     void writeMap(Work &work);
+    Outcome unroll(Work &work);
     void write(const QString &path, const QByteArray &content, PictureResult &result);
     void note(const Outcome &problem, const QString &path, PictureResult &result) const;
     bool isFreeToWrite(const QString &path, PictureResult &result);

@@ -37,6 +37,9 @@ void addOptions(QCommandLineParser &parser)
     addValue(parser, "output", "Folder for written files; made when missing.", "DIR");
     addFlag(parser, "monte-carlo",
             "Finds every uncertainty with 10,000 draws, not only where it is needed.");
+    addValue(parser, "from", "Of unroll: distance from the mouth in mm where it begins.", "MM");
+    addValue(parser, "to", "Of unroll: distance from the mouth in mm where it ends.", "MM");
+    addFlag(parser, "plain", "Of unroll: the wall alone, without axes.");
     addFlag(parser, "force", "Writes over existing files.");
     parser.addOption(QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")},
                                         QStringLiteral("Prints this help.")));
@@ -68,6 +71,9 @@ std::optional<Verb> verbNamed(const QString &name)
     if (name == QLatin1String("render")) {
         return Verb::Render;
     }
+    if (name == QLatin1String("unroll")) {
+        return Verb::Unroll;
+    }
     if (name == QLatin1String("kinds")) {
         return Verb::Kinds;
     }
@@ -94,11 +100,11 @@ std::optional<Format> formatNamed(const QString &name)
 QString readVerb(const QStringList &positional, CommandLine &command)
 {
     if (positional.isEmpty()) {
-        return QStringLiteral("a verb is missing: measure, render or kinds");
+        return QStringLiteral("a verb is missing: measure, render, unroll or kinds");
     }
     const std::optional<Verb> verb = verbNamed(positional.first());
     if (!verb) {
-        return QStringLiteral("unknown verb \"%1\": expected measure, render or kinds")
+        return QStringLiteral("unknown verb \"%1\": expected measure, render, unroll or kinds")
             .arg(positional.first());
     }
     command.verb = *verb;
@@ -150,7 +156,7 @@ QString readMap(const QCommandLineParser &parser, CommandLine &command)
 // Every value option but --click means one thing.
 QString repeatedOption(const QCommandLineParser &parser)
 {
-    for (const char *name : {"session", "format", "overlay", "map", "output"}) {
+    for (const char *name : {"session", "format", "overlay", "map", "from", "to", "output"}) {
         if (parser.values(QLatin1String(name)).size() > 1) {
             return QStringLiteral("--%1 is given more than once").arg(QLatin1String(name));
         }
@@ -168,6 +174,32 @@ void readFlagsAndFiles(const QCommandLineParser &parser, CommandLine &command)
     command.sessionFile = parser.value(QStringLiteral("session"));
     command.calibrationFile = parser.value(QStringLiteral("calibration"));
     command.outputFolder = parser.value(QStringLiteral("output"));
+}
+
+// The scale of a flat picture is none of the session's.
+QString readUnroll(const QCommandLineParser &parser, CommandLine &command)
+{
+    if (command.verb != Verb::Unroll) {
+        for (const char *name : {"from", "to", "plain"}) {
+            if (parser.isSet(QLatin1String(name))) {
+                return QStringLiteral("--%1 belongs to unroll").arg(QLatin1String(name));
+            }
+        }
+        return {};
+    }
+    command.unrollMMPerPixel = command.session.mmPerPixel;
+    command.session.mmPerPixel.reset();
+    command.unrollsPlain = parser.isSet(QStringLiteral("plain"));
+    const Result<std::optional<double>> from = readDistance(parser, "from");
+    const Result<std::optional<double>> to = readDistance(parser, "to");
+    for (const auto *distance : {&from, &to}) {
+        if (!*distance) {
+            return distance->problem().text();
+        }
+    }
+    command.unrollFromMM = *from;
+    command.unrollToMM = *to;
+    return {};
 }
 
 QString emptyValue(const QCommandLineParser &parser)
@@ -199,11 +231,14 @@ QString contradiction(const QCommandLineParser &parser, const CommandLine &comma
     if (command.ignoresSessions && !command.sessionFile.isEmpty()) {
         return QStringLiteral("--session and --no-session contradict each other");
     }
-    if (command.verb == Verb::Render && parser.isSet(QStringLiteral("format"))) {
-        return QStringLiteral("render prints no values: it takes no --format");
+    const bool prints = command.verb == Verb::Measure;
+    if (!prints && parser.isSet(QStringLiteral("format"))) {
+        return QStringLiteral("%1 prints no values: it takes no --format")
+            .arg(command.verb == Verb::Render ? QStringLiteral("render")
+                                              : QStringLiteral("unroll"));
     }
-    const bool writes =
-        command.writesPng || command.writesSvg || command.map || command.savesSession;
+    const bool writes = command.verb == Verb::Unroll || command.writesPng || command.writesSvg ||
+                        command.map || command.savesSession;
     if (!command.outputFolder.isEmpty() && !writes) {
         return QStringLiteral(
             "--output needs something to write: --overlay, --map or --save-session");
@@ -233,7 +268,8 @@ QString readCommand(const QCommandLineParser &parser, CommandLine &command)
         return session.problem().text();
     }
     command.session = *session;
-    return contradiction(parser, command);
+    problem = readUnroll(parser, command);
+    return problem.isEmpty() ? contradiction(parser, command) : problem;
 }
 
 } // namespace

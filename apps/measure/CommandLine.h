@@ -14,6 +14,7 @@ namespace Drevon::Zalento::Apps {
 enum class Verb {
     Measure, ///< values, and files when asked for
     Render,  ///< files only
+    Unroll,  ///< the wall as a flat picture
     Kinds,   ///< lists what can be measured
 };
 
@@ -34,6 +35,10 @@ struct CommandLine
     bool writesPng = false;
     bool writesSvg = false;
     std::optional<MapQuantity> map;
+    std::optional<double> unrollMMPerPixel; ///< of the flat picture
+    std::optional<double> unrollFromMM;
+    std::optional<double> unrollToMM;
+    bool unrollsPlain = false; ///< without axes
     bool savesSession = false;
     QString outputFolder; ///< empty: beside each picture
     bool overwrites = false;

@@ -9,6 +9,7 @@ const char *const introduction = R"(Usage:
   zalento-measure measure [options] PICTURE|SESSION|FOLDER|- ...
   zalento-measure measure [options] --session FILE
   zalento-measure render  [options] PICTURE|SESSION|FOLDER|- ...
+  zalento-measure unroll  [options] PICTURE|SESSION|FOLDER|- ...
   zalento-measure kinds   [--format NAME]
 
 Measures on pictures from inside pipes, without a display.
@@ -16,6 +17,8 @@ Measures on pictures from inside pipes, without a display.
 Verbs:
   measure  Prints the measured values; --overlay and --save-session write files, too.
   render   Writes the picture with the overlay (--overlay png unless said otherwise).
+  unroll   Writes the pipe's wall as a flat picture to scale, <stem>.unrolled.png: --from and --to are
+           distances from the mouth, --mm-per-pixel is its scale. Of the kind CrossSection the plane.
   kinds    Lists what can be measured, and the options that each kind takes.
 
 Pictures:

@@ -167,7 +167,7 @@ void tell(const PictureResult &result, bool isRender, Console &console)
 void measureAll(const CommandLine &command, const std::optional<Session> &session,
                 const QVector<PictureRequest> &requests, Console &console)
 {
-    const bool isRender = command.verb == Verb::Render;
+    const bool isRender = command.verb != Verb::Measure;
     const Report report(command.format);
     Batch batch(command, session);
     int count = 0;

@@ -2,6 +2,7 @@
 
 #include "measuring/Editing.h"
 #include "measuring/Limit.h"
+#include "measuring/Unrolling.h"
 
 #include <QStringList>
 
@@ -539,6 +540,15 @@ Result<SessionOptions> readSessionOptions(const QCommandLineParser &parser)
     }
     return reader.problem() ? Result<SessionOptions>(*reader.problem())
                             : Result<SessionOptions>(options);
+}
+
+Result<std::optional<double>> readDistance(const QCommandLineParser &parser, const char *option)
+{
+    OptionReader reader(parser);
+    const std::optional<double> distance =
+        reader.number(option, -largestUnrollDistanceMM, largestUnrollDistanceMM);
+    return reader.problem() ? Result<std::optional<double>>(*reader.problem())
+                            : Result<std::optional<double>>(distance);
 }
 
 } // namespace Drevon::Zalento::Apps

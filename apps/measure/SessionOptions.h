@@ -66,6 +66,9 @@ void addSessionOptions(QCommandLineParser &parser);
 /** Reads them; the calibration file is not read. A problem names the option. */
 Result<SessionOptions> readSessionOptions(const QCommandLineParser &parser);
 
+/** The distance along the pipe that an option gives in mm; nothing without it. */
+Result<std::optional<double>> readDistance(const QCommandLineParser &parser, const char *option);
+
 /** Options that the kind takes beside those of the alignment, each with its leading dashes. */
 QStringList optionsOf(const KindInfo &info);
 

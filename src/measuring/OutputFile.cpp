@@ -1,5 +1,7 @@
 #include "measuring/OutputFile.h"
 
+#include <QBuffer>
+#include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -20,6 +22,21 @@ Outcome writeFile(const QString &path, const QByteArray &content, Overwrite over
         return Problem{path, QStringLiteral("cannot be written: %1").arg(file.errorString())};
     }
     return {};
+}
+
+QString pathBeside(const QString &picturePath, const QString &folder, const QString &end)
+{
+    const QFileInfo info(picturePath);
+    const QDir target = folder.isEmpty() ? info.dir() : QDir(folder);
+    return target.filePath(info.completeBaseName() + end);
+}
+
+QByteArray pngBytes(const QImage &image)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return buffer.data();
 }
 
 } // namespace Drevon::Zalento::Measuring

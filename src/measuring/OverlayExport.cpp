@@ -1,8 +1,6 @@
 #include "measuring/OverlayExport.h"
 
 #include <QBuffer>
-#include <QDir>
-#include <QFileInfo>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QSvgGenerator>
@@ -22,21 +20,6 @@ constexpr int legendLinesPerPicture = 32;
 constexpr int smallestLinePX = 14;
 constexpr double textPart = 0.7; // of a line
 const QColor legendColour(16, 19, 21, 210);
-
-QString pathBeside(const QString &picturePath, const QString &folder, const QString &end)
-{
-    const QFileInfo info(picturePath);
-    const QDir target = folder.isEmpty() ? info.dir() : QDir(folder);
-    return target.filePath(info.completeBaseName() + end);
-}
-
-QByteArray pngOf(const QImage &image)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return buffer.data();
-}
 
 QStringList legendTexts(MapQuantity quantity)
 {
@@ -98,7 +81,7 @@ QByteArray mapPng(const QImage &map, MapQuantity quantity, const QImage &picture
     painter.drawImage(image.rect(), map);
     paintLegend(painter, image.size(), quantity);
     painter.end();
-    return pngOf(image);
+    return pngBytes(image);
 }
 
 QImage pictureWithOverlay(ZaItem &item, const QImage &picture)
@@ -114,7 +97,8 @@ QImage pictureWithOverlay(ZaItem &item, const QImage &picture)
 QByteArray overlayPng(ZaItem &item, const QImage &picture)
 {
     const QImage image = pictureWithOverlay(item, picture);
-    return pngOf(picture.hasAlphaChannel() ? image : image.convertToFormat(QImage::Format_RGB32));
+    return pngBytes(picture.hasAlphaChannel() ? image
+                                              : image.convertToFormat(QImage::Format_RGB32));
 }
 
 QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize)

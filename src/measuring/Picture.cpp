@@ -9,13 +9,16 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+#include <algorithm>
+#include <array>
+
 namespace Drevon::Zalento::Measuring {
 
 namespace {
 
-// How the names of pictures end that an overlay or a map was painted over.
-const QLatin1String overlayMark(".overlay");
-const QLatin1String mapMark(".map");
+// How the names of pictures end that were made of other pictures: overlay, map, flat wall.
+const std::array<QLatin1String, 3> madeMarks{QLatin1String(".overlay"), QLatin1String(".map"),
+                                             QLatin1String(".unrolled")};
 
 constexpr qint64 pixelsPerMegapixel = 1'000'000;
 // A file beyond this is no picture of an inspection, and would not fit into memory twice.
@@ -118,8 +121,9 @@ bool isPictureToMeasure(const QString &path)
 {
     const QFileInfo info(path);
     return pictureFormats().contains(info.suffix().toLower().toLatin1()) &&
-           !info.completeBaseName().endsWith(overlayMark) &&
-           !info.completeBaseName().endsWith(mapMark);
+           std::none_of(madeMarks.begin(), madeMarks.end(), [&info](QLatin1String mark) {
+               return info.completeBaseName().endsWith(mark);
+           });
 }
 
 QStringList picturesIn(const QString &folder, bool recursive)
