@@ -5,6 +5,7 @@
 #include "measuring/Picture.h"
 #include "measuring/SessionFile.h"
 #include "measuring/SessionFit.h"
+#include "measuring/UnrollExport.h"
 #include "measuring/ValueTable.h"
 
 #include <QClipboard>
@@ -20,6 +21,7 @@ const QLatin1String session("session");
 const QLatin1String png("png");
 const QLatin1String svg("svg");
 const QLatin1String csv("csv");
+const QLatin1String wall("wall");
 
 // As it is when its picture is shown, which is read only where the session does not know its size.
 Measuring::Result<Measuring::Session> savedSession(const Document &document)
@@ -199,6 +201,10 @@ QString Exporter::suggestedPath(const QString &what) const
     if (what == session) {
         return QFileInfo(document->sessionPath).absoluteFilePath();
     }
+    if (what == wall) {
+        return QFileInfo(Measuring::unrolledPathOf(document->picturePath, QString()))
+            .absoluteFilePath();
+    }
     if (what == png || what == svg) {
         return QFileInfo(Measuring::overlayPathOf(document->picturePath, QString(), what))
             .absoluteFilePath();
@@ -216,11 +222,29 @@ bool Exporter::exportTo(const QString &what, const QString &path)
     if (!m_editor.isReady()) {
         return false;
     }
+    if (what == wall) {
+        return exportWall(path);
+    }
     const bool isUnset = (what == png || what == svg) && !m_editor.isSet();
     return report(Measuring::writeFile(path, exported(what), Measuring::Overwrite::Allow),
                   isUnset
                       ? tr("Written: %1. What it shows was neither set nor confirmed.").arg(path)
                       : tr("Written: %1").arg(path));
+}
+
+bool Exporter::exportWall(const QString &path)
+{
+    const Measuring::Session &measured = *m_editor.session();
+    const auto unrolling =
+        Measuring::Unrolling::of(measured, Measuring::Unrolling::defaultRange(measured));
+    if (!unrolling) {
+        return report(unrolling.problem(), {});
+    }
+    const QImage flat = unrolling->flattened(m_documents.picture());
+    return report(Measuring::writeFile(path,
+                                       Measuring::pngBytes(Measuring::withAxes(*unrolling, flat)),
+                                       Measuring::Overwrite::Allow),
+                  tr("Written: %1").arg(path));
 }
 
 QByteArray Exporter::exported(const QString &what) const

@@ -38,6 +38,7 @@ private:
     bool saveAs(const QString &path);
     QString saveQuestion(const Document &document) const;
     bool write(Document &document);
+    bool exportWall(const QString &path);
     QByteArray exported(const QString &what) const;
     bool report(const Measuring::Outcome &problem, const QString &done);
 

@@ -5,6 +5,7 @@
 #include "DocumentList.h"
 #include "Exporter.h"
 #include "FieldModel.h"
+#include "FlatWall.h"
 #include "Guidance.h"
 #include "KindModel.h"
 #include "MeasurementEditor.h"
@@ -26,6 +27,7 @@ class Viewer : public QObject
     Q_PROPERTY(Drevon::Zalento::DocumentList *documents READ documents CONSTANT)
     Q_PROPERTY(Drevon::Zalento::MeasurementEditor *editor READ editor CONSTANT)
     Q_PROPERTY(Drevon::Zalento::Assessment *assessment READ assessment CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::FlatWall *wall READ wall CONSTANT)
     Q_PROPERTY(Drevon::Zalento::KindModel *kinds READ kinds CONSTANT)
     Q_PROPERTY(Drevon::Zalento::FieldModel *kindFields READ kindFields CONSTANT)
     Q_PROPERTY(Drevon::Zalento::FieldModel *alignmentFields READ alignmentFields CONSTANT)
@@ -43,6 +45,7 @@ public:
     DocumentList *documents() { return &m_documents; }
     MeasurementEditor *editor() { return &m_editor; }
     Assessment *assessment() { return &m_assessment; }
+    FlatWall *wall() { return &m_wall; }
     KindModel *kinds() { return &m_kinds; }
     FieldModel *kindFields() { return &m_kindFields; }
     FieldModel *alignmentFields() { return &m_alignmentFields; }
@@ -67,6 +70,7 @@ private:
     DocumentList m_documents{m_preferences, m_guidance};
     MeasurementEditor m_editor{m_documents, m_preferences, m_guidance};
     Assessment m_assessment{m_editor};
+    FlatWall m_wall{m_documents, m_editor};
     KindModel m_kinds;
     FieldModel m_kindFields;
     FieldModel m_alignmentFields;

@@ -57,6 +57,7 @@ void prepareScene()
     qmlRegisterUncreatableType<DocumentList>(module, 1, 0, "DocumentList", reason);
     qmlRegisterUncreatableType<MeasurementEditor>(module, 1, 0, "MeasurementEditor", reason);
     qmlRegisterUncreatableType<Assessment>(module, 1, 0, "Assessment", reason);
+    qmlRegisterUncreatableType<FlatWall>(module, 1, 0, "FlatWall", reason);
     qmlRegisterUncreatableType<FeatureModel>(module, 1, 0, "FeatureModel", reason);
     qmlRegisterUncreatableType<PointModel>(module, 1, 0, "PointModel", reason);
     qmlRegisterUncreatableType<KindModel>(module, 1, 0, "KindModel", reason);
@@ -79,6 +80,9 @@ ViewerWindow::ViewerWindow(Viewer &viewer)
     auto *maps = new PictureProvider;
     viewer.assessment()->setMapProvider(maps);
     m_engine.addImageProvider(QStringLiteral("map"), maps);
+    auto *walls = new PictureProvider;
+    viewer.wall()->setProvider(walls);
+    m_engine.addImageProvider(QStringLiteral("wall"), walls);
     m_engine.setProperty(viewerProperty, QVariant::fromValue<QObject *>(&viewer));
 }
 

@@ -96,6 +96,13 @@ Item {
         enabled: Viewer.editor.hasModel
         onTriggered: Viewer.assessment.showNextMap()
     }
+    readonly property Command wall: Command {
+        text: qsTr("Wall")
+        hint: qsTr("The wall as a flat picture beside this one")
+        shortcut: "W"
+        enabled: Viewer.documents.hasPicture
+        onTriggered: Viewer.wall.isShown = !Viewer.wall.isShown
+    }
     readonly property Command unit: Command {
         text: Viewer.editor.isImperial ? qsTr("in") : qsTr("mm")
         hint: Viewer.editor.isImperial ? qsTr("Imperial units; switch to metric")
@@ -138,7 +145,7 @@ Item {
 
     // In the order of the list of keys; the kinds follow, under their numbers.
     readonly property var all: [open, save, copy, previous, next, undo, redo, giveUp, dropLastPoint,
-                                confirm, measureAgain, unit, map, zoomIn, zoomOut, fit, actualSize, keys]
+                                confirm, measureAgain, unit, map, wall, zoomIn, zoomOut, fit, actualSize, keys]
     // What the list of keys says: [keys, text].
     readonly property var keyRows: {
         const rows = all.map(command => [command.keyText, command.hint])

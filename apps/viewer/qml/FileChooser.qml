@@ -22,7 +22,7 @@ Item {
             paths => Viewer.records.load(paths[0]), Platform.FileDialog.OpenFile)
     }
     function exportTo(what) {
-        ask(qsTr("Save as"), ["*." + (what === "session" ? "json" : what)],
+        ask(qsTr("Save as"), ["*." + ({ session: "json", wall: "png" }[what] || what)],
             Viewer.exporter.suggestedPath(what),
             paths => Viewer.exporter.exportTo(what, paths[0]), Platform.FileDialog.SaveFile)
     }

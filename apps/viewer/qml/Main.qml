@@ -55,10 +55,17 @@ ApplicationWindow {
     }
     PictureStage {
         id: stage
-        anchors { left: parent.left; right: side.left; top: topBar.bottom; bottom: statusLine.top }
+        anchors { left: parent.left; right: wallPanel.left; top: topBar.bottom; bottom: statusLine.top }
         commands: commands
         isBehindDialog: fileChooser.isOpen || [recordDialog, keyList, saveDialog, unsavedDialog]
                                               .some(dialog => dialog.visible)
+    }
+    WallPanel {
+        id: wallPanel
+        objectName: "wallPanel"
+        anchors { right: side.left; top: topBar.bottom; bottom: statusLine.top }
+        width: visible ? Math.round((window.width - side.width) / 2) : 0
+        visible: Viewer.wall.isShown
     }
     StatusLine {
         id: statusLine

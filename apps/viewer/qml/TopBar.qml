@@ -63,6 +63,10 @@ Rectangle {
                     onTriggered: bar.exportRequested("svg")
                 }
                 ViewerMenuItem {
+                    text: qsTr("Wall as a flat picture (PNG)")
+                    onTriggered: bar.exportRequested("wall")
+                }
+                ViewerMenuItem {
                     text: qsTr("Values of all pictures (CSV)")
                     onTriggered: bar.exportRequested("csv")
                 }
@@ -82,6 +86,16 @@ Rectangle {
             hint: qsTr("Pipe record: type or load the nominal size")
             enabled: Viewer.documents.hasPicture
             onClicked: bar.recordRequested()
+        }
+        ToolKey {
+            objectName: "mapKey"
+            action: bar.commands.map
+            chosen: Viewer.assessment.map > 0
+        }
+        ToolKey {
+            objectName: "wallKey"
+            action: bar.commands.wall
+            chosen: Viewer.wall.isShown
         }
     }
 

@@ -652,6 +652,20 @@ void TestViewer::valuesAreAssessed()
     QCOMPARE(assessment.setLimit("> 1 mm"), QString());
     QCOMPARE(d.text("decisionText"), QString("above the limit"));
 
+    // The same points on the flat wall; a click there is one in the picture.
+    FlatWall &wall = *d.viewer.wall();
+    d.key(Qt::Key_W);
+    QVERIFY(wall.isShown() && wall.problem().isEmpty());
+    QCOMPARE(wall.points().size(), 2);
+    const QPointF flat = wall.points().last().toPointF() + QPointF(40, 5);
+    wall.click(flat);
+    QCOMPARE(wall.points().size(), 3);
+    QVERIFY(QLineF(wall.points().last().toPointF(), flat).length() < 0.01);
+    d.screenshot("wall");
+    QVERIFY(d.exporter.exportTo("wall", d.folder.filePath("flat.png")));
+    QVERIFY(!QImage(d.folder.filePath("flat.png")).isNull());
+    d.key(Qt::Key_W);
+
     d.key(Qt::Key_R);
     QVERIFY(d.editor.value().isEmpty() && d.editor.points()->count() == 0);
     QCOMPARE(d.text("repeatsText"), QString("1 result kept"));
