@@ -14,7 +14,7 @@ install(TARGETS ${installed_targets} EXPORT ZalentoTargets
 # Headers that only our own sources include stay at home.
 set(internal_headers CLocale.h CompletePicture.h FitCamera.h FitDrawing.h FitOutliers.h FitPlan.h
   FitProblem.h FitStart.h MarkerPens.h MatchedCurve.h MeasuringModel.h ModelPlace.h
-  ModelViewScope.h PainterPens.h UncertaintyFactors.h clearVectorRegisters.h squaredDistance.h
+  ModelViewScope.h PainterPens.h PictureEdges.h RingSearch.h UncertaintyFactors.h clearVectorRegisters.h squaredDistance.h
   truncatedRect.h)
 list(TRANSFORM internal_headers REPLACE "(.+)" "PATTERN;\\1;EXCLUDE")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/zalento" "${PROJECT_SOURCE_DIR}/src/measuring"
@@ -42,6 +42,7 @@ configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/ZalentoConfig.cmake.i
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/ZalentoConfigVersion.cmake"
   COMPATIBILITY SameMajorVersion)
 install(FILES
+  "${PROJECT_SOURCE_DIR}/cmake/FindOpenCVParts.cmake"
   "${PROJECT_BINARY_DIR}/ZalentoConfig.cmake"
   "${PROJECT_BINARY_DIR}/ZalentoConfigVersion.cmake"
   DESTINATION "${package_dir}")

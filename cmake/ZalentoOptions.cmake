@@ -7,6 +7,7 @@ option(ZALENTO_BUILD_APPS "Build the viewer, the command-line program and the to
 option(ZALENTO_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(ZALENTO_BUILD_BENCHMARKS "Build the benchmarks" ${PROJECT_IS_TOP_LEVEL})
 option(ZALENTO_BUILD_FUZZERS "Build the fuzzers for libFuzzer instead of their tests (clang)" OFF)
+option(ZALENTO_WITH_OPENCV "Find edges in pictures and undistort lenses with OpenCV" ON)
 option(ZALENTO_INSTALL "Install the library, the QML module and the programs"
        ${PROJECT_IS_TOP_LEVEL})
 option(ZALENTO_ASSERTIONS "Check the standard library's preconditions at run time" OFF)

@@ -96,7 +96,7 @@ count_instructions() {
 }
 
 for program in bench_paint bench_clicks bench_picking bench_lateral bench_correction bench_curve bench_math \
-    bench_alignmentfit bench_uncertainty; do
+    bench_alignmentfit bench_uncertainty bench_unrolling bench_snap; do
     run_benchmark "$program"
 done
 if ! is_current "$results/instructions.json" "$programs/count_paint" "$library"; then

@@ -9,6 +9,7 @@
 #include "measuring/Replay.h"
 #include "measuring/SessionFile.h"
 #include "measuring/SessionFit.h"
+#include "measuring/Snap.h"
 #include "measuring/UnrollExport.h"
 
 #include "zalento/geometry/Cylinder.h"
@@ -164,6 +165,7 @@ struct Batch::Work
     Picture picture;
     Session session;
     std::optional<AlignmentFit> fit;
+    std::optional<SnapSummary> snap;
     bool isOtherPicture = false; // than the one of the session
 };
 
@@ -266,6 +268,7 @@ void Batch::tellValues(Work &work) const
     values = pictureValues(values.picture, work.session, work.fit,
                            m_command.drawsValues ? UncertaintyEffort::MonteCarlo
                                                  : UncertaintyEffort::Checked);
+    values.snap = work.snap;
     if (values.status == Status::NotSet) {
         values.message = neededOption(infoOf(work.session.kind));
     }
@@ -304,13 +307,19 @@ Outcome Batch::fitAlignment(const Session *start, Work &work) const
 {
     Session &session = work.session;
     const Alignment asked = alignmentOf(session);
+    if (m_command.snaps) {
+        snap(work);
+    }
     if (hasAlignmentClicks(session)) {
         const Result<AlignmentFit> fitted = fitSession(session);
         if (!fitted) {
             return fitted.problem();
         }
         work.fit = *fitted;
-        work.result.warnings += overriddenOptions(*fitted, m_command.session, asked);
+        // Options say where the search for edges begins.
+        if (!work.snap) {
+            work.result.warnings += overriddenOptions(*fitted, m_command.session, asked);
+        }
         work.result.warnings += suspiciousClicks(*fitted, session);
     }
     if (start && hasMoved(*start, session)) {
@@ -318,6 +327,20 @@ Outcome Batch::fitAlignment(const Session *start, Work &work) const
     }
     work.result.values.alignment = alignmentSummary(session, work.fit);
     return {};
+}
+
+void Batch::snap(Work &work) const
+{
+    const Result<Snap> found = snapToEdges(work.session, work.picture.image);
+    work.snap = SnapSummary();
+    if (found) {
+        work.snap->edgePoints = found->edgePoints.size();
+        work.snap->rmsPX = found->rmsPX;
+    } else {
+        work.snap->reason = found.problem().what;
+        work.result.warnings +=
+            QStringLiteral("no edge was found: %1; the alignment stays").arg(found.problem().what);
+    }
 }
 
 Outcome Batch::takeLaserScale(Work &work) const

@@ -44,6 +44,7 @@ private:
     Outcome measureSession(const Session *start, Work &work);
     Outcome mergeSession(const Session *start, Work &work) const;
     Outcome fitAlignment(const Session *start, Work &work) const;
+    void snap(Work &work) const;
     Outcome takeLaserScale(Work &work) const;
     Outcome placeClicks(Work &work) const;
     Outcome takeWaterLevel(Work &work) const;

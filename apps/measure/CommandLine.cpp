@@ -35,6 +35,10 @@ void addOptions(QCommandLineParser &parser)
              "Writes <stem>.map.png, what a pixel is worth on the wall: scale or uncertainty.",
              "NAME");
     addValue(parser, "output", "Folder for written files; made when missing.", "DIR");
+    addFlag(
+        parser, "snap",
+        "Finds the edge of each joint in the picture, from a rough alignment or three clicks, and "
+        "fits the alignment to it.");
     addFlag(parser, "monte-carlo",
             "Finds every uncertainty with 10,000 draws, not only where it is needed.");
     addValue(parser, "from", "Of unroll: distance from the mouth in mm where it begins.", "MM");
@@ -169,6 +173,7 @@ void readFlagsAndFiles(const QCommandLineParser &parser, CommandLine &command)
     command.recursive = parser.isSet(QStringLiteral("recursive"));
     command.ignoresSessions = parser.isSet(QStringLiteral("no-session"));
     command.savesSession = parser.isSet(QStringLiteral("save-session"));
+    command.snaps = parser.isSet(QStringLiteral("snap"));
     command.drawsValues = parser.isSet(QStringLiteral("monte-carlo"));
     command.overwrites = parser.isSet(QStringLiteral("force"));
     command.sessionFile = parser.value(QStringLiteral("session"));

@@ -31,6 +31,7 @@ struct CommandLine
     QString calibrationFile;
     SessionOptions session;
     Format format = Format::Text;
+    bool snaps = false;       ///< finds the edges of joints in the picture
     bool drawsValues = false; ///< Monte Carlo for every uncertainty
     bool writesPng = false;
     bool writesSvg = false;

@@ -156,6 +156,8 @@ void tell(const PictureResult &result, bool isRender, Console &console)
     const bool isDone =
         values.status == Status::Measured || (isRender && values.status != Status::Failed);
     if (isDone) {
+        const bool isRefused = values.snap && !values.snap->reason.isEmpty();
+        console.note(isRefused ? SomeNotMeasured : AllMeasured);
         return;
     }
     console.note(SomeNotMeasured);

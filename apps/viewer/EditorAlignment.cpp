@@ -2,6 +2,7 @@
 #include "MeasurementEditor.h"
 
 #include "measuring/SessionFit.h"
+#include "measuring/Snap.h"
 
 #include <QLocale>
 
@@ -263,6 +264,23 @@ void MeasurementEditor::alignAsBefore()
     session.rollDEG = other.rollDEG;
     session.diameterMM = other.diameterMM;
     change(tr("Align as before"), session, Moves::Model);
+}
+
+void MeasurementEditor::snap()
+{
+    if (!isReady()) {
+        return;
+    }
+    Session session = sessionCopy();
+    const auto found = Measuring::snapToEdges(session, m_documents.picture());
+    if (!found) {
+        m_guidance.notice(Guidance::Warning,
+                          tr("No edge was found: %1. The model stays.").arg(found.problem().what));
+        return;
+    }
+    change(tr("Snap"), session, Moves::Model);
+    m_guidance.notice(Guidance::Information, tr("The joint's edge was found at %n place(s).",
+                                                nullptr, found->edgePoints.size()));
 }
 
 } // namespace Drevon::Zalento

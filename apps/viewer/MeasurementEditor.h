@@ -180,6 +180,8 @@ public:
     Q_INVOKABLE void dropLastPoint();
     Q_INVOKABLE void clearPoints();
     Q_INVOKABLE void resetAlignment();
+    /** Fits the model to the edges of its joints that the picture shows. */
+    Q_INVOKABLE void snap();
     /** Takes the alignment of the picture before this one. */
     Q_INVOKABLE void alignAsBefore();
     Q_INVOKABLE void loadCalibration(const QString &path);

@@ -182,6 +182,18 @@ QByteArray alignmentJson(const AlignmentSummary &summary)
     return json.toLine();
 }
 
+QByteArray snapJson(const SnapSummary &snap)
+{
+    const bool isFound = snap.reason.isEmpty();
+    OrderedJson json;
+    json.add(QStringLiteral("state"),
+             isFound ? QStringLiteral("found") : QStringLiteral("refused"));
+    json.add(QStringLiteral("edgePoints"), snap.edgePoints);
+    json.add(QStringLiteral("rmsPX"), isFound ? QJsonValue(snap.rmsPX) : QJsonValue());
+    json.add(QStringLiteral("reason"), snap.reason);
+    return json.toLine();
+}
+
 QString counted(int count, const char *one, const char *many)
 {
     return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
@@ -310,6 +322,9 @@ OrderedJson valuesJson(const PictureValues &picture)
     json.add(QStringLiteral("values"), valueList(picture));
     if (picture.alignment) {
         json.add(QStringLiteral("alignment"), alignmentJson(*picture.alignment));
+    }
+    if (picture.snap) {
+        json.add(QStringLiteral("snap"), snapJson(*picture.snap));
     }
     json.add(QStringLiteral("message"), picture.message);
     json.add(QStringLiteral("written"), QJsonArray::fromStringList(picture.written));

@@ -48,6 +48,14 @@ ZALENTO_MEASURING_EXPORT AlignmentSummary alignmentSummary(const Session &sessio
 /** What a fit says, in a line: "fitted to 2 joints, rms 0.8 px, largest 1.9 px". */
 ZALENTO_MEASURING_EXPORT QString fitText(const AlignmentSummary &alignment);
 
+/** What came of looking for the edges of joints. */
+struct SnapSummary
+{
+    int edgePoints = 0;
+    double rmsPX = 0.0;
+    QString reason; ///< why it was refused; empty when they were found
+};
+
 /** What values are measured with, where they depend on it. */
 struct ValueInputs
 {
@@ -66,6 +74,7 @@ struct PictureValues
     QVector<Value> values;
     ValueInputs inputs;
     std::optional<AlignmentSummary> alignment; ///< of the model; nothing before it is known
+    std::optional<SnapSummary> snap;           ///< nothing where nobody asked for it
     QString message;                           ///< why there is no value; else empty
     QStringList written;                       ///< files
 };

@@ -5,6 +5,8 @@ import Drevon.Zalento.Viewer 1.0
 Column {
     id: panel
 
+    required property var commands
+
     spacing: 6
 
     Rectangle {
@@ -82,11 +84,19 @@ Column {
         font { family: Theme.family; pixelSize: Theme.small }
     }
     Row {
+        id: helpRow
         width: parent.width
         spacing: 6
+        readonly property real keyWidth: (width - 3 * spacing) / 4
+        ToolKey {
+            objectName: "snapKey"
+            width: helpRow.keyWidth
+            action: panel.commands.snap
+        }
         ToolKey {
             objectName: "asBeforeKey"
-            width: (parent.width - 12) / 3
+            width: helpRow.keyWidth
+            font.pixelSize: Theme.small
             text: qsTr("As before")
             hint: qsTr("Take the alignment of the picture before this one")
             enabled: Viewer.documents.currentIndex > 0
@@ -94,14 +104,15 @@ Column {
         }
         ToolKey {
             objectName: "cameraKey"
-            width: (parent.width - 12) / 3
+            width: helpRow.keyWidth
+            font.pixelSize: Theme.small
             text: qsTr("Camera")
             hint: qsTr("Keep the field of view under a name, or take one that was kept")
             onClicked: cameraDialog.open()
         }
         ToolKey {
             objectName: "lockKey"
-            width: (parent.width - 12) / 3
+            width: helpRow.keyWidth
             text: qsTr("Lock")
             hint: qsTr("The model stays where it is: a drag pans")
             chosen: Viewer.editor.isLocked

@@ -96,6 +96,13 @@ Item {
         enabled: Viewer.editor.hasModel
         onTriggered: Viewer.assessment.showNextMap()
     }
+    readonly property Command snap: Command {
+        text: qsTr("Snap")
+        hint: qsTr("Find the joint's edge near the green ring")
+        shortcut: "J"
+        enabled: Viewer.editor.hasModel
+        onTriggered: Viewer.editor.snap()
+    }
     readonly property Command wall: Command {
         text: qsTr("Wall")
         hint: qsTr("The wall as a flat picture beside this one")
@@ -145,7 +152,7 @@ Item {
 
     // In the order of the list of keys; the kinds follow, under their numbers.
     readonly property var all: [open, save, copy, previous, next, undo, redo, giveUp, dropLastPoint,
-                                confirm, measureAgain, unit, map, wall, zoomIn, zoomOut, fit, actualSize, keys]
+                                confirm, measureAgain, snap, unit, map, wall, zoomIn, zoomOut, fit, actualSize, keys]
     // What the list of keys says: [keys, text].
     readonly property var keyRows: {
         const rows = all.map(command => [command.keyText, command.hint])

@@ -78,6 +78,7 @@ Rectangle {
             }
             AlignPanel {
                 width: parent.width
+                commands: panel.commands
                 visible: Viewer.editor.hasModel
             }
         }

@@ -24,6 +24,13 @@
     </message>
 </context>
 <context>
+    <name>Drevon::Zalento::MeasurementEditor</name>
+    <message numerus="yes">
+        <source>The joint's edge was found at %n place(s).</source>
+        <translation><numerusform>The joint's edge was found at %n place.</numerusform><numerusform>The joint's edge was found at %n places.</numerusform></translation>
+    </message>
+</context>
+<context>
     <name>Drevon::Zalento::FeatureModel</name>
     <message numerus="yes">
         <source>%n more click(s)</source>

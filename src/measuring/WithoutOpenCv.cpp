@@ -1,0 +1,12 @@
+// What a build without OpenCV says where it would need it.
+#include "measuring/PictureEdges.h"
+
+namespace Drevon::Zalento::Measuring {
+
+Result<std::shared_ptr<const PictureEdges>> PictureEdges::of(const QImage &, Of)
+{
+    return Problem{QStringLiteral("snap"),
+                   QStringLiteral("this build has no OpenCV, which finds edges in pictures")};
+}
+
+} // namespace Drevon::Zalento::Measuring
