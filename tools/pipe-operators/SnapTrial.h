@@ -18,8 +18,8 @@ struct SnapTrial
 };
 
 /**
- * Draws a pipe with noise, light that falls off, dirt, water or a deposit, from a camera that is off
- * the axis and turned; dirt hides a third of the joint in every other picture.
+ * Draws a pipe with noise, light that falls off, dirt, water or a deposit, from a camera that is
+ * off the axis and turned; dirt hides a third of the joint in every other picture.
  */
 SnapTrial drawSnapTrial(std::mt19937_64 &random);
 
