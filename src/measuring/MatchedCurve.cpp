@@ -22,8 +22,10 @@ constexpr int samples = 48;
 constexpr double clockZeroDEG = 90.0;
 // The step of a difference quotient, in standard deviations or units of a setting.
 constexpr double step = 1e-3;
-// Halvings of the interval in which a setting lies: to a ten-thousandth of a degree or a percent.
-constexpr int halvings = 20;
+// Parts of the way to a setting's limit, and halvings of the part in which the setting lies: to a
+// ten-thousandth of a degree or a percent.
+constexpr int parts = 20;
+constexpr int halvings = 16;
 
 // A break between two curves.
 const Vec3 gap(std::numeric_limits<double>::quiet_NaN(), 0, 0);
@@ -153,8 +155,10 @@ double MatchedCurve::settingFor(const Eigen::VectorXd &inputs, double px) const
 
 double MatchedCurve::response(const Eigen::VectorXd &inputs, const Eigen::VectorXd &shift) const
 {
+    // Water that fills the pipe has its edges inside the limits alone.
+    const double inside = inputs[m_setting] + step > m_largest ? -step : step;
     const Eigen::VectorXd slope =
-        movesBy(inputs, Eigen::VectorXd::Unit(inputs.size(), m_setting) * step) / step;
+        movesBy(inputs, Eigen::VectorXd::Unit(inputs.size(), m_setting) * inside) / inside;
     const Eigen::VectorXd moved = movesBy(inputs, shift * step) / step;
     const double squares = slope.squaredNorm();
     return squares > 0.0 ? -slope.dot(moved) / squares : 0.0;
@@ -221,8 +225,9 @@ Eigen::VectorXd MatchedCurve::movesBy(const Eigen::VectorXd &inputs,
     return moves(pixels(inputs), pixels(inputs + shift));
 }
 
-// The smallest way up to @p largest, which may be negative, by which the curve moves by px; the
-// farther the way, the more it moves.
+// The smallest way up to @p largest, which may be negative, by which the curve moves by px. It is
+// looked for from near to far: the water of a full pipe and that of an empty one have their edges
+// on one line across which nothing moves.
 std::optional<double> MatchedCurve::wayToMove(const Eigen::VectorXd &inputs, double px,
                                               double largest) const
 {
@@ -231,11 +236,15 @@ std::optional<double> MatchedCurve::wayToMove(const Eigen::VectorXd &inputs, dou
     const auto movesFar = [&](double way) {
         return moves(before, pixels(inputs + unit * way)).norm() > px;
     };
-    if (!movesFar(largest)) {
+    int part = 1;
+    while (part <= parts && !movesFar(largest * part / parts)) {
+        ++part;
+    }
+    if (part > parts) {
         return std::nullopt;
     }
-    double tooShort = 0.0;
-    double enough = largest;
+    double tooShort = largest * (part - 1) / parts;
+    double enough = largest * part / parts;
     for (int i = 0; i < halvings; ++i) {
         const double middle = (tooShort + enough) / 2;
         (movesFar(middle) ? enough : tooShort) = middle;

@@ -28,10 +28,10 @@ constexpr int mapAlpha = 150;
 using Matrix2 = Eigen::Matrix2d;
 using Vector2 = Eigen::Vector2d;
 
-// The session as one that measures on the wall, without points.
-Session onWallAlone(Session session)
+// The session as one that measures where its points lie, without points.
+Session withoutPoints(Session session)
 {
-    session.kind = Kind::PipeDimension;
+    session.kind = session.kind == Kind::CrossSection ? Kind::CrossSection : Kind::PipeDimension;
     session.points.clear();
     return session;
 }
@@ -40,24 +40,55 @@ struct Model
 {
     FitCamera<double> camera;
     double diameterMM;
+    std::optional<double> planePercent; // nothing for the wall
 };
 
-Model modelOf(const Eigen::VectorXd &inputs, const QSize &picture)
+Model modelOf(const Eigen::VectorXd &inputs, const Session &session)
 {
     AlignmentNumbers fields;
     std::copy_n(inputs.data(), fields.size(), fields.begin());
-    return {FitCamera<double>(fields, picture), inputs[ModelInput::diameterMM]};
+    const bool isPlane = session.kind == Kind::CrossSection;
+    return {FitCamera<double>(fields, session.picture.size), inputs[ModelInput::diameterMM],
+            isPlane ? std::optional<double>(inputs[ModelInput::planePercent]) : std::nullopt};
 }
 
 Vec3 placeMM(const Model &model, const QPointF &pixel)
 {
-    return placeOnWall(model.camera, pixel) * model.diameterMM;
+    const Vec3 place = model.planePercent ? placeOnPlane(model.camera, pixel, *model.planePercent)
+                                          : placeOnWall(model.camera, pixel);
+    return place * model.diameterMM;
 }
 
-// A step on the wall: around the pipe and along it.
-Vector2 onWall(const Vec3 &way, const Vec3 &around)
+// The directions that a place's uncertainty is told in.
+struct Directions
 {
-    return {way.dot(around), way.z};
+    Vec3 first;
+    Vec3 second;
+};
+
+Directions directionsAt(const Model &model, const Vec3 &place)
+{
+    if (model.planePercent) {
+        return {{1, 0, 0}, {0, 1, 0}};
+    }
+    const double radius = std::hypot(place.x, place.y);
+    return {{-place.y / radius, place.x / radius, 0}, {0, 0, 1}};
+}
+
+Vector2 partsOf(const Vec3 &way, const Directions &directions)
+{
+    return {way.dot(directions.first), way.dot(directions.second)};
+}
+
+// The place that lies @p way from another one, on the wall around the pipe.
+Vec3 placeBeside(const Model &model, const Vec3 &place, const Vector2 &way)
+{
+    if (model.planePercent) {
+        return {place.x + way.x(), place.y + way.y(), place.z};
+    }
+    const double radius = std::hypot(place.x, place.y);
+    const double angle = std::atan2(place.y, place.x) + way.x() / radius;
+    return {radius * std::cos(angle), radius * std::sin(angle), place.z + way.y()};
 }
 
 double largestRoot(const Matrix2 &squares)
@@ -72,19 +103,19 @@ class PlaceUncertainty::Implementation
 {
 public:
     Implementation(const Session &given, const std::optional<AlignmentFit> &fit)
-        : Implementation(onWallAlone(given), fit, MeasuringModel(onWallAlone(given)))
+        : Implementation(withoutPoints(given), fit, MeasuringModel(withoutPoints(given)))
     {}
 
-    std::optional<WallPlace> at(const QPointF &pixel) const
+    std::optional<PipePlace> at(const QPointF &pixel) const
     {
         const Vec3 place = placeMM(m_model, pixel);
-        const Vec3 around = aroundAt(place);
-        const Matrix2 slopes = slopesAt(pixel, around);
-        const Matrix2 covariance = covarianceAt(pixel, around, slopes);
+        const Directions directions = directionsAt(m_model, place);
+        const Matrix2 slopes = slopesAt(pixel, directions);
+        const Matrix2 covariance = covarianceAt(pixel, directions, slopes);
         if (!covariance.allFinite()) {
             return std::nullopt;
         }
-        WallPlace result;
+        PipePlace result;
         result.mmPerPixel = largestRoot(slopes * slopes.transpose());
         result.aroundMM = coverageFactor * std::sqrt(covariance(0, 0));
         result.alongMM = coverageFactor * std::sqrt(covariance(1, 1));
@@ -95,26 +126,26 @@ public:
     QPolygonF ellipse(const QPointF &pixel) const
     {
         const Vec3 place = placeMM(m_model, pixel);
-        const Vec3 around = aroundAt(place);
-        const Matrix2 covariance = covarianceAt(pixel, around, slopesAt(pixel, around));
+        const Directions directions = directionsAt(m_model, place);
+        const Matrix2 covariance = covarianceAt(pixel, directions, slopesAt(pixel, directions));
         return covariance.allFinite() ? ellipseOf(place, covariance) : QPolygonF();
     }
 
     double depthInDiameters(const QPointF &pixel) const
     {
-        return -placeOnWall(m_model.camera, pixel).z;
+        return -placeMM(m_model, pixel).z / m_model.diameterMM;
     }
 
 private:
     Implementation(const Session &session, const std::optional<AlignmentFit> &fit,
                    const MeasuringModel &model)
-        : m_model(modelOf(model.inputs(), session.picture.size))
+        : m_model(modelOf(model.inputs(), session))
         , m_clickVariance(clickVariance(session))
     {
         for (const UncertaintyFactor &factor : uncertaintyFactors(session, fit, model)) {
             const Eigen::VectorXd shift = factor.shift * step;
-            m_above.push_back(modelOf(model.inputs() + shift, session.picture.size));
-            m_below.push_back(modelOf(model.inputs() - shift, session.picture.size));
+            m_above.push_back(modelOf(model.inputs() + shift, session));
+            m_below.push_back(modelOf(model.inputs() - shift, session));
         }
     }
 
@@ -124,30 +155,25 @@ private:
         return clickPX * clickPX + 1.0 / 12.0;
     }
 
-    static Vec3 aroundAt(const Vec3 &place)
-    {
-        const double radius = std::hypot(place.x, place.y);
-        return {-place.y / radius, place.x / radius, 0};
-    }
-
-    Matrix2 slopesAt(const QPointF &pixel, const Vec3 &around) const
+    Matrix2 slopesAt(const QPointF &pixel, const Directions &directions) const
     {
         Matrix2 slopes;
         const std::array<QPointF, 2> steps{QPointF(step, 0), QPointF(0, step)};
         for (int i = 0; i < 2; ++i) {
             const QPointF &by = steps[static_cast<std::size_t>(i)];
             const Vec3 way = placeMM(m_model, pixel + by) - placeMM(m_model, pixel - by);
-            slopes.col(i) = onWall(way, around) / (2 * step);
+            slopes.col(i) = partsOf(way, directions) / (2 * step);
         }
         return slopes;
     }
 
-    Matrix2 covarianceAt(const QPointF &pixel, const Vec3 &around, const Matrix2 &slopes) const
+    Matrix2 covarianceAt(const QPointF &pixel, const Directions &directions,
+                         const Matrix2 &slopes) const
     {
         Matrix2 covariance = slopes * slopes.transpose() * m_clickVariance;
         for (std::size_t i = 0; i < m_above.size(); ++i) {
             const Vec3 way = placeMM(m_above[i], pixel) - placeMM(m_below[i], pixel);
-            const Vector2 effect = onWall(way, around) / (2 * step);
+            const Vector2 effect = partsOf(way, directions) / (2 * step);
             covariance += effect * effect.transpose();
         }
         return covariance;
@@ -159,17 +185,12 @@ private:
         const Matrix2 root =
             solver.eigenvectors() *
             solver.eigenvalues().cwiseMax(0.0).cwiseSqrt().asDiagonal().toDenseMatrix();
-        const double radius = std::hypot(place.x, place.y);
-        const double angle = std::atan2(place.y, place.x);
         QPolygonF polygon;
         for (int i = 0; i <= ellipseCorners; ++i) {
             const double at = i * twoPi / ellipseCorners;
             const Vector2 way = root * Vector2(std::cos(at), std::sin(at)) * ellipseReach;
-            const double turned = angle + way.x() / radius;
-            const double d = m_model.diameterMM;
-            polygon +=
-                m_model.camera.pixelOf({radius * std::cos(turned) / d,
-                                        radius * std::sin(turned) / d, (place.z + way.y()) / d});
+            const Vec3 corner = placeBeside(m_model, place, way) / m_model.diameterMM;
+            polygon += m_model.camera.pixelOf({corner.x, corner.y, corner.z});
         }
         return polygon;
     }
@@ -186,7 +207,7 @@ PlaceUncertainty::PlaceUncertainty(const Session &session, const std::optional<A
 
 PlaceUncertainty::~PlaceUncertainty() = default;
 
-std::optional<WallPlace> PlaceUncertainty::at(const QPointF &pixel) const
+std::optional<PipePlace> PlaceUncertainty::at(const QPointF &pixel) const
 {
     const double depth = m_implementation->depthInDiameters(pixel);
     return depth <= Cylinder::lengthInDiameters ? m_implementation->at(pixel) : std::nullopt;
@@ -212,7 +233,9 @@ const QVector<MapStep> &mapSteps()
 QImage wallMap(const Session &session, const std::optional<AlignmentFit> &fit, MapQuantity quantity,
                int width)
 {
-    const PlaceUncertainty places(session, fit);
+    Session onWall = session;
+    onWall.kind = Kind::PipeDimension;
+    const PlaceUncertainty places(onWall, fit);
     const double pixels = static_cast<double>(session.picture.size.width()) / width;
     const int height = std::max(1, qRound(session.picture.size.height() / pixels));
     QImage map(width, height, QImage::Format_ARGB32);

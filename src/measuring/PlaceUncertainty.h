@@ -13,18 +13,21 @@
 
 namespace Drevon::Zalento::Measuring {
 
-/** What a place of the picture is worth on the pipe's wall. */
-struct WallPlace
+/** What a place of the picture is worth in the pipe. */
+struct PipePlace
 {
     double mmPerPixel = 0.0; ///< in the direction in which a pixel is worth most
-    double aroundMM = 0.0;   ///< expanded uncertainty of a point there, around the pipe
-    double alongMM = 0.0;    ///< the same along the pipe
-    double largestMM = 0.0;  ///< the same in the direction in which it is largest
+    /** Expanded uncertainty of a point there around the pipe; on a cross section, to the right. */
+    double aroundMM = 0.0;
+    /** The same along the pipe; on a cross section, up. */
+    double alongMM = 0.0;
+    double largestMM = 0.0; ///< the same in the direction in which it is largest
 };
 
 /**
- * How well places on the wall are known under a session's alignment, first order. Clicks, pixels,
- * alignment, field of view and diameter count.
+ * How well places are known under a session's alignment, first order: on the plane of a cross
+ * section, else on the wall. Clicks, pixels, alignment, field of view, diameter and the depth of
+ * the plane count.
  */
 class ZALENTO_MEASURING_EXPORT PlaceUncertainty
 {
@@ -32,11 +35,11 @@ public:
     PlaceUncertainty(const Session &session, const std::optional<AlignmentFit> &fit);
     ~PlaceUncertainty();
 
-    /** Nothing where a pixel meets no wall. */
-    std::optional<WallPlace> at(const QPointF &pixel) const;
+    /** Nothing where a pixel meets no place of the modelled pipe. */
+    std::optional<PipePlace> at(const QPointF &pixel) const;
 
     /** What holds 95 percent of the places that a click may mean, in picture pixels; empty where it
-        meets no wall. */
+        meets none. */
     QPolygonF ellipse(const QPointF &pixel) const;
 
 private:
@@ -46,8 +49,8 @@ private:
 
 /** What a map tells of each pixel. */
 enum class MapQuantity {
-    Scale,       ///< WallPlace::mmPerPixel
-    Uncertainty, ///< WallPlace::largestMM
+    Scale,       ///< PipePlace::mmPerPixel
+    Uncertainty, ///< PipePlace::largestMM
 };
 
 /** One colour of a map, for all up to a number of millimetres. */
@@ -62,7 +65,8 @@ ZALENTO_MEASURING_EXPORT const QVector<MapStep> &mapSteps();
 
 /**
  * A picture of the quantity, translucent, to be laid over the session's picture and scaled to it.
- * Where no wall is, and beyond the modelled pipe, it is clear.
+ * It tells of the wall, whatever the kind. Where no wall is, and
+ * beyond the modelled pipe, it is clear.
  * @param width in pixels; the height follows
  */
 ZALENTO_MEASURING_EXPORT QImage wallMap(const Session &session,

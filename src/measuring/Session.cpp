@@ -93,7 +93,7 @@ auto choicesOf(const Session &s)
 {
     return std::tie(s.kind, s.unit, s.rearCircleActive, s.clockDEG, s.viewDownstream, s.jointShown,
                     s.isSet, s.viewStyle, s.calibrationText, s.mmPerPixel, s.fitsFov, s.limit,
-                    s.schemaMinor);
+                    s.repeats, s.schemaMinor);
 }
 
 Outcome checkClicks(const QString &place, const QVector<QPointF> &points)

@@ -30,6 +30,9 @@ constexpr double normalReach = 1.959964;
 // Draws that measure nothing: with more than these no interval can be told.
 constexpr double largestLostShare = tail;
 
+// A smaller share of the variance is what difference quotients leave of nothing.
+constexpr double smallestShare = 1e-12;
+
 // Beyond JCGM 101: the two standard uncertainties themselves differ by no more.
 constexpr double largestDifference = 0.1;
 
@@ -71,9 +74,9 @@ QVector<BudgetRow> budgetOf(const Propagation &given, const Eigen::VectorXd &eff
     }
     QVector<BudgetRow> budget;
     for (std::size_t i = 0; i < variances.size(); ++i) {
-        if (variances[i] > 0.0) {
-            budget.append({static_cast<UncertaintySource>(i), std::sqrt(variances[i]),
-                           variances[i] / effects.squaredNorm()});
+        const double share = variances[i] / effects.squaredNorm();
+        if (share > smallestShare) {
+            budget.append({static_cast<UncertaintySource>(i), std::sqrt(variances[i]), share});
         }
     }
     std::stable_sort(budget.begin(), budget.end(),

@@ -58,7 +58,7 @@ struct Uncertainty
 {
     double standard = 0.0;
     UncertaintyMethod method = UncertaintyMethod::FirstOrder;
-    /** The shortest interval that holds 95 percent of the values drawn (Monte Carlo). */
+    /** Holds 95 percent of the values drawn, as many lie below it as above (Monte Carlo). */
     std::optional<std::pair<double, double>> interval;
     /** Of the first order, the largest share first; without sources that add nothing. */
     QVector<BudgetRow> budget;

@@ -195,7 +195,7 @@ public:
     void add(UncertaintySource source, Distribution distribution, const Eigen::VectorXd &shift)
     {
         if (!shift.isZero(0.0)) {
-            factors.push_back({source, distribution, shift});
+            factors.push_back({source, distribution, shift.sparseView(0.0, 0.0)});
         }
     }
 
@@ -277,7 +277,8 @@ void addSetting(const Session &session, const MeasuringModel &model,
         return;
     }
     for (UncertaintyFactor &factor : list.factors) {
-        factor.shift[curve.setting()] += curve.response(model.inputs(), factor.shift);
+        factor.shift.coeffRef(curve.setting()) +=
+            curve.response(model.inputs(), Eigen::VectorXd(factor.shift));
     }
     list.addOne(UncertaintySource::Setting, Distribution::Normal, curve.setting(),
                 curve.settingFor(model.inputs(), known.alignmentPX));

@@ -4,7 +4,7 @@
 #include "measuring/MeasuringModel.h"
 #include "measuring/Uncertainty.h"
 
-#include <Eigen/Core>
+#include <Eigen/SparseCore>
 
 #include <optional>
 #include <vector>
@@ -26,7 +26,8 @@ struct UncertaintyFactor
 {
     UncertaintySource source = UncertaintySource::Clicks;
     Distribution distribution = Distribution::Normal;
-    Eigen::VectorXd shift; ///< of the inputs by one standard deviation
+    /** Of the inputs by one standard deviation; a click moves few of many. */
+    Eigen::SparseVector<double> shift;
 };
 
 /**

@@ -13,9 +13,8 @@ namespace {
 constexpr double mmPerInch = 25.4;
 constexpr double mmPerFoot = 12 * mmPerInch;
 
-// Of an uncertainty's first two digits: from here on one is enough; from here on it becomes a 1.
+// Of an uncertainty's first two digits: from here on one is enough.
 constexpr double oneDigitFrom = 30.0;
-constexpr double roundsUpFrom = 95.0;
 
 struct ShownUnit
 {
@@ -60,10 +59,7 @@ int decimalsOf(double uncertainty)
     }
     const int exponent = static_cast<int>(std::floor(std::log10(uncertainty)));
     const double twoDigits = std::round(uncertainty * std::pow(10.0, 1 - exponent));
-    // 0.096 is told as 0.10: what rounds up to a 1 has the digits of a 1.
-    if (twoDigits >= roundsUpFrom) {
-        return -exponent;
-    }
+    // One digit of 0.096 is told as 0.10: what rounds up to a 1 has the digits of a 1.
     return twoDigits < oneDigitFrom ? 1 - exponent : -exponent;
 }
 

@@ -32,6 +32,7 @@ Q_DECLARE_METATYPE(AlignedBy)
 namespace {
 
 constexpr int seed = 3;
+constexpr double mouthPX = 300 / 1.02; // radius of the mouth in the picture of onAxis()
 
 // A kind with an alignment off the axis, and points where it takes them.
 Session exampleSession(Kind kind)
@@ -57,6 +58,18 @@ Session exampleSession(Kind kind)
         }
     }
     placePoints(session);
+    return session;
+}
+
+// A square picture along the axis; a click alone is uncertain.
+Session onAxis()
+{
+    Session session;
+    session.picture.size = QSize(600, 600);
+    session.fovYDEG = 60.0;
+    StandardUncertainties &known = session.standardUncertainties;
+    known.clickPX = 2.0;
+    known.alignmentPX = known.fovDEG = known.diameterMM = 0.0;
     return session;
 }
 
@@ -110,6 +123,15 @@ double distance(const QPointF &p, const QLineF &line)
     return QLineF(p, line.pointAt(qBound(0.0, at, 1.0))).length();
 }
 
+// In the picture the ellipse of a click is a circle around it.
+void verifyCircle(const QPolygonF &ellipse, const QPointF &middle, double radius)
+{
+    QVERIFY(ellipse.size() > 20);
+    for (const QPointF &corner : ellipse) {
+        COMPARE_NEAR(QLineF(middle, corner).length() / radius, 1.0, (Tolerance{0.05, ""}));
+    }
+}
+
 } // namespace
 
 class TestUncertainty : public TestCase
@@ -125,11 +147,13 @@ private slots:
     void sourcesAddUp();
     void settingsErrByWhatTheEyeLetsPass();
     void drawsTakeOverWhereTheFirstOrderFails();
+    void theEyeMovesPlaces();
     void placesAreWorthTheirPixels();
     void operatorsAreCovered_data();
     void operatorsAreCovered();
     void isTold_data();
     void isTold();
+    void limitsAreRead();
     void limitsDecide_data();
     void limitsDecide();
     void repeatsAreKept();
@@ -288,6 +312,12 @@ void TestUncertainty::settingsErrByWhatTheEyeLetsPass()
         partOf(firstUncertainty(water, UncertaintyEffort::FirstOrder), UncertaintySource::Setting);
     QVERIFY2(level > 0.3 && level < 1.0, qPrintable(QString::number(level)));
 
+    // A full pipe's edges spread quickly when the water falls.
+    for (const double limit : {0.0, 100.0}) {
+        water.percentage = limit;
+        QVERIFY(firstUncertainty(water, UncertaintyEffort::FirstOrder).standard < 0.1);
+    }
+
     // A branch near a right angle hardly moves its mouth.
     Session branch = exampleSession(Kind::BranchAngle);
     const auto settingAt = [&branch](double angleDEG) {
@@ -322,6 +352,13 @@ void TestUncertainty::drawsTakeOverWhereTheFirstOrderFails()
     COMPARE_NEAR((drawn.interval->second - drawn.interval->first) / (2 * 1.96 * near.standard), 1.0,
                  (Tolerance{0.05, ""}));
 
+    // Pixels alone are rectangles.
+    Session crack = exampleSession(Kind::CrackWidth);
+    crack.standardUncertainties.clickPX = crack.standardUncertainties.scalePercent = 0.0;
+    COMPARE_NEAR(firstUncertainty(crack, UncertaintyEffort::MonteCarlo).standard /
+                     firstUncertainty(crack, UncertaintyEffort::FirstOrder).standard,
+                 1.0, (Tolerance{0.03, ""}));
+
     // A point near where all lines along the pipe meet may be much deeper, hardly less deep.
     session.points[1] = {QPointF(405, 275), {}, {}};
     const double length = measure(session).values.first().number;
@@ -330,16 +367,34 @@ void TestUncertainty::drawsTakeOverWhereTheFirstOrderFails()
     QVERIFY(deep.interval->second - length > 1.2 * (length - deep.interval->first));
 }
 
+// Two pixels of the mouth's place, its size and the far ring's place move a place above the axis
+// along the pipe: by f / r of what the axis moves up there, and by the radius times its slope.
+void TestUncertainty::theEyeMovesPlaces()
+{
+    Session session = onAxis();
+    session.standardUncertainties.alignmentPX = 2.0;
+    session.standardUncertainties.clickPX = 0.0;
+    const double r = 200.0;
+    const double f = 300 * std::sqrt(3.0);
+    const double lengthMM = 10 * session.diameterMM;
+    const double mouthMM = f * 150 / mouthPX;
+    const double depthMM = f * 150 / r - mouthMM;
+    const double part = depthMM / lengthMM;
+    const double slope = 150 / lengthMM;
+    const double byMouth = 2 * mouthMM / f * ((1 - part) * f / r - slope);
+    const double byFarRing = 2 * (mouthMM + lengthMM) / f * (part * f / r + slope);
+    const double bySize = 2 * mouthMM / mouthPX;
+    const double byPixels = std::sqrt(1.0 / 12) * (mouthMM + depthMM) / r;
+    const double along = std::hypot(std::hypot(byMouth, byFarRing), std::hypot(bySize, byPixels));
+    const auto place = PlaceUncertainty(session, {}).at(QPointF(300, 300 - r));
+    COMPARE_NEAR(place->alongMM / (2 * along), 1.0, (Tolerance{0.01, ""}));
+}
+
 // On the axis the wall is seen at r = f R / d pixels from the middle for a place d before the eye:
 // a pixel there is worth d^2 / (f R) along the pipe and d / f around it.
 void TestUncertainty::placesAreWorthTheirPixels()
 {
-    Session session;
-    session.picture.size = QSize(600, 600);
-    session.fovYDEG = 60.0;
-    StandardUncertainties &known = session.standardUncertainties;
-    known.clickPX = 2.0;
-    known.alignmentPX = known.fovDEG = known.diameterMM = 0.0;
+    const Session session = onAxis();
     const double focalPX = 300 * std::sqrt(3.0);
     const double r = 200.0;
     const double d = focalPX * 150 / r;
@@ -347,17 +402,27 @@ void TestUncertainty::placesAreWorthTheirPixels()
     const double expandedPX = 2 * std::sqrt(2.0 * 2.0 + 1.0 / 12);
 
     const PlaceUncertainty places(session, {});
-    const auto place = places.at(QPointF(300, 300 - r));
     const Tolerance tolerance{1e-3, "mm"};
-    COMPARE_NEAR(place->mmPerPixel, alongMM, tolerance);
-    COMPARE_NEAR(place->alongMM, expandedPX * alongMM, tolerance);
-    COMPARE_NEAR(place->aroundMM, expandedPX * d / focalPX, tolerance);
-    COMPARE_NEAR(place->largestMM, place->alongMM, tolerance);
+    for (const QPointF &pixel : {QPointF(300, 300 - r), QPointF(300 + 0.6 * r, 300 + 0.8 * r)}) {
+        const auto place = places.at(pixel);
+        COMPARE_NEAR(place->mmPerPixel, alongMM, tolerance);
+        COMPARE_NEAR(place->alongMM, expandedPX * alongMM, tolerance);
+        COMPARE_NEAR(place->aroundMM, expandedPX * d / focalPX, tolerance);
+        COMPARE_NEAR(place->largestMM, place->alongMM, tolerance);
+        verifyCircle(places.ellipse(pixel), pixel, 2.4477 * expandedPX / 2);
+    }
     QVERIFY(!places.at(QPointF(300, 297))); // beyond the modelled pipe
-    // In the picture the ellipse is a circle around the click.
-    const QRectF ellipse = places.ellipse(QPointF(300, 300 - r)).boundingRect();
-    COMPARE_NEAR(ellipse.width() / (2.4477 * expandedPX), 1.0, (Tolerance{0.01, ""}));
-    COMPARE_NEAR(ellipse.height() / (2.4477 * expandedPX), 1.0, (Tolerance{0.05, ""}));
+
+    // On a plane a pixel is worth d / f in all directions.
+    Session section = session;
+    section.kind = Kind::CrossSection;
+    section.percentage = 10.0;
+    const double planeMM = focalPX * 150 / mouthPX + 0.1 * 10 * session.diameterMM;
+    const PlaceUncertainty onPlane(section, {});
+    const auto place = onPlane.at(QPointF(350, 260));
+    COMPARE_NEAR(place->aroundMM, expandedPX * planeMM / focalPX, tolerance);
+    COMPARE_NEAR(place->alongMM, expandedPX * planeMM / focalPX, tolerance);
+    verifyCircle(onPlane.ellipse(QPointF(350, 260)), QPointF(350, 260), 2.4477 * expandedPX / 2);
 
     const QImage map = wallMap(session, {}, MapQuantity::Scale, 300);
     QCOMPARE(map.size(), QSize(300, 300));
@@ -438,6 +503,20 @@ void TestUncertainty::isTold()
     QFETCH(QString, told);
     const Value value{QStringLiteral("value"), number, unit, text, {}, {}};
     QCOMPARE(textWithUncertainty(value, expanded), told);
+}
+
+void TestUncertainty::limitsAreRead()
+{
+    const QVector<std::tuple<const char *, double, const char *>> rows{
+        {"< 3 m", 3000.0, "mm"},    {"< 2 ft", 609.6, "mm"},      {"> 2''", 50.8, "mm"},
+        {"< 7 mm2", 7.0, "mm²"},    {"< 2 m²", 2e6, "mm²"},       {"< 2 cm²", 200.0, "mm²"},
+        {"< 1 in2", 645.16, "mm²"}, {"< 1 ft²", 92903.04, "mm²"}, {"> 20 %", 20.0, "%"},
+        {">= 45 °", 45.0, "deg"}};
+    for (const auto &[text, number, unit] : rows) {
+        const auto limit = limitFromText(QString::fromUtf8(text));
+        COMPARE_NEAR(limit->number / number, 1.0, roundingTolerance);
+        QCOMPARE(limit->unit, QString::fromUtf8(unit));
+    }
 }
 
 void TestUncertainty::limitsDecide_data()
