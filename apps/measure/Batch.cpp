@@ -1,6 +1,7 @@
 #include "measure/Batch.h"
 
 #include "measuring/Editing.h"
+#include "measuring/Limit.h"
 #include "measuring/Measurement.h"
 #include "measuring/OverlayExport.h"
 #include "measuring/Picture.h"
@@ -157,6 +158,28 @@ QStringList suspiciousClicks(const AlignmentFit &fit, const Session &session)
     return warnings;
 }
 
+// What is not told of values: how far to trust them, and where they lie to the limit.
+QStringList lackingTrust(const QVector<Value> &values, const Session &session)
+{
+    QStringList warnings;
+    for (const Value &value : values) {
+        if (!value.uncertainty) {
+            warnings += QStringLiteral("%1 is so near to what cannot be measured that its "
+                                       "uncertainty has no number")
+                            .arg(value.name);
+        }
+    }
+    const Result<Limit> limit = limitFromText(session.limit);
+    const bool isHeld = !limit || std::any_of(values.begin(), values.end(), [&](const Value &v) {
+        return v.unit == limit->unit;
+    });
+    if (!isHeld && !values.isEmpty()) {
+        warnings += QStringLiteral("the limit \"%1\" is of another unit than what is measured")
+                        .arg(session.limit);
+    }
+    return warnings;
+}
+
 } // namespace
 
 struct Batch::Work
@@ -269,6 +292,7 @@ void Batch::tellValues(Work &work) const
                            m_command.drawsValues ? UncertaintyEffort::MonteCarlo
                                                  : UncertaintyEffort::Checked);
     values.snap = work.snap;
+    work.result.warnings += lackingTrust(values.values, work.session);
     if (values.status == Status::NotSet) {
         values.message = neededOption(infoOf(work.session.kind));
     }
@@ -280,6 +304,9 @@ Outcome Batch::mergeSession(const Session *start, Work &work) const
     Session &session = work.session;
     session = start ? *start : Session();
     options.applyTo(session);
+    if (work.isOtherPicture) {
+        session.repeats.clear();
+    }
     session.picture = work.picture.identity;
     if (start) {
         session.picture.unknownFields = start->picture.unknownFields;

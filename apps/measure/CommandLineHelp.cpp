@@ -31,8 +31,8 @@ Pictures:
 const char *const conclusion = R"(
 Values:
   Numbers are in mm, mm2, percent or degrees whatever --unit says, with '.' as decimal mark; the
-  text is the one that the overlay shows. Only values are printed on the standard output; messages
-  go to the standard error. Bends and joints are measured in steps of 5 degrees.
+  text before them has the unit that the overlay shows, and the expanded uncertainty (k = 2). Only
+  values are printed on the standard output; messages go to the standard error. Bends and joints are measured in steps of 5 degrees.
   --click X,Y is a pixel of the upright picture, from its top left corner.
 
 Environment:

@@ -372,6 +372,7 @@ void SessionOptions::applyTo(Session &session) const
     if (kind && *kind != session.kind) {
         session.kind = *kind;
         session.points.clear();
+        session.repeats.clear();
         session.jointShown = false;
         session.isSet = !infoOf(*kind).has(Uses::SetByEye);
     }
