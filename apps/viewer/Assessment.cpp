@@ -7,6 +7,7 @@
 
 #include <QColor>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Drevon::Zalento {
@@ -67,6 +68,19 @@ QString adviceFor(Measuring::UncertaintySource source, bool isFitted)
         break;
     }
     return Assessment::tr("Most comes from what was set by eye.");
+}
+
+QString textOf(Measuring::Decision decision)
+{
+    switch (decision) {
+    case Measuring::Decision::Below:
+        return Assessment::tr("below the limit");
+    case Measuring::Decision::Above:
+        return Assessment::tr("above the limit");
+    case Measuring::Decision::Undecided:
+        break;
+    }
+    return Assessment::tr("cannot be decided at 95 %");
 }
 
 QString millimetres(double mm)
@@ -140,19 +154,15 @@ QString Assessment::advice() const
 
 QString Assessment::decision() const
 {
-    const Measuring::Uncertainty *known = uncertainty();
-    if (!known || !known->decision) {
+    const auto &values = m_editor.measurement().values;
+    if (!uncertainty() || limit().isEmpty()) {
         return {};
     }
-    switch (*known->decision) {
-    case Measuring::Decision::Below:
-        return tr("below the limit");
-    case Measuring::Decision::Above:
-        return tr("above the limit");
-    case Measuring::Decision::Undecided:
-        break;
-    }
-    return tr("cannot be decided at 95 %");
+    const auto held = std::find_if(values.begin(), values.end(), [](const auto &value) {
+        return value.uncertainty && value.uncertainty->decision;
+    });
+    return held == values.end() ? tr("The limit is of another unit.")
+                                : textOf(*held->uncertainty->decision);
 }
 
 QString Assessment::limit() const
@@ -215,7 +225,9 @@ void Assessment::findEllipse()
             corners += corner;
         }
         if (const auto place = places.at(pixel)) {
-            m_pointText = tr("Point %1: %2 around, %3 along the pipe")
+            const bool isOnPlane = m_editor.session()->kind == Measuring::Kind::CrossSection;
+            m_pointText = (isOnPlane ? tr("Point %1: %2 across, %3 up")
+                                     : tr("Point %1: %2 around, %3 along the pipe"))
                               .arg(selected + 1)
                               .arg(millimetres(place->aroundMM), millimetres(place->alongMM));
         }

@@ -23,7 +23,7 @@ class Assessment : public QObject
     Q_PROPERTY(QString budgetText READ budgetText NOTIFY changed)
     /** What to improve first; empty without a value. */
     Q_PROPERTY(QString advice READ advice NOTIFY changed)
-    /** What was said of the value against the limit; empty without one. */
+    /** What is said of the first value that the limit is held against; empty without a limit. */
     Q_PROPERTY(QString decision READ decision NOTIFY changed)
     /** Such as "< 0.5 mm"; empty for none. */
     Q_PROPERTY(QString limit READ limit NOTIFY changed)
@@ -33,7 +33,7 @@ class Assessment : public QObject
 
     /** Around the selected point, in picture pixels: where it may lie, 95 percent. */
     Q_PROPERTY(QVariantList ellipse READ ellipse NOTIFY ellipseChanged)
-    /** The same in the pipe: "± 3 mm around, ± 20 mm along". */
+    /** The same in the pipe: "Point 1: ± 3 mm around, ± 20 mm along the pipe". */
     Q_PROPERTY(QString pointText READ pointText NOTIFY ellipseChanged)
 
     /** What the map over the picture tells. */

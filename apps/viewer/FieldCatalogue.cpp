@@ -56,7 +56,7 @@ Field with(Field field, const char *label, const QString &unit, double step, int
     return field;
 }
 
-// One that belongs to what is measured: setting it sets what is set by eye.
+// The value of a kind that is set by eye.
 Field setting(Field field)
 {
     field.set = [setNumber = field.set](Session &s, std::optional<double> v) {
@@ -90,7 +90,8 @@ Field percentageField(const Session &session)
     Field field = with(numberField(QStringLiteral("percentage"), &Session::percentage),
                        infoOf(session.kind).percentage.label, QStringLiteral("%"), 1, 1);
     field.hasSlider = true;
-    return setting(field);
+    // An angle is not set by the size of the branch or the joint.
+    return infoOf(session.kind).has(Uses::Angle) ? field : setting(field);
 }
 
 // Shows the angle that is drawn.
@@ -99,12 +100,6 @@ Field angleField(const Session &session)
     Field field = with(numberField(QStringLiteral("angleDEG"), &Session::angleDEG),
                        QT_TRANSLATE_NOOP("Field", "Angle"), QStringLiteral("°"), 1, 1);
     field.hasSlider = true;
-    field.get = Measuring::drawnAngleDEG;
-    field.set = [](Session &s, std::optional<double> angleDEG) {
-        s.angleDEG = angleDEG.value_or(0.0);
-        s.angleDEG = Measuring::drawnAngleDEG(s);
-        s.isSet = true;
-    };
     const Measuring::AngleRow &angles = infoOf(session.kind).angle;
     field.smallest = angles.smallestDEG;
     field.largest = angles.largestDEG;
@@ -112,7 +107,7 @@ Field angleField(const Session &session)
         field.step = angles.stepDEG;
         field.decimals = 0;
     }
-    field.get = [](const Session &s) { return Measuring::drawnAngleDEG(s); };
+    field.get = Measuring::drawnAngleDEG;
     field.set = [](Session &s, std::optional<double> v) {
         s.angleDEG = v.value_or(0.0);
         s.angleDEG = Measuring::drawnAngleDEG(s);
@@ -134,7 +129,7 @@ Field clockField()
     field.set = [](Session &s, std::optional<double> hours) {
         s.clockDEG = static_cast<int>(std::lround(hours.value_or(0.0) * degreesPerHour));
     };
-    return setting(field);
+    return field;
 }
 
 Field laserField()

@@ -44,12 +44,15 @@ QString fitDescription(const Measuring::AlignmentFit &fit)
                                     .arg(left.join(QLatin1String("; ")));
 }
 
-QString noteOn(const Session &session)
+QString noteOn(const Session &session, const QVector<Measuring::Value> &values)
 {
     const QVector<int> beyond = Measuring::pointsBeyondModel(session);
     if (!beyond.isEmpty()) {
         return MeasurementEditor::tr("Point %1 lies beyond the modelled pipe")
             .arg(beyond.first() + 1);
+    }
+    if (!values.isEmpty() && !values.first().uncertainty) {
+        return MeasurementEditor::tr("Its uncertainty cannot be told");
     }
     const bool isPath = session.kind == Measuring::Kind::CrackWidth && session.points.size() > 2;
     return isPath ? MeasurementEditor::tr("Length of the path") : QString();
@@ -178,7 +181,7 @@ MeasurementEditor::Shown MeasurementEditor::shownNow() const
     now.value = values.isEmpty() ? QString() : values.first().fullText();
     now.secondValue = values.size() > 1 ? values.at(1).fullText() : QString();
     now.isSet = s.isSet;
-    now.valueNote = noteOn(s);
+    now.valueNote = noteOn(s, values);
     now.isImperial = s.unit != MeasureUnit::Metric;
     if (const auto scale = Measuring::scaleOf(s)) {
         now.hasScale = true;
@@ -475,7 +478,6 @@ void MeasurementEditor::setViewDownstream(bool downstream)
     if (isReady()) {
         Session session = sessionCopy();
         session.viewDownstream = downstream;
-        session.isSet = true;
         change(tr("Viewing direction"), session, Moves::Nothing);
     }
 }
