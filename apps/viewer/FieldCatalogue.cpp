@@ -59,6 +59,7 @@ Field with(Field field, const char *label, const QString &unit, double step, int
 // The value of a kind that is set by eye.
 Field setting(Field field)
 {
+    field.isSetting = true;
     field.set = [setNumber = field.set](Session &s, std::optional<double> v) {
         setNumber(s, v);
         s.isSet = true;
@@ -91,7 +92,7 @@ Field percentageField(const Session &session)
                        infoOf(session.kind).percentage.label, QStringLiteral("%"), 1, 1);
     field.hasSlider = true;
     // An angle is not set by the size of the branch or the joint.
-    return infoOf(session.kind).has(Uses::Angle) ? field : setting(field);
+    return session.kind == Measuring::Kind::WaterLevel ? setting(field) : field;
 }
 
 // Shows the angle that is drawn.

@@ -22,6 +22,7 @@ struct Field
     double step = 1.0;
     int decimals = 0; ///< shown at most
     bool hasSlider = false;
+    bool isSetting = false; ///< its number is the value of a kind that is set by eye
     bool movesModel = true; ///< points have to be looked up again
     bool mayBeEmpty = false;
     std::function<std::optional<double>(const Measuring::Session &)> get;

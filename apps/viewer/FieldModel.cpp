@@ -155,6 +155,8 @@ QVariant FieldModel::data(const QModelIndex &index, int role) const
         return field.step;
     case HasSliderRole:
         return field.hasSlider;
+    case IsSettingRole:
+        return field.isSetting;
     default:
         return {};
     }
@@ -162,9 +164,10 @@ QVariant FieldModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> FieldModel::roleNames() const
 {
-    return {{NameRole, "name"},           {LabelRole, "label"},     {UnitRole, "unit"},
-            {SmallestRole, "smallest"},   {LargestRole, "largest"}, {StepRole, "step"},
-            {HasSliderRole, "hasSlider"}, {TextRole, "text"},       {ValueRole, "value"}};
+    return {{NameRole, "name"},           {LabelRole, "label"},         {UnitRole, "unit"},
+            {SmallestRole, "smallest"},   {LargestRole, "largest"},     {StepRole, "step"},
+            {HasSliderRole, "hasSlider"}, {IsSettingRole, "isSetting"}, {TextRole, "text"},
+            {ValueRole, "value"}};
 }
 
 } // namespace Drevon::Zalento

@@ -25,6 +25,7 @@ public:
         LargestRole,
         StepRole,
         HasSliderRole,
+        IsSettingRole,
         TextRole,
         ValueRole,
     };

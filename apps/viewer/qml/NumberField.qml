@@ -19,6 +19,7 @@ FocusScope {
     required property double largest
     required property double step
     required property bool hasSlider
+    required property bool isSetting
 
     property string problem: ""
 
@@ -106,7 +107,7 @@ FocusScope {
                         if (root.problem)
                             return
                         // Enter on what the field shows already is an answer, too.
-                        if (root.fields === Viewer.kindFields && !Viewer.editor.isSet)
+                        if (root.isSetting && !Viewer.editor.isSet)
                             Viewer.editor.confirm()
                         Viewer.focusStage()
                     }

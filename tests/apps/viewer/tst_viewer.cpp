@@ -335,6 +335,11 @@ void TestViewer::badValuesStayVisible()
     d.clickItem("confirmKey");
     QCOMPARE(number(d), 90.0);
     d.key(Qt::Key_Z, Qt::ControlModifier);
+    d.type("field.clock", "2"); // not an angle, nor its confirmation
+    d.type("field.percentage", "41");
+    QCOMPARE(d.text("valueText"), QString("not set"));
+    d.key(Qt::Key_Z, Qt::ControlModifier);
+    d.key(Qt::Key_Z, Qt::ControlModifier);
     for (const char *text : {"29.9", "45 apples"}) {
         d.type("field.angleDEG", text, Qt::Key_Tab);
         QCOMPARE(d.text("field.angleDEG"), QString(text));
