@@ -5,6 +5,8 @@
 #include "measuring/PlaceUncertainty.h"
 #include "measuring/UncertaintyText.h"
 
+#include "zalento/settings/UnitConv.h"
+
 #include <QColor>
 
 #include <algorithm>
@@ -83,10 +85,11 @@ QString textOf(Measuring::Decision decision)
     return Assessment::tr("cannot be decided at 95 %");
 }
 
-QString millimetres(double mm)
+// "± 3 mm", "± 0.12''".
+QString lengthText(double mm, MeasureUnit unit)
 {
-    return Measuring::uncertaintyText({{}, mm, QStringLiteral("mm"), QStringLiteral(" mm"), {}, {}},
-                                      mm);
+    const QString text = UnitConv::mmOrInchStr(mm, unit);
+    return Measuring::uncertaintyText({{}, mm, QStringLiteral("mm"), text, {}, {}}, mm);
 }
 
 } // namespace
@@ -225,11 +228,13 @@ void Assessment::findEllipse()
             corners += corner;
         }
         if (const auto place = places.at(pixel)) {
+            const MeasureUnit unit = m_editor.session()->unit;
             const bool isOnPlane = m_editor.session()->kind == Measuring::Kind::CrossSection;
-            m_pointText = (isOnPlane ? tr("Point %1: %2 across, %3 up")
-                                     : tr("Point %1: %2 around, %3 along the pipe"))
-                              .arg(selected + 1)
-                              .arg(millimetres(place->aroundMM), millimetres(place->alongMM));
+            m_pointText =
+                (isOnPlane ? tr("Point %1: %2 across, %3 up")
+                           : tr("Point %1: %2 around, %3 along the pipe"))
+                    .arg(selected + 1)
+                    .arg(lengthText(place->aroundMM, unit), lengthText(place->alongMM, unit));
         }
     }
     m_ellipse = corners;

@@ -110,6 +110,7 @@ private slots:
     void modelLiesOnTheTruth();
     void sessionsMeasureTheTruth_data();
     void sessionsMeasureTheTruth();
+    void fitsAreTold();
 
 private:
     QPainterPath nearModel(const QString &scene, const QStringList &options,
@@ -262,6 +263,16 @@ void TestSamples::sessionsMeasureTheTruth()
     // The operator's clicks were good: the uncertainty says more, but not out of proportion.
     const double expanded = value["expandedUncertainty"].toDouble();
     QVERIFY(error < expanded && expanded < 0.45 * expected);
+}
+
+void TestSamples::fitsAreTold()
+{
+    const QString session = sessionPathOf(samplePath(QStringLiteral("flooded.jpg")));
+    const Run told = runProgram({"measure", "--session", session});
+    QVERIFY2(told.output.contains(": alignment fitted to 2 joints, rms 0.11 px, largest 0.22 px"),
+             told.output);
+    const Run held = runProgram({"measure", "--limit", "> 20 %", "--session", session});
+    QVERIFY2(held.messages.contains("the limit \"> 20 %\" is of another unit"), held.messages);
 }
 
 QTEST_MAIN(TestSamples)
