@@ -260,6 +260,7 @@ Outcome Batch::measurePicture(const Session *start, Work &work)
 Outcome Batch::measureSession(const Session *start, Work &work)
 {
     if (!start && !m_command.session.kind) {
+        work.result.values.status = Status::NotMeasured;
         return Problem{{}, QStringLiteral("there is no session, and --kind is missing")};
     }
     if (const Outcome problem = mergeSession(start, work)) {

@@ -153,8 +153,9 @@ void tell(const PictureResult &result, bool isRender, Console &console)
     for (const QString &problem : result.fileProblems) {
         console.fail(CannotReadOrWrite, about(problem));
     }
-    const bool isDone =
-        values.status == Status::Measured || (isRender && values.status != Status::Failed);
+    const bool isDrawn =
+        isRender && values.status != Status::Failed && values.status != Status::NotMeasured;
+    const bool isDone = values.status == Status::Measured || isDrawn;
     if (isDone) {
         const bool isRefused = values.snap && !values.snap->reason.isEmpty();
         console.note(isRefused ? SomeNotMeasured : AllMeasured);

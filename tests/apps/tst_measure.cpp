@@ -152,8 +152,9 @@ void TestMeasure::answers_data()
     row("session of all", "measure --session w.png.zalento.json a.png", AllMeasured, "13 %", "");
     row("overlay forced", "measure --overlay png --force w.png", AllMeasured, "13 %", "wrote ");
 
-    row("session ignored", "measure --no-session w.png", SomeNotMeasured, "there is no session",
-        "--kind is missing");
+    row("session ignored", "measure --no-session w.png", SomeNotMeasured,
+        "not measured: there is no session", "--kind is missing");
+    row("nothing to draw", "render --no-session w.png", SomeNotMeasured, "", "--kind is missing");
     row("session of another kind", "measure --angle 40 w.png", SomeNotMeasured, "failed",
         "the kind WaterLevel takes no --angle");
     row("session without a picture", "measure --session w.png.zalento.json", SomeNotMeasured,
@@ -166,6 +167,8 @@ void TestMeasure::answers_data()
         "nobody has set what the overlay shows");
     row("level clicked", "measure --click 12,24 w.png", AllMeasured, "waterLevel 50 %", "");
     row("limit", "measure --limit \">=90%\" w.png", AllMeasured, "%): below", "");
+    row("limit of another unit", "measure --limit \"<2 mm\" w.png", AllMeasured, "13 %",
+        "the limit \"<2 mm\" is of another unit");
     row("level clicked beside the pipe", "measure --offset 2000 --click 9,24 w.png",
         SomeNotMeasured, "failed", "the point 9,24 meets no wall");
     row("angle between steps", "measure --kind BendAngle --angle 12 --diameter 300 a.png",

@@ -144,6 +144,7 @@ private slots:
     void curvesAreThoseThatAreDrawn_data();
     void curvesAreThoseThatAreDrawn();
     void fitFollowsWhatItIsNotAskedFor();
+    void refitsMoveValuesByTheirUncertainty();
     void sourcesAddUp();
     void settingsErrByWhatTheEyeLetsPass();
     void drawsTakeOverWhereTheFirstOrderFails();
@@ -259,6 +260,36 @@ void TestUncertainty::fitFollowsWhatItIsNotAskedFor()
     }
     // The direction of a wider view is another one.
     QVERIFY(std::abs(fit.response[2][5]) + std::abs(fit.response[3][5]) > 0.1);
+}
+
+// The field of view and the diameter move a length on the wall as aligning anew moves it.
+void TestUncertainty::refitsMoveValuesByTheirUncertainty()
+{
+    std::mt19937_64 random(seed);
+    const AlignmentTrial trial = drawTrial(Situation::KnownDistance, random, 0.2);
+    const auto refitted = [&trial](double moreDEG, double moreMM) {
+        Session session;
+        session.picture.size = trial.picture;
+        session.kind = Kind::PipeDimension;
+        setAlignment(session, trial.truth);
+        session.fovYDEG += moreDEG;
+        session.diameterMM = trial.diameterMM + moreMM;
+        session.rings = trial.clicks.rings;
+        session.lines = trial.clicks.lines;
+        session.standardUncertainties.diameterMM = 1.0;
+        const AlignmentFit fit = *fitSession(session);
+        for (const QPointF &pixel : trial.wallPixels) {
+            session.points.append({pixel, {}, {}});
+        }
+        return std::pair(measure(session).values.first().number,
+                         *uncertaintiesOf(session, fit, UncertaintyEffort::FirstOrder).first());
+    };
+    const Uncertainty known = refitted(0, 0).second;
+    const double byFov = (refitted(2, 0).first - refitted(-2, 0).first) / 4;
+    const double byDiameter = (refitted(0, 4).first - refitted(0, -4).first) / 8;
+    const Tolerance rounding{0.05, ""}; // the offset is rounded to whole units
+    COMPARE_NEAR(partOf(known, UncertaintySource::FieldOfView) / std::abs(byFov), 1.0, rounding);
+    COMPARE_NEAR(partOf(known, UncertaintySource::Diameter) / std::abs(byDiameter), 1.0, rounding);
 }
 
 void TestUncertainty::sourcesAddUp()
