@@ -14,12 +14,11 @@ using Measuring::Session;
 
 namespace {
 
-constexpr int smallestRing = 3;
-
 bool hasWholeRing(const Session &session)
 {
-    return std::any_of(session.rings.begin(), session.rings.end(),
-                       [](const auto &ring) { return ring.points.size() >= smallestRing; });
+    return std::any_of(session.rings.begin(), session.rings.end(), [](const auto &ring) {
+        return ring.points.size() >= Measuring::smallestRingClicks;
+    });
 }
 
 // The clicks of the feature that a tool goes on with; a new one where there is none.

@@ -7,9 +7,6 @@ namespace Drevon::Zalento {
 
 namespace {
 
-constexpr int smallestRing = 3;
-constexpr int smallestLine = 2;
-
 // The largest distance of a feature's clicks from what is drawn.
 double largestOf(const QVector<QPointF> &residuals)
 {
@@ -41,14 +38,15 @@ void FeatureModel::setFeatures(const Measuring::Session &session,
         const auto residuals = fit ? fit->ringResiduals.value(i) : QVector<QPointF>();
         rows.append({tr("Joint %1").arg(i + 1), false,
                      ring.distanceMM ? QString::number(*ring.distanceMM) : QString(),
-                     noteOf(ring.points.size(), smallestRing, residuals)});
+                     noteOf(ring.points.size(), Measuring::smallestRingClicks, residuals)});
     }
     for (int i = 0; i < session.lines.size(); ++i) {
         const auto residuals = fit ? fit->lineResiduals.value(i) : QVector<QPointF>();
-        rows.append({tr("Line %1").arg(i + 1),
-                     true,
-                     {},
-                     noteOf(session.lines[i].points.size(), smallestLine, residuals)});
+        rows.append(
+            {tr("Line %1").arg(i + 1),
+             true,
+             {},
+             noteOf(session.lines[i].points.size(), Measuring::smallestLineClicks, residuals)});
     }
     setRows(rows);
 }

@@ -25,9 +25,8 @@ QString alignment(const Situation &s)
         return tr("Click along a feature of the wall that runs along the pipe: a seam, the water's "
                   "edge. \"Points\" goes back to measuring.");
     }
-    constexpr int smallestRing = 3;
     const int clicks = s.session.rings.isEmpty() ? 0 : s.session.rings.last().points.size();
-    return clicks < smallestRing
+    return clicks < Measuring::smallestRingClicks
                ? tr("Click on the edge of a joint: from the third click on the ring follows.")
                : tr("The ring follows. Click more of the edge, or begin another joint.");
 }

@@ -14,12 +14,6 @@ namespace Drevon::Zalento::Measuring {
 
 namespace {
 
-// What a session can hold and the model can show.
-constexpr double smallestFovDEG = 1.0;
-constexpr double largestFovDEG = 170.0;
-constexpr double smallestMouthPercent = 5.0;
-constexpr double largestMouthPercent = 400.0;
-
 // Variance of what rounding to whole gesture units leaves: rectangular, 1 unit wide.
 constexpr double roundingVariance = 1.0 / 12.0;
 

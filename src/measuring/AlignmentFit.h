@@ -44,6 +44,17 @@ struct Alignment
     ZALENTO_MEASURING_EXPORT static Alignment of(const AlignmentNumbers &numbers);
 };
 
+/** Fewest clicks that a ring and a line count with. */
+constexpr int smallestRingClicks = 3;
+constexpr int smallestLineClicks = 2;
+
+/** Limits of Alignment::mouthPercent: a far joint in the middle, or one around the camera. */
+constexpr double smallestMouthPercent = 5.0;
+constexpr double largestMouthPercent = 400.0;
+/** Limits of Alignment::fovYDEG: beyond, the picture of a pinhole camera is all distortion. */
+constexpr double smallestFovDEG = 1.0;
+constexpr double largestFovDEG = 170.0;
+
 /**
  * Clicks on the edge of a joint or of any other cross-section of the pipe.
  *
@@ -53,13 +64,13 @@ struct Alignment
 struct RingClicks
 {
     std::optional<double> distanceMM; ///< along the pipe from the first ring, positive inwards
-    QVector<QPointF> points;          ///< three or more; a ring with fewer is left out
+    QVector<QPointF> points;          ///< a ring with fewer than smallestRingClicks is left out
 };
 
 /** Clicks on a feature of the wall that runs along the pipe: a seam, a crack, the water's edge. */
 struct LineClicks
 {
-    QVector<QPointF> points; ///< two or more; a line with fewer is left out
+    QVector<QPointF> points; ///< a line with fewer than smallestLineClicks is left out
 };
 
 /** Everything that was clicked to align the model. */

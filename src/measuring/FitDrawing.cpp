@@ -1,5 +1,6 @@
 #include "measuring/FitDrawing.h"
 
+#include "zalento/geometry/Cylinder.h"
 #include "zalento/math/angles.h"
 #include "zalento/math/truncateToInt.h"
 #include "zalento/pipes/PipeBase.h"
@@ -18,9 +19,6 @@ constexpr double mPerMM = 0.001;
 constexpr int ringSamples = 72;
 constexpr int refinements = 8;
 constexpr double differenceRad = 1e-4;
-
-// How deep the second point of a wall's line lies, in diameters.
-constexpr double lineDepthInDiameters = 10.0;
 
 // The camera and set-up of a pipe without anything to draw.
 class BarePipe : public PipeBase
@@ -84,7 +82,7 @@ QPointF FitDrawing::fromLine(const QPointF &pixel, double clockDEG) const
 {
     const double angle = halfPi + clockDEG * radiansPerDegree;
     const QPointF a = projected(onWall(angle, 0.0));
-    const QPointF along = projected(onWall(angle, 2 * m_radiusM * lineDepthInDiameters)) - a;
+    const QPointF along = projected(onWall(angle, 2 * m_radiusM * Cylinder::lengthInDiameters)) - a;
     const QPointF way = pixel - a;
     return way - along * (QPointF::dotProduct(way, along) / QPointF::dotProduct(along, along));
 }

@@ -15,9 +15,6 @@ namespace Drevon::Zalento::Measuring {
 
 namespace {
 
-constexpr int clicksOfRing = 3;
-constexpr int clicksOfLine = 2;
-
 // Beyond these standard uncertainties the clicks are no better than an alignment by eye: a fifth of
 // the turn that brings the far end from the middle to the edge, a tenth of the diameter of the
 // place, a tenth of the size of the mouth or of the tangent of half the field of view. They move a
@@ -194,12 +191,12 @@ bool isPlaceDetermined(const FitProblem &problem, const Eigen::MatrixXd &covaria
 
 bool isComplete(const RingClicks &ring)
 {
-    return ring.points.size() >= clicksOfRing;
+    return ring.points.size() >= smallestRingClicks;
 }
 
 bool isComplete(const LineClicks &line)
 {
-    return line.points.size() >= clicksOfLine;
+    return line.points.size() >= smallestLineClicks;
 }
 
 std::size_t placeOfField(AlignmentField field)

@@ -16,9 +16,6 @@ constexpr double largestDiameterMM = 1e5;
 // Of gesture units: many diameters away from the picture.
 constexpr double largestShift = 1e5;
 constexpr double largestRollDEG = 3600.0;
-// Of the field of view: beyond, the picture of a pinhole camera is all distortion.
-constexpr double smallestFovDEG = 1.0;
-constexpr double largestFovDEG = 170.0;
 
 template <typename Value>
 struct Choice

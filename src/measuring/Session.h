@@ -123,9 +123,6 @@ ZALENTO_MEASURING_EXPORT const QVector<SessionNumber> &sessionNumbers();
 /** Limits of Session::mmPerPixel. */
 constexpr double smallestMMPerPixel = 1e-6;
 constexpr double largestMMPerPixel = 1e4;
-/** Limits of Session::mouthPercent: a far joint in the middle, or one around the camera. */
-constexpr double smallestMouthPercent = 5.0;
-constexpr double largestMouthPercent = 400.0;
 /** Limit of RingClicks::distanceMM in both directions. */
 constexpr double largestRingDistanceMM = 1e7;
 /** The camera's laser throws this many spots. */
