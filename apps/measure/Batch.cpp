@@ -330,25 +330,42 @@ Outcome Batch::mergeSession(const Session *start, Work &work) const
     return {};
 }
 
+// Clicks that were saved and do not fit leave the alignment that was saved with them.
+Outcome Batch::fitToClicks(Work &work) const
+{
+    const SessionOptions &options = m_command.session;
+    const Alignment asked = alignmentOf(work.session);
+    const Result<AlignmentFit> fit = fitSession(work.session);
+    if (fit) {
+        work.fit = *fit;
+        // With --snap the options say where the search for edges begins.
+        if (!work.snap) {
+            work.result.warnings += overriddenOptions(*fit, options, asked);
+        }
+        work.result.warnings += suspiciousClicks(*fit, work.session);
+    } else if (options.rings || options.lines) {
+        return fit.problem();
+    } else {
+        work.result.warnings +=
+            fit.problem().text() + QStringLiteral("; the alignment stays as it was saved");
+    }
+    return {};
+}
+
 // What lies on a model that has moved is measured where it was clicked.
 Outcome Batch::fitAlignment(const Session *start, Work &work) const
 {
     Session &session = work.session;
-    const Alignment asked = alignmentOf(session);
+    if (m_command.session.fitsFov && session.rings.isEmpty()) {
+        return Problem{{}, QStringLiteral("--fit-fov needs --ring: two joints with a distance")};
+    }
     if (m_command.snaps) {
         snap(work);
     }
     if (hasAlignmentClicks(session)) {
-        const Result<AlignmentFit> fitted = fitSession(session);
-        if (!fitted) {
-            return fitted.problem();
+        if (const Outcome problem = fitToClicks(work)) {
+            return problem;
         }
-        work.fit = *fitted;
-        // Options say where the search for edges begins.
-        if (!work.snap) {
-            work.result.warnings += overriddenOptions(*fitted, m_command.session, asked);
-        }
-        work.result.warnings += suspiciousClicks(*fitted, session);
     }
     if (start && hasMoved(*start, session)) {
         pickPointsAnew(session);

@@ -43,6 +43,7 @@ private:
     Outcome measurePicture(const Session *start, Work &work);
     Outcome measureSession(const Session *start, Work &work);
     Outcome mergeSession(const Session *start, Work &work) const;
+    Outcome fitToClicks(Work &work) const;
     Outcome fitAlignment(const Session *start, Work &work) const;
     void snap(Work &work) const;
     Outcome takeLaserScale(Work &work) const;

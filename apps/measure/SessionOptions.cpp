@@ -217,7 +217,6 @@ std::optional<QVector<QPointF>> parsePoints(const QStringList &texts)
 // "X,Y X,Y X,Y @MM": the distance is optional.
 std::optional<RingClicks> parseRing(const QString &text)
 {
-    constexpr int smallestRing = 3;
     RingClicks ring;
     QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     if (!words.isEmpty() && words.last().startsWith(distanceMark)) {
@@ -229,15 +228,15 @@ std::optional<RingClicks> parseRing(const QString &text)
     }
     const auto points = parsePoints(words);
     ring.points = points.value_or(QVector<QPointF>());
-    return ring.points.size() >= smallestRing ? std::optional<RingClicks>(ring) : std::nullopt;
+    return ring.points.size() >= smallestRingClicks ? std::optional<RingClicks>(ring)
+                                                    : std::nullopt;
 }
 
 std::optional<LineClicks> parseLine(const QString &text)
 {
-    constexpr int smallestLine = 2;
     const auto points = parsePoints(text.split(QLatin1Char(' '), Qt::SkipEmptyParts));
-    return points && points->size() >= smallestLine ? std::optional<LineClicks>({*points})
-                                                    : std::nullopt;
+    return points && points->size() >= smallestLineClicks ? std::optional<LineClicks>({*points})
+                                                          : std::nullopt;
 }
 
 template <typename Clicks, typename Parse>
@@ -261,6 +260,10 @@ void readAlignmentClicks(const QCommandLineParser &parser, OptionReader &reader,
 {
     options.rings = readFeatures<RingClicks>(
         parser, reader, "ring", "three points or more \"X,Y X,Y X,Y\", at its end @MM", parseRing);
+    for (const RingClicks &ring : options.rings.value_or(QVector<RingClicks>())) {
+        reader.note(checkNumber(QStringLiteral("--ring"), ring.distanceMM.value_or(0.0),
+                                -largestRingDistanceMM, largestRingDistanceMM));
+    }
     options.lines = readFeatures<LineClicks>(parser, reader, "line",
                                              "two points or more \"X,Y X,Y\"", parseLine);
     options.fitsFov = reader.isSet("fit-fov");
@@ -432,6 +435,7 @@ Outcome SessionOptions::misfit(const KindInfo &info) const
         {jointShown.has_value(), Uses::Direction, "--joint"},
         {rings.has_value(), Uses::Model, "--ring"},
         {lines.has_value(), Uses::Model, "--line"},
+        {fitsFov, Uses::Model, "--fit-fov"},
     };
     for (const auto &check : checks) {
         if (check.isGiven && !info.has(check.use)) {

@@ -84,6 +84,16 @@ void TestCommandLine::refusesWrongUsage_data()
     row("format of files", "render --format csv a", "it takes no --format");
     row("nothing to write", "measure --output out a", "--output needs something to write");
     row("kinds of a picture", "kinds a.png", "kinds takes no pictures");
+    row("mouth too small", "measure --mouth 4.9 a", "--mouth: expected a number from 5 to 400");
+    row("crack that fits the view", "measure --kind CrackWidth --fit-fov a", "takes no --fit-fov");
+    const auto clicks = [](const char *name, const char *option, const char *value,
+                           const char *expected) {
+        QTest::newRow(name) << QStringList{"measure", option, value, "a"} << QString(expected);
+    };
+    clicks("joint of two clicks", "--ring", "1,1 9,1 @5", "--ring: expected three points");
+    clicks("joint nowhere", "--ring", "1,1 9,1 5,9 @far", "found \"1,1 9,1 5,9 @far\"");
+    clicks("joint out of reach", "--ring", "1,1 9,1 5,9 @2e7", "--ring: expected a number from");
+    clicks("line of one click", "--line", "1,1", "--line: expected two points");
 }
 
 void TestCommandLine::refusesWrongUsage()
@@ -116,6 +126,17 @@ void TestCommandLine::optionsReachTheSession()
     QCOMPARE(crack.points.size(), 2);
     QCOMPARE(crack.points[1].pixel, QPointF(-3, 4));
     QVERIFY(!crack.points[1].position);
+
+    const auto aligned =
+        parseCommandLine({"measure", "--ring", "1,1 9,1 5,9", "--ring", "1,1 9,1 5,9.5 @-7.5",
+                          "--line", "1,2 3,4", "--fit-fov", "--mouth", "62.5", "a"});
+    Session pipe;
+    aligned.command->session.applyTo(pipe);
+    const auto clicked = sessionFromJson(R"({"schema": "zalento-session 1.1", "fitsFov": true,
+        "rings": [{"distanceMM": null, "points": [[1, 1], [9, 1], [5, 9]]},
+                  {"distanceMM": -7.5, "points": [[1, 1], [9, 1], [5, 9.5]]}],
+        "lines": [{"points": [[1, 2], [3, 4]]}], "mouthPercent": 62.5})");
+    QCOMPARE(sessionToJson(pipe), sessionToJson(*clicked));
 }
 
 void TestCommandLine::laserSpotsAreTwoWordsOrOne()

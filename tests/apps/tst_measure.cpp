@@ -178,6 +178,10 @@ void TestMeasure::answers_data()
         "length", "point 2 lies 33.8 diameters down the pipe, beyond the modelled 10:");
     row("point outside", "measure --kind CrackWidth --click 64,1 a.png", SomeNotMeasured, "failed",
         "the point 64,1 lies outside the picture of 64 x 48 pixels");
+    row("view fitted to nothing", "measure --kind PipeDimension --fit-fov a.png", SomeNotMeasured,
+        "failed", "--fit-fov needs --ring");
+    row("clicks that give nothing", "measure --session stray.zalento.json a.png", AllMeasured,
+        "13 %", "the alignment stays as it was saved");
     row("laser spots on one pixel", "measure --kind CrackWidth --laser 1,1 1,1 a.png",
         SomeNotMeasured, "failed", "same pixel");
     row("point beside the pipe", "measure --kind PipeDimension --offset 2000 --click 9,24 a.png",
@@ -216,6 +220,8 @@ void TestMeasure::answers()
     session.kind = Kind::WaterLevel;
     session.percentage = 12.5;
     QVERIFY(!saveSession(session, path("w.png.zalento.json"), Overwrite::Refuse));
+    session.rings = {{{}, {{1, 1}}}};
+    QVERIFY(!saveSession(session, path("stray.zalento.json"), Overwrite::Refuse));
     QVERIFY(addPicture("w.png") && addPicture("w.bmp", QSize(10, 10)));
     QVERIFY(writeBytes(path("bad.zalento.json"), "bad"));
     QVERIFY(writeBytes(path("w.overlay.png"), "mine"));

@@ -108,6 +108,8 @@ private slots:
     void clicksMeasureTheTruth();
     void modelLiesOnTheTruth_data();
     void modelLiesOnTheTruth();
+    void jointsGiveTheCamera_data();
+    void jointsGiveTheCamera();
     void sessionsMeasureTheTruth_data();
     void sessionsMeasureTheTruth();
     void fitsAreTold();
@@ -223,6 +225,92 @@ QPainterPath TestSamples::nearModel(const QString &scene, const QStringList &opt
                            m_dir.path(), samplePath(scene + ".jpg")} +
                alignment(truthOf(scene)) + options);
     return nearLinesIn(readBytes(m_dir.filePath(scene + QStringLiteral(".overlay.svg"))), colour);
+}
+
+void TestSamples::jointsGiveTheCamera_data()
+{
+    QTest::addColumn<QString>("distance");
+    QTest::addColumn<double>("givenFovDEG");
+    QTest::addColumn<QString>("undetermined");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("with its distance") << " @700" << 45.0 << ""
+                                       << "determine fovYDEG: the option";
+    QTest::newRow("without") << "" << 52.0 << "fovYDEG"
+                             << "";
+}
+
+// The joints as they are, from a program that draws them by itself; a saved fit stays as it is.
+void TestSamples::jointsGiveTheCamera()
+{
+    QFETCH(QString, distance);
+    QFETCH(double, givenFovDEG);
+    QFETCH(QString, undetermined);
+    QFETCH(QString, message);
+    const QJsonObject truth = truthOf(QStringLiteral("tilted"));
+    const auto clicksOf = [](const QJsonValue &list) {
+        QStringList clicks;
+        for (const QPointF &point : pointsOf(list)) {
+            clicks += pointText(point);
+        }
+        return clicks.join(QLatin1Char(' '));
+    };
+    const QJsonArray joints = truth["joints"].toArray();
+    const Run run = runProgram({"measure",
+                                "--no-session",
+                                "--kind",
+                                "PipeDimension",
+                                "--diameter",
+                                "300",
+                                "--fov",
+                                QString::number(givenFovDEG),
+                                "--fit-fov",
+                                "--ring",
+                                clicksOf(joints[0]["clicks"]),
+                                "--ring",
+                                clicksOf(joints[1]["clicks"]) + distance,
+                                "--line",
+                                "335.2225683,688.1983342 "
+                                "442.2872838,555.7288419",
+                                "--click",
+                                "253.1,187.9",
+                                "--click",
+                                "336.7,252.1",
+                                "--format",
+                                "jsonl",
+                                "--save-session",
+                                "--force",
+                                "--output",
+                                m_dir.path(),
+                                samplePath("tilted.jpg")});
+    QVERIFY2(run.messages.contains(message.toUtf8()), run.messages);
+    const QJsonObject alignment =
+        QJsonDocument::fromJson(run.output).object()["alignment"].toObject();
+    const QJsonObject camera = truth["camera"].toObject();
+    QCOMPARE(alignment["rings"].toInt(), 2);
+    QCOMPARE(alignment["lines"].toInt(), 1);
+    QCOMPARE(alignment["offset"], camera["offsetPx"]);
+    const auto isTrue = [](const QJsonValue &found, const QJsonValue &expected) {
+        return std::abs(found.toDouble() - expected.toDouble()) < 0.01;
+    };
+    QVERIFY(isTrue(alignment["cameraHeightPercent"], camera["heightPercent"]));
+    QVERIFY(isTrue(alignment["rearCircle"][0], camera["rearCircle"][0]));
+    QVERIFY(isTrue(alignment["rearCircle"][1], camera["rearCircle"][1]));
+    QVERIFY(isTrue(alignment["mouthPercent"], 100.0));
+    QVERIFY(isTrue(alignment["fovYDEG"], camera["fovDeg"]));
+    QVERIFY(alignment["largestPX"].toDouble() < 0.05);
+    QCOMPARE(alignment["undetermined"][0].toString(), undetermined);
+    QCOMPARE(alignment["fitted"].toArray().size(), undetermined.isEmpty() ? 6 : 5);
+    for (const QJsonValue name : alignment["fitted"].toArray()) {
+        QVERIFY(alignment["standardUncertainties"][name.toString()].toDouble() > 0.0);
+    }
+
+    const QString saved = m_dir.filePath(QStringLiteral("tilted.jpg.zalento.json"));
+    const Run again = runProgram({"measure", "--session", saved, "--format", "jsonl"});
+    const QJsonObject other = QJsonDocument::fromJson(again.output).object();
+    QCOMPARE(other["alignment"].toObject(), alignment);
+    QCOMPARE(valuesOf(again.output), valuesOf(run.output));
+    QVERIFY(runProgram({"measure", "--session", saved})
+                .output.contains("alignment fitted to 2 joints and 1 line, rms 0.0"));
 }
 
 void TestSamples::sessionsMeasureTheTruth_data()

@@ -47,8 +47,8 @@ Session fullSession()
     session.standardUncertainties = {0.1, 0.2, 0.3, 0.4, 0.5, 0.6};
     session.repeats = {{{QStringLiteral("crackWidth"), 0.7}}, {}};
     session.limit = QStringLiteral("< 0.5 mm");
-    session.rings = {RingClicks{120.5, {{1, 2}, {3, 4}, {5, 6.5}}}};
-    session.lines = {LineClicks{{{1, 2}, {3, 4}}}};
+    session.rings = {{-1.0 / 3.0, {{0.1 + 0.2, 1e5}, {-2, 3}}}, {{}, {}}};
+    session.lines = {{{{1.0 / 7.0, 4}}}};
     session.fitsFov = true;
     session.points = {
         {QPointF(1.0 / 7.0, 1e15 + 0.5), Vec3(-1.0 / 3.0, 5e-324, 1.7976931348623157e308), {}},
