@@ -65,6 +65,7 @@ void CameraProfiles::apply(const QString &name)
     }
     Measuring::Session session = *m_editor.session();
     session.fovYDEG = fovYDEG;
+    session.fitsFov = false;
     if (const auto problem = Measuring::checkSession(session)) {
         m_guidance.notice(Guidance::Error, problem->text());
         return;

@@ -27,7 +27,7 @@ public:
 
     /** Keeps the field of view of the picture on view; a profile of this name is written over. */
     Q_INVOKABLE void keep(const QString &name);
-    /** Takes the profile's field of view. */
+    /** Takes the profile's field of view, which is not fitted then. */
     Q_INVOKABLE void apply(const QString &name);
     Q_INVOKABLE void remove(const QString &name);
 

@@ -7,6 +7,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <numeric>
 
 namespace Drevon::Zalento {
 
@@ -21,28 +22,42 @@ bool hasWholeRing(const Session &session)
     });
 }
 
-// The clicks of the feature that a tool goes on with; a new one where there is none.
+// The clicks of the feature of this number; a new one where there is none.
 template <typename Clicks>
-QVector<QPointF> &featureToClick(QVector<Clicks> &features, bool isNew)
+QVector<QPointF> &featureToClick(QVector<Clicks> &features, int number)
 {
-    if (features.isEmpty() || isNew) {
+    if (number >= features.size()) {
         features.append(Clicks());
+        return features.last().points;
     }
-    return features.last().points;
+    return features[number].points;
+}
+
+// Takes out the click of this number, and its feature when it was the only one there. Where there
+// are fewer clicks, the number becomes the one among what follows.
+template <typename Clicks>
+bool takeOutClick(QVector<Clicks> &features, int &number)
+{
+    for (int i = 0; i < features.size(); ++i) {
+        QVector<QPointF> &clicks = features[i].points;
+        if (number < clicks.size()) {
+            clicks.removeAt(number);
+            if (clicks.isEmpty()) {
+                features.removeAt(i);
+            }
+            return true;
+        }
+        number -= clicks.size();
+    }
+    return false;
 }
 
 template <typename Clicks>
-void dropLastClick(QVector<Clicks> &features)
+int clickCount(const QVector<Clicks> &features)
 {
-    if (features.isEmpty()) {
-        return;
-    }
-    if (!features.last().points.isEmpty()) {
-        features.last().points.removeLast();
-    }
-    if (features.last().points.isEmpty()) {
-        features.removeLast();
-    }
+    return std::accumulate(features.begin(), features.end(), 0, [](int count, const auto &feature) {
+        return count + feature.points.size();
+    });
 }
 
 bool isSuspicious(const Measuring::AlignmentFit &fit, bool isLine, int feature, int point)
@@ -55,7 +70,7 @@ bool isSuspicious(const Measuring::AlignmentFit &fit, bool isLine, int feature, 
 // What the scene draws for each click of the features of one sort.
 template <typename Clicks>
 void addMarks(QVariantList &marks, const QVector<Clicks> &features, bool isLine,
-              const std::optional<Measuring::AlignmentFit> &fit)
+              const std::optional<Measuring::AlignmentFit> &fit, int selected)
 {
     for (int i = 0; i < features.size(); ++i) {
         QVector<QPointF> residuals;
@@ -66,7 +81,8 @@ void addMarks(QVariantList &marks, const QVector<Clicks> &features, bool isLine,
             marks.append(QVariantMap{
                 {QStringLiteral("pixel"), features[i].points[k]},
                 {QStringLiteral("residual"), residuals.value(k)},
-                {QStringLiteral("isSuspicious"), fit && isSuspicious(*fit, isLine, i, k)}});
+                {QStringLiteral("isSuspicious"), fit && isSuspicious(*fit, isLine, i, k)},
+                {QStringLiteral("isSelected"), marks.size() == selected}});
         }
     }
 }
@@ -82,7 +98,7 @@ void MeasurementEditor::setToolNumber(int tool)
     }
     m_tool = chosen;
     m_selectedClick = -1;
-    m_beginsFeature = false;
+    goOnWithLastFeature();
     expectLaserSpots(0, {});
     selectPoint(-1);
     Q_EMIT toolChanged();
@@ -109,13 +125,28 @@ void MeasurementEditor::setFitsFov(bool fits)
 // A fit that fails leaves the alignment; why is said as soon as there is something to fit.
 void MeasurementEditor::fit(Session &session)
 {
+    m_fit.reset();
     m_fitProblem.clear();
     if (!Measuring::hasAlignmentClicks(session)) {
         return;
     }
     const auto fitted = Measuring::fitSession(session);
-    if (!fitted && hasWholeRing(session)) {
+    if (fitted) {
+        m_fit = *fitted;
+    } else if (hasWholeRing(session)) {
         m_fitProblem = fitted.problem().text();
+    }
+}
+
+// A hand that moves a model in vain is told why.
+void MeasurementEditor::tellHeldModel(const Session &asked)
+{
+    const auto start = Measuring::alignmentOf(*m_gestureStart).numbers();
+    const auto shown = Measuring::alignmentOf(*session()).numbers();
+    if (Measuring::alignmentOf(asked).numbers() != start && shown == start) {
+        m_guidance.notice(
+            Guidance::Information,
+            tr("The clicked joints and lines hold the model. Remove them to move it."));
     }
 }
 
@@ -123,8 +154,8 @@ void MeasurementEditor::showAlignmentClicks()
 {
     QVariantList marks;
     if (isReady()) {
-        addMarks(marks, session()->rings, false, m_fit);
-        addMarks(marks, session()->lines, true, m_fit);
+        addMarks(marks, session()->rings, false, m_fit, m_selectedClick);
+        addMarks(marks, session()->lines, true, m_fit, m_selectedClick);
         m_features.setFeatures(*session(), m_fit);
     } else {
         m_features.clear();
@@ -139,29 +170,43 @@ void MeasurementEditor::addAlignmentClick(const QPointF &pixel)
 {
     Session session = sessionCopy();
     const bool isJoint = m_tool == Tool::Joint;
-    QVector<QPointF> &clicks = isJoint ? featureToClick(session.rings, m_beginsFeature)
-                                       : featureToClick(session.lines, m_beginsFeature);
+    m_clickedFeature = std::min(m_clickedFeature, featureCount());
+    QVector<QPointF> &clicks = isJoint ? featureToClick(session.rings, m_clickedFeature)
+                                       : featureToClick(session.lines, m_clickedFeature);
     clicks.append(pixel);
     m_selectedClick = static_cast<int>(alignmentClicksOf(session).indexOf(&clicks.last()));
-    m_beginsFeature = false;
     change(isJoint ? tr("Click a joint") : tr("Click a line"), session, Moves::Nothing);
     if (!m_fitProblem.isEmpty()) {
         m_guidance.notice(Guidance::Warning, m_fitProblem);
     }
 }
 
+// The selected click, else the tool's last one.
 void MeasurementEditor::dropAlignmentClick()
 {
-    if (!isReady()) {
+    if (!isReady() || featureCount() == 0) {
         return;
     }
     Session session = sessionCopy();
-    if (m_tool == Tool::Joint) {
-        dropLastClick(session.rings);
-    } else {
-        dropLastClick(session.lines);
+    const int ringClicks = clickCount(session.rings);
+    const int last =
+        (m_tool == Tool::Joint ? ringClicks : ringClicks + clickCount(session.lines)) - 1;
+    int number = m_selectedClick < 0 ? last : m_selectedClick;
+    if (takeOutClick(session.rings, number) || takeOutClick(session.lines, number)) {
+        m_selectedClick = -1;
+        change(tr("Drop click"), session, Moves::Nothing);
     }
-    change(tr("Drop last click"), session, Moves::Nothing);
+}
+
+bool MeasurementEditor::selectAlignmentClick(const QPointF &pixel, double radius)
+{
+    const bool isAligning = isReady() && m_tool != Tool::Measure && !isCalibrating();
+    const int nearest = isAligning ? nearestAlignmentClick(pixel, radius) : -1;
+    if (nearest >= 0) {
+        m_selectedClick = nearest;
+        showAlignmentClicks();
+    }
+    return nearest >= 0;
 }
 
 // In the order of the marks.
@@ -204,9 +249,20 @@ bool MeasurementEditor::nudgeAlignmentClick(const QPointF &step)
     return true;
 }
 
+int MeasurementEditor::featureCount() const
+{
+    const Session shown = sessionCopy();
+    return m_tool == Tool::Line ? shown.lines.size() : shown.rings.size();
+}
+
+void MeasurementEditor::goOnWithLastFeature()
+{
+    m_clickedFeature = std::max(0, featureCount() - 1);
+}
+
 void MeasurementEditor::beginFeature()
 {
-    m_beginsFeature = true;
+    m_clickedFeature = featureCount();
     m_guidance.notice(Guidance::Information, m_tool == Tool::Line
                                                  ? tr("Click along another line of the wall.")
                                                  : tr("Click on the edge of another joint."));
@@ -224,7 +280,9 @@ void MeasurementEditor::removeFeature(int row)
     } else {
         session.lines.removeAt(line);
     }
+    m_selectedClick = -1;
     change(tr("Remove from the alignment"), session, Moves::Nothing);
+    goOnWithLastFeature();
 }
 
 QString MeasurementEditor::setFeatureDistance(int row, const QString &mm)
@@ -260,6 +318,8 @@ void MeasurementEditor::alignAsBefore()
     const Session &other = *m_documents.at(before).session;
     Session session = sessionCopy();
     Measuring::setAlignment(session, Measuring::alignmentOf(other));
+    session.rings.clear();
+    session.lines.clear();
     session.rollDEG = other.rollDEG;
     session.diameterMM = other.diameterMM;
     change(tr("Align as before"), session, Moves::Model);

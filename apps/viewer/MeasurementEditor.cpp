@@ -120,10 +120,12 @@ void MeasurementEditor::leaveCurrent()
     }
     selectPoint(-1);
     expectLaserSpots(0, {});
+    m_selectedClick = -1;
 }
 
 void MeasurementEditor::showCurrent()
 {
+    goOnWithLastFeature();
     if (session()) {
         show(sessionCopy());
     } else {
@@ -131,16 +133,10 @@ void MeasurementEditor::showCurrent()
     }
 }
 
-void MeasurementEditor::show(const Session &session)
+void MeasurementEditor::show(Session session)
 {
+    fit(session);
     m_documents.current()->session = session;
-    Session fitted = session;
-    m_fit.reset();
-    if (Measuring::hasAlignmentClicks(session)) {
-        if (const auto fit = Measuring::fitSession(fitted)) {
-            m_fit = *fit;
-        }
-    }
     if (isReady()) {
         Measuring::showSession(session, *m_item);
     }
@@ -291,12 +287,12 @@ void MeasurementEditor::preview(Session next, Moves moves)
     if (!m_gestureStart) {
         m_gestureStart = sessionCopy();
     }
-    fit(next);
     if (moves == Moves::Model) {
         Measuring::pickPointsAnew(next);
     }
     m_guidance.clearNotice();
     show(next);
+    tellHeldModel(next);
 }
 
 void MeasurementEditor::finishGesture(const QString &name, int mergeNumber)

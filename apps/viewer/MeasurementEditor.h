@@ -66,7 +66,7 @@ class MeasurementEditor : public QObject
     /** What the fit says; empty without joints and lines. */
     Q_PROPERTY(QString fitText READ fitText NOTIFY fitTextChanged)
     Q_PROPERTY(Drevon::Zalento::FeatureModel *features READ features CONSTANT)
-    /** Where joints and lines were clicked: {pixel, residual, isSuspicious} each. */
+    /** Where joints and lines were clicked: {pixel, residual, isSuspicious, isSelected} each. */
     Q_PROPERTY(QVariantList alignmentMarks READ alignmentMarks NOTIFY alignmentMarksChanged)
 
     Q_PROPERTY(bool rearCircleActive READ rearCircleActive WRITE setRearCircleActive NOTIFY
@@ -182,13 +182,15 @@ public:
     Q_INVOKABLE void resetAlignment();
     /** Fits the model to the edges of its joints that the picture shows. */
     Q_INVOKABLE void snap();
-    /** Takes the alignment of the picture before this one. */
+    /** Takes the alignment of the picture before this one, instead of joints and lines. */
     Q_INVOKABLE void alignAsBefore();
     Q_INVOKABLE void loadCalibration(const QString &path);
     /** @} */
 
     /** @name Joints and lines, by the rows of #features */
     /** @{ */
+    /** Selects the click within @p radius, to be nudged or dropped; false when there is none. */
+    Q_INVOKABLE bool selectAlignmentClick(const QPointF &pixel, double radius);
     /** The next click of the tool begins another joint or line. */
     Q_INVOKABLE void beginFeature();
     Q_INVOKABLE void removeFeature(int row);
@@ -272,7 +274,7 @@ private:
         bool isModified = false;
     };
 
-    void show(const Measuring::Session &session);
+    void show(Measuring::Session session);
     void assess(Measuring::UncertaintyEffort effort);
     void refresh();
     Shown shownNow() const;
@@ -285,6 +287,9 @@ private:
     void leaveCurrent();
     void takeItemDiameter();
     void fit(Measuring::Session &session);
+    void tellHeldModel(const Measuring::Session &asked);
+    void goOnWithLastFeature();
+    int featureCount() const;
     void showAlignmentClicks();
     void addAlignmentClick(const QPointF &pixel);
     void dropAlignmentClick();
@@ -307,7 +312,7 @@ private:
     int m_selectedPoint = -1;
 
     Tool m_tool = Tool::Measure;
-    bool m_beginsFeature = false;
+    int m_clickedFeature = 0; ///< among the tool's joints or lines; their number: a new one
     bool m_isLocked = false;
     FeatureModel m_features;
     QVariantList m_alignmentMarks;

@@ -5,10 +5,12 @@ import QtQuick 2.15
 Item {
     property point residual
     property bool isSuspicious: false
+    property bool isSelected: false
     property real viewScale: 1
 
     readonly property real enlargement: 10
-    readonly property color mark: isSuspicious ? Theme.error : Theme.warning
+    readonly property color mark: isSuspicious ? Theme.error
+                                               : isSelected ? Theme.accent : Theme.warning
 
     Rectangle {
         readonly property real off: Math.hypot(parent.residual.x, parent.residual.y)
@@ -25,7 +27,7 @@ Item {
         Rectangle {
             x: -width / 2
             y: -height / 2
-            width: parent.isSuspicious ? 22 : 16
+            width: parent.isSuspicious || parent.isSelected ? 22 : 16
             height: 3
             rotation: modelData
             color: parent.mark

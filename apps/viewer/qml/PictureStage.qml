@@ -47,9 +47,15 @@ FocusScope {
         cursor = Qt.point(Math.max(0, Math.min(size.width - 1, cursor.x + dx)),
                           Math.max(0, Math.min(size.height - 1, cursor.y + dy)))
     }
+    // A click that joints and lines have there already is taken, for the arrows and Backspace.
+    function clickAt(pixel) {
+        const reach = selectReach / stageView.scale
+        if (!Viewer.editor.selectAlignmentClick(pixel, reach))
+            Viewer.editor.click(pixel)
+    }
     function clickCursor() {
         if (cursor)
-            Viewer.editor.click(cursor)
+            clickAt(cursor)
         else
             cursor = stageView.toPicture(Qt.point(width / 2, height / 2))
     }
@@ -164,6 +170,7 @@ FocusScope {
             visible: !stage.isOverlayHidden
             residual: modelData.residual
             isSuspicious: modelData.isSuspicious
+            isSelected: modelData.isSelected
             viewScale: stageView.scale
         }
     }
@@ -195,7 +202,7 @@ FocusScope {
             stage.forceActiveFocus()
             const near = stage.pointAt(position, isTouch)
             near >= 0 ? Viewer.editor.selectedPoint = near
-                      : Viewer.editor.click(stageView.toPicture(position))
+                      : stage.clickAt(stageView.toPicture(position))
         }
         onDragBegan: {
             stage.forceActiveFocus()

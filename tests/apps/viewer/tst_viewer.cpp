@@ -2,6 +2,7 @@
 #include "ViewerDriver.h"
 
 #include "measuring/SessionFile.h"
+#include "measuring/SessionFit.h"
 #include "support/TestCase.h"
 
 #include <QAccessible>
@@ -84,6 +85,8 @@ private slots:
     void recordSetsTheDiameter();
     void overlayHidesWhileHeld();
     void jointsAlignTheModel();
+    void jointClicksAreTakenByKeys();
+    void nextPictureTakesTheCamera();
     void valuesAreAssessed();
 };
 
@@ -684,6 +687,77 @@ void TestViewer::valuesAreAssessed()
     d.screenshot("map");
     d.key(Qt::Key_1); // a crack has no pipe
     QCOMPARE(assessment.map(), int(Assessment::NoMap));
+}
+
+// Without a pointer: a cursor clicks, and takes what was clicked.
+void TestViewer::jointClicksAreTakenByKeys()
+{
+    ViewerDriver d;
+    d.openSample("dimension.jpg");
+    const QQuickItem *cursor = d.find("cursor");
+    d.key(Qt::Key_Return);
+    QVERIFY(cursor->isVisible());
+    QCOMPARE(d.editor.points()->count(), 0);
+    const QQuickItem *stage = d.find("stage");
+    const QPointF middle = d.view()->toPicture({stage->width() / 2, stage->height() / 2});
+    d.key(Qt::Key_Left, Qt::ShiftModifier);
+    d.key(Qt::Key_Down);
+    d.editor.setProperty("tool", 1);
+    d.key(Qt::Key_Return);
+    const auto clicks = [&] { return d.editor.session()->rings.value(0).points; };
+    QCOMPARE(clicks(), QVector<QPointF>{middle + QPointF(-10, 1)});
+    d.key(Qt::Key_Left, Qt::ShiftModifier);
+    d.key(Qt::Key_Return);
+    d.key(Qt::Key_Right, Qt::ShiftModifier);
+    d.key(Qt::Key_Return); // takes the first again
+    QCOMPARE(clicks().size(), 2);
+    d.key(Qt::Key_Escape);
+    QVERIFY(!cursor->isVisible());
+    d.key(Qt::Key_Up);
+    QCOMPARE(clicks().value(0), middle + QPointF(-10, 0));
+    d.key(Qt::Key_Backspace);
+    QCOMPARE(clicks(), QVector<QPointF>{middle + QPointF(-20, 1)});
+
+    // A second joint whose only click is dropped begins again.
+    d.editor.beginFeature();
+    d.click(300, 300);
+    d.key(Qt::Key_Backspace);
+    QCOMPARE(d.editor.session()->rings.size(), 1);
+    d.click(310, 300);
+    QCOMPARE(d.editor.session()->rings.size(), 2);
+}
+
+void TestViewer::nextPictureTakesTheCamera()
+{
+    ViewerDriver d;
+    const QString other = d.copySample("tilted.jpg");
+    d.documents.openPaths({d.copySample("dimension.jpg"), d.copySample("water.jpg"), other});
+    d.type("field.fovYDEG", "41.5");
+    d.drag(d.at(300, 300), d.at(320, 310));
+    const Measuring::Alignment aligned = Measuring::alignmentOf(*d.editor.session());
+    d.viewer.cameras()->keep("pole / 2");
+    d.documents.showNext();
+    d.editor.alignAsBefore();
+    QCOMPARE(Measuring::alignmentOf(*d.editor.session()).numbers(), aligned.numbers());
+    d.type("field.fovYDEG", "60");
+    QCOMPARE(d.viewer.cameras()->names(), QStringList{"pole / 2"});
+    d.viewer.cameras()->apply("pole / 2");
+    QCOMPARE(d.editor.session()->fovYDEG, 41.5);
+    d.documents.showNext(); // a picture of another size
+    QVERIFY(d.viewer.cameras()->names().isEmpty());
+
+    // Joints hold the model: a hand that drags it is told.
+    d.editor.setProperty("tool", 1);
+    for (const QPointF &edge : truePixels("tilted", "joints.0.clicks").mid(1, 4)) {
+        d.click(edge.x(), edge.y());
+    }
+    d.editor.setProperty("tool", 0);
+    const Session fitted = *d.editor.session();
+    d.drag(d.at(300, 300), d.at(320, 310));
+    QVERIFY(*d.editor.session() == fitted);
+    QVERIFY2(d.guidance.text().contains("hold the model"), qPrintable(d.guidance.text()));
+    d.clickItem("resetKey");
+    QVERIFY(d.editor.session()->rings.isEmpty());
 }
 
 } // namespace Drevon::Zalento::Test
