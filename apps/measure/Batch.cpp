@@ -1,5 +1,7 @@
 #include "measure/Batch.h"
 
+#include "measure/LibraryMessages.h"
+
 #include "measuring/Editing.h"
 #include "measuring/Limit.h"
 #include "measuring/Measurement.h"
@@ -180,52 +182,103 @@ QStringList lackingTrust(const QVector<Value> &values, const Session &session)
     return warnings;
 }
 
+// The file that a path leads to, which need not be there.
+QString placeOf(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.dir().canonicalPath() + QLatin1Char('/') + info.fileName();
+}
+
+// A file to be written.
+struct DrawnFile
+{
+    QString path;
+    QByteArray content;
+};
+
 } // namespace
 
 struct Batch::Work
 {
+    explicit Work(PictureRequest asked)
+        : request(std::move(asked))
+    {}
+
+    PictureRequest request;
     PictureResult result;
+    QStringList readPaths; // also of a file that is not there
     Picture picture;
     Session session;
     std::optional<AlignmentFit> fit;
     std::optional<SnapSummary> snap;
     bool isOtherPicture = false; // than the one of the session
+    bool isMeasured = false;
+    QVector<DrawnFile> drawn;
+    std::shared_ptr<ZaItem> item; // made and destroyed on the thread that runs the jobs
 };
 
-Batch::Batch(const CommandLine &command, const std::optional<Session> &session)
+Batch::Batch(const CommandLine &command, const std::optional<Session> &session, OrderedJobs &jobs)
     : m_command(command)
     , m_session(session)
+    , m_jobs(jobs)
 {}
 
-PictureResult Batch::run(const PictureRequest &request)
+std::shared_ptr<Batch::Work> Batch::measure(const PictureRequest &request) const
 {
-    Work work;
-    work.result.values.picture = request.path;
-    work.result.values.message = request.problem;
-    if (!request.problem.isEmpty()) {
-        return work.result;
+    const LibraryMessages said;
+    auto work = std::make_shared<Work>(request);
+    work->result.values.picture = request.path;
+    work->result.values.message = request.problem;
+    if (request.problem.isEmpty()) {
+        measureRequest(*work);
     }
-    const Result<std::optional<Session>> start = startingSession(request, work);
-    if (!start) {
-        work.result.values.message = start.problem().text();
-        work.result.fileProblems += work.result.values.message;
-        return work.result;
-    }
-    if (const Outcome problem = measurePicture(*start ? &**start : nullptr, work)) {
-        work.result.values.message = problem->text();
-    }
-    return work.result;
+    work->picture.image = QImage(); // the largest part, and nobody needs it any more
+    work->result.warnings = said.messages() + work->result.warnings;
+    return work;
 }
 
-Result<std::optional<Session>> Batch::startingSession(const PictureRequest &request,
-                                                      Work &work) const
+PictureResult Batch::finish(std::shared_ptr<Work> work)
 {
-    const QString beside = sessionPathOf(request.path);
-    const bool readsBeside = !m_command.ignoresSessions && QFileInfo::exists(beside);
+    if (readWhatIsWritten(*work)) {
+        work = measure(work->request);
+    }
+    if (work->isMeasured) {
+        writeFiles(*work);
+    }
+    return work->result;
+}
+
+void Batch::measureRequest(Work &work) const
+{
+    PictureResult &result = work.result;
+    const Result<std::optional<Session>> start = startingSession(work);
+    if (!start) {
+        result.values.message = start.problem().textAfter(result.values.picture);
+        result.fileProblems += start.problem();
+        return;
+    }
+    if (const Outcome problem = measurePicture(*start ? &**start : nullptr, work)) {
+        result.values.message = problem->textAfter(result.values.picture);
+        return;
+    }
+    work.isMeasured = true;
+    if (m_command.verb == Verb::Unroll) {
+        unroll(work);
+    } else {
+        drawFiles(work);
+    }
+}
+
+Result<std::optional<Session>> Batch::startingSession(Work &work) const
+{
+    const PictureRequest &request = work.request;
+    const QString path = request.isSession ? request.path : sessionPathOf(request.path);
+    work.readPaths += path;
+    const bool readsBeside = !m_command.ignoresSessions && QFileInfo::exists(path);
     if (!request.isSession && (m_session || !readsBeside)) {
         return m_session;
     }
-    const Result<Session> session = loadSession(request.isSession ? request.path : beside);
+    const Result<Session> session = loadSession(path);
     if (!session) {
         return session.problem();
     }
@@ -235,12 +288,13 @@ Result<std::optional<Session>> Batch::startingSession(const PictureRequest &requ
     return std::optional<Session>(*session);
 }
 
-Outcome Batch::measurePicture(const Session *start, Work &work)
+Outcome Batch::measurePicture(const Session *start, Work &work) const
 {
     PictureValues &values = work.result.values;
     if (values.picture.isEmpty()) {
         return Problem{{}, QStringLiteral("the session names no picture")};
     }
+    work.readPaths += values.picture;
     const Result<Picture> picture = loadPicture(values.picture);
     if (!picture) {
         return picture.problem();
@@ -257,7 +311,7 @@ Outcome Batch::measurePicture(const Session *start, Work &work)
     return measureSession(start, work);
 }
 
-Outcome Batch::measureSession(const Session *start, Work &work)
+Outcome Batch::measureSession(const Session *start, Work &work) const
 {
     if (!start && !m_command.session.kind) {
         work.result.values.status = Status::NotMeasured;
@@ -279,10 +333,6 @@ Outcome Batch::measureSession(const Session *start, Work &work)
         return problem;
     }
     tellValues(work);
-    if (m_command.verb == Verb::Unroll) {
-        return unroll(work);
-    }
-    writeFiles(work);
     return {};
 }
 
@@ -433,73 +483,101 @@ Outcome Batch::takeWaterLevel(Work &work) const
 
 // Files
 
-void Batch::writeFiles(Work &work)
+void Batch::drawFiles(Work &work) const
 {
     if (m_command.writesPng || m_command.writesSvg) {
-        ZaItem item;
-        showSession(work.session, item);
-        if (work.result.values.status == Status::NotSet) {
-            work.result.warnings += QStringLiteral("nobody has set what the overlay shows: %1")
-                                        .arg(neededOption(infoOf(work.session.kind)));
-        }
-        const QString &picture = work.result.values.picture;
-        if (m_command.writesPng) {
-            write(overlayPathOf(picture, m_command.outputFolder, QStringLiteral("png")),
-                  overlayPng(item, work.picture.image), work.result);
-        }
-        if (m_command.writesSvg) {
-            write(overlayPathOf(picture, m_command.outputFolder, QStringLiteral("svg")),
-                  overlaySvg(item, work.picture.image.size()), work.result);
-        }
+        drawOverlay(work);
     }
     if (m_command.map) {
-        writeMap(work);
-    }
-    if (m_command.savesSession) {
-        saveSessionOf(work);
+        drawMap(work);
     }
 }
 
-Outcome Batch::unroll(Work &work)
+// All items share the diameter, and so they are set up one after the other. Then they paint each
+// for itself, away from the GUI thread, as they do for the scene graph.
+void Batch::drawOverlay(Work &work) const
 {
+    m_jobs.onCallersThread([&work] {
+        work.item = std::make_shared<ZaItem>();
+        showSession(work.session, *work.item);
+    });
+    if (work.result.values.status == Status::NotSet) {
+        work.result.warnings += QStringLiteral("nobody has set what the overlay shows: %1")
+                                    .arg(neededOption(infoOf(work.session.kind)));
+    }
+    const QString &picture = work.result.values.picture;
+    if (m_command.writesPng) {
+        work.drawn.append({overlayPathOf(picture, m_command.outputFolder, QStringLiteral("png")),
+                           overlayPng(*work.item, work.picture.image)});
+    }
+    if (m_command.writesSvg) {
+        work.drawn.append({overlayPathOf(picture, m_command.outputFolder, QStringLiteral("svg")),
+                           overlaySvg(*work.item, work.picture.image.size())});
+    }
+}
+
+void Batch::unroll(Work &work) const
+{
+    PictureValues &values = work.result.values;
     UnrollRange range = Unrolling::defaultRange(work.session);
     range.mmPerPixel = m_command.unrollMMPerPixel.value_or(range.mmPerPixel);
     range.fromMM = m_command.unrollFromMM.value_or(range.fromMM);
     range.toMM = m_command.unrollToMM.value_or(range.toMM);
     const Result<Unrolling> unrolling = Unrolling::of(work.session, range);
     if (!unrolling) {
-        work.result.values.status = Status::Failed;
-        return unrolling.problem();
+        values.status = Status::Failed;
+        values.message = unrolling.problem().textAfter(values.picture);
+        return;
     }
     const QImage flat = unrolling->flattened(work.picture.image);
-    write(unrolledPathOf(work.result.values.picture, m_command.outputFolder),
-          pngBytes(m_command.unrollsPlain ? flat : withAxes(*unrolling, flat)), work.result);
-    return {};
+    work.drawn.append({unrolledPathOf(values.picture, m_command.outputFolder),
+                       pngBytes(m_command.unrollsPlain ? flat : withAxes(*unrolling, flat))});
 }
 
-void Batch::writeMap(Work &work)
+void Batch::drawMap(Work &work) const
 {
-    PictureResult &result = work.result;
-    if (!infoOf(work.session.kind).has(Uses::Model)) {
-        result.warnings += QStringLiteral("the kind %1 lays no pipe over the picture: no map")
-                               .arg(infoOf(work.session.kind).nameText());
+    const KindInfo &info = infoOf(work.session.kind);
+    if (!info.has(Uses::Model)) {
+        work.result.warnings += QStringLiteral("the kind %1 lays no pipe over the picture: no map")
+                                    .arg(info.nameText());
         return;
     }
     const int width = std::min(work.picture.image.width(), largestMapWidth);
     const QImage map = wallMap(work.session, work.fit, *m_command.map, width);
-    write(mapPathOf(result.values.picture, m_command.outputFolder),
-          mapPng(map, *m_command.map, work.picture.image), result);
+    work.drawn.append({mapPathOf(work.result.values.picture, m_command.outputFolder),
+                       mapPng(map, *m_command.map, work.picture.image)});
+}
+
+// A picture or a session can be a file that an earlier picture wrote in the meantime.
+bool Batch::readWhatIsWritten(const Work &work) const
+{
+    return !m_written.isEmpty() &&
+           std::any_of(work.readPaths.begin(), work.readPaths.end(),
+                       [this](const QString &path) { return m_written.contains(placeOf(path)); });
+}
+
+void Batch::writeFiles(Work &work)
+{
+    for (const DrawnFile &file : work.drawn) {
+        if (isFreeToWrite(file.path, work.result)) {
+            note(writeFile(file.path, file.content, overwrite()), file.path, work.result);
+        }
+    }
+    if (m_command.savesSession) {
+        saveSessionOf(work);
+    }
 }
 
 bool Batch::isFreeToWrite(const QString &path, PictureResult &result)
 {
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    if (m_written.contains(absolute)) {
+    const QString place = placeOf(path);
+    if (m_written.contains(place)) {
         result.fileProblems +=
-            QStringLiteral("%1 was written for another picture of this run").arg(path);
+            Problem{path, QStringLiteral("was written for another picture of this run, not for %1")
+                              .arg(result.values.picture)};
         return false;
     }
-    m_written.insert(absolute);
+    m_written.insert(place);
     return true;
 }
 
@@ -511,16 +589,9 @@ Overwrite Batch::overwrite() const
 void Batch::note(const Outcome &problem, const QString &path, PictureResult &result) const
 {
     if (problem) {
-        result.fileProblems += problem->text();
+        result.fileProblems += *problem;
     } else {
         result.values.written += path;
-    }
-}
-
-void Batch::write(const QString &path, const QByteArray &content, PictureResult &result)
-{
-    if (isFreeToWrite(path, result)) {
-        note(writeFile(path, content, overwrite()), path, result);
     }
 }
 
@@ -540,7 +611,7 @@ void Batch::saveSessionOf(Work &work)
     }
     if (work.isOtherPicture && !m_command.overwrites) {
         result.fileProblems +=
-            QStringLiteral("%1 is not written for a different picture without --force").arg(path);
+            Problem{path, QStringLiteral("is not written for a different picture without --force")};
         return;
     }
     note(saveSession(work.session, path, overwrite()), path, result);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "measure/CommandLine.h"
+#include "measure/OrderedJobs.h"
 #include "measure/PictureList.h"
 
 #include "measuring/OutputFile.h"
@@ -13,6 +14,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include <memory>
 #include <optional>
 
 namespace Drevon::Zalento::Apps {
@@ -21,27 +23,39 @@ namespace Drevon::Zalento::Apps {
 struct PictureResult
 {
     PictureValues values;
-    QStringList warnings;     ///< for people
-    QStringList fileProblems; ///< files that could not be read or written, beside the picture
+    QStringList warnings;          ///< for people
+    QVector<Problem> fileProblems; ///< files that could not be read or written, beside the picture
 };
 
-/** Measures pictures one after the other, as one command line asks for. */
+/**
+ * Measures pictures as one command line asks for. What takes time is done for several at the same
+ * time, and what one picture can take from another in their order: the same comes of it as one
+ * after the other.
+ */
 class Batch
 {
 public:
+    /** What is under way with one picture. */
+    struct Work;
+
     /**
      * @param command with the calibration text filled in
      * @param session to start from for every picture; none: the one beside each
+     * @param jobs which call measure()
      */
-    Batch(const CommandLine &command, const std::optional<Session> &session);
+    Batch(const CommandLine &command, const std::optional<Session> &session, OrderedJobs &jobs);
 
-    PictureResult run(const PictureRequest &request);
+    /** Reads a picture, measures on it and draws what is to be written. In any thread. */
+    std::shared_ptr<Work> measure(const PictureRequest &request) const;
+
+    /** Writes the files. In the order of the pictures, on the thread that runs the jobs. */
+    PictureResult finish(std::shared_ptr<Work> work);
 
 private:
-    struct Work;
-    Result<std::optional<Session>> startingSession(const PictureRequest &request, Work &work) const;
-    Outcome measurePicture(const Session *start, Work &work);
-    Outcome measureSession(const Session *start, Work &work);
+    void measureRequest(Work &work) const;
+    Result<std::optional<Session>> startingSession(Work &work) const;
+    Outcome measurePicture(const Session *start, Work &work) const;
+    Outcome measureSession(const Session *start, Work &work) const;
     Outcome mergeSession(const Session *start, Work &work) const;
     Outcome fitToClicks(Work &work) const;
     Outcome fitAlignment(const Session *start, Work &work) const;
@@ -50,10 +64,12 @@ private:
     Outcome placeClicks(Work &work) const;
     Outcome takeWaterLevel(Work &work) const;
     void tellValues(Work &work) const;
+    void drawFiles(Work &work) const;
+    void drawOverlay(Work &work) const;
+    void drawMap(Work &work) const;
+    void unroll(Work &work) const;
+    bool readWhatIsWritten(const Work &work) const;
     void writeFiles(Work &work);
-    void writeMap(Work &work);
-    Outcome unroll(Work &work);
-    void write(const QString &path, const QByteArray &content, PictureResult &result);
     void note(const Outcome &problem, const QString &path, PictureResult &result) const;
     bool isFreeToWrite(const QString &path, PictureResult &result);
     void saveSessionOf(Work &work);
@@ -61,7 +77,8 @@ private:
     Overwrite overwrite() const;
 
     const CommandLine &m_command;
-    std::optional<Session> m_session;
+    const std::optional<Session> m_session;
+    OrderedJobs &m_jobs;
     QSet<QString> m_written; // two pictures of one name would write the same file
 };
 

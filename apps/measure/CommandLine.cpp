@@ -1,10 +1,17 @@
 #include "measure/CommandLine.h"
 
+#include <QThread>
+
+#include <algorithm>
+
 namespace Drevon::Zalento::Apps {
 
 namespace {
 
 const QLatin1String programName("zalento-measure");
+
+// Each holds a picture in memory; more processors are not known to be put to this work.
+constexpr int largestJobs = 256;
 
 void addFlag(QCommandLineParser &parser, const char *name, const char *description)
 {
@@ -45,6 +52,9 @@ void addOptions(QCommandLineParser &parser)
     addValue(parser, "to", "Of unroll: distance from the mouth in mm where it ends.", "MM");
     addFlag(parser, "plain", "Of unroll: the wall alone, without axes.");
     addFlag(parser, "force", "Writes over existing files.");
+    addValue(parser, "jobs",
+             "Pictures that are worked on at a time; without it as many as there are processors.",
+             "N");
     parser.addOption(QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")},
                                         QStringLiteral("Prints this help.")));
     parser.addOption(QCommandLineOption({QStringLiteral("v"), QStringLiteral("version")},
@@ -157,10 +167,28 @@ QString readMap(const QCommandLineParser &parser, CommandLine &command)
     return {};
 }
 
+QString readJobs(const QCommandLineParser &parser, CommandLine &command)
+{
+    const QString text = parser.value(QStringLiteral("jobs"));
+    if (!parser.isSet(QStringLiteral("jobs"))) {
+        command.jobs = std::clamp(QThread::idealThreadCount(), 1, largestJobs);
+        return {};
+    }
+    bool isNumber = false;
+    command.jobs = text.toInt(&isNumber);
+    if (!isNumber || command.jobs < 1 || command.jobs > largestJobs) {
+        return QStringLiteral("--jobs: expected a whole number from 1 to %1, found \"%2\"")
+            .arg(largestJobs)
+            .arg(text);
+    }
+    return {};
+}
+
 // Every value option but --click means one thing.
 QString repeatedOption(const QCommandLineParser &parser)
 {
-    for (const char *name : {"session", "format", "overlay", "map", "from", "to", "output"}) {
+    for (const char *name :
+         {"session", "format", "overlay", "map", "from", "to", "output", "jobs"}) {
         if (parser.values(QLatin1String(name)).size() > 1) {
             return QStringLiteral("--%1 is given more than once").arg(QLatin1String(name));
         }
@@ -254,7 +282,7 @@ QString contradiction(const QCommandLineParser &parser, const CommandLine &comma
 QString readCommand(const QCommandLineParser &parser, CommandLine &command)
 {
     QString problem = readVerb(parser.positionalArguments(), command);
-    for (const auto step : {readFormat, readOverlay, readMap}) {
+    for (const auto step : {readFormat, readOverlay, readMap, readJobs}) {
         if (problem.isEmpty()) {
             problem = step(parser, command);
         }

@@ -43,6 +43,7 @@ struct CommandLine
     bool savesSession = false;
     QString outputFolder; ///< empty: beside each picture
     bool overwrites = false;
+    int jobs = 1; ///< pictures worked on at a time
 };
 
 /** A command line that was understood, or what to print instead of running. */

@@ -3,7 +3,9 @@
 #include "measure/Batch.h"
 #include "measure/CommandLine.h"
 #include "measure/KindList.h"
+#include "measure/OrderedJobs.h"
 #include "measure/PictureList.h"
+#include "measure/Progress.h"
 #include "measure/Report.h"
 
 #include "measuring/CalibrationFile.h"
@@ -15,6 +17,8 @@
 #include <QFontMetrics>
 
 #include <algorithm>
+#include <memory>
+#include <vector>
 
 namespace Drevon::Zalento::Apps {
 
@@ -27,10 +31,15 @@ public:
     Console(QIODevice &output, QIODevice &messages)
         : m_output(output)
         , m_messages(messages)
+        , m_progress(messages)
+        , m_printsOnTerminal(isTerminal(output))
     {}
 
     void print(const QByteArray &values)
     {
+        if (m_printsOnTerminal) {
+            m_progress.clear();
+        }
         auto *file = qobject_cast<QFileDevice *>(&m_output);
         const bool isWritten = m_output.write(values) == values.size() && (!file || file->flush());
         if (!isWritten && !m_isBroken) {
@@ -42,6 +51,7 @@ public:
 
     void say(const QString &message)
     {
+        m_progress.clear();
         m_messages.write("zalento-measure: " + message.toUtf8() + "\n");
     }
 
@@ -52,12 +62,17 @@ public:
         note(code);
     }
 
+    /** On a terminal, until another line or the end takes its place. */
+    void showProgress(int done, int count) { m_progress.show(done, count); }
+
     void note(ExitCode code) { m_exitCode = std::max(m_exitCode, code); }
     ExitCode exitCode() const { return m_exitCode; }
 
 private:
     QIODevice &m_output;
     QIODevice &m_messages;
+    Progress m_progress;
+    const bool m_printsOnTerminal;
     ExitCode m_exitCode = AllMeasured;
     bool m_isBroken = false;
 };
@@ -140,18 +155,16 @@ void warnWithoutFonts(const CommandLine &command, Console &console)
 void tell(const PictureResult &result, bool isRender, Console &console)
 {
     const PictureValues &values = result.values;
-    const auto about = [&values](const QString &message) {
-        return message.startsWith(values.picture) ? message
-                                                  : values.picture + QStringLiteral(": ") + message;
-    };
     for (const QString &warning : result.warnings) {
-        console.say(about(QStringLiteral("warning: ") + warning));
+        console.say(QStringLiteral("%1: warning: %2").arg(values.picture, warning));
     }
     for (const QString &path : values.written) {
         console.say(QStringLiteral("wrote %1").arg(path));
     }
-    for (const QString &problem : result.fileProblems) {
-        console.fail(CannotReadOrWrite, about(problem));
+    bool isTold = false;
+    for (const Problem &problem : result.fileProblems) {
+        console.fail(CannotReadOrWrite, problem.text());
+        isTold |= problem.textAfter(values.picture) == values.message;
     }
     const bool isDrawn =
         isRender && values.status != Status::Failed && values.status != Status::NotMeasured;
@@ -162,8 +175,8 @@ void tell(const PictureResult &result, bool isRender, Console &console)
         return;
     }
     console.note(SomeNotMeasured);
-    if (!result.fileProblems.contains(values.message)) {
-        console.say(about(values.message));
+    if (!isTold) {
+        console.say(Problem{values.picture, values.message}.text());
     }
 }
 
@@ -172,17 +185,21 @@ void measureAll(const CommandLine &command, const std::optional<Session> &sessio
 {
     const bool isRender = command.verb != Verb::Measure;
     const Report report(command.format);
-    Batch batch(command, session);
-    int count = 0;
-    console.print(isRender ? QByteArray() : report.start());
-    for (const PictureRequest &request : requests) {
-        const PictureResult result = batch.run(request);
+    const int count = requests.size();
+    OrderedJobs jobs(command.jobs);
+    Batch batch(command, session, jobs);
+    std::vector<std::shared_ptr<Batch::Work>> works(requests.size());
+    const auto measure = [&](int number) { works[number] = batch.measure(requests[number]); };
+    const auto finish = [&](int number) {
+        const PictureResult result = batch.finish(std::move(works[number]));
         tell(result, isRender, console);
         if (!isRender) {
-            console.print(report.result(result.values, count));
+            console.print(report.result(result.values, number));
         }
-        ++count;
-    }
+        console.showProgress(number + 1, count);
+    };
+    console.print(isRender ? QByteArray() : report.start());
+    jobs.run(count, measure, finish);
     console.print(isRender ? QByteArray() : report.end(count));
 }
 

@@ -1,3 +1,4 @@
+#include "measure/LibraryMessages.h"
 #include "measure/Run.h"
 
 #include <QFile>
@@ -10,6 +11,8 @@
 #include <unistd.h>
 
 namespace {
+
+namespace Apps = Drevon::Zalento::Apps;
 
 // A closed standard stream would be given to the next file that is opened: values would end up in
 // it. What takes the stream's place fails, as the closed one would.
@@ -39,10 +42,30 @@ QStringList argumentsOf(int argc, char **argv)
 
 // Where no session manager has set up a folder for running programs, Qt says so, as often as it is
 // used; the program needs none.
-void printQtMessage(QtMsgType, const QMessageLogContext &, const QString &message)
+void printQtMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    if (!message.startsWith(QLatin1String("QStandardPaths: "))) {
+    const bool isUseless = message.startsWith(QLatin1String("QStandardPaths: "));
+    const bool isTold =
+        isUseless || (type != QtFatalMsg && Apps::LibraryMessages::keep(message.toUtf8() + '\n'));
+    if (!isTold) {
         std::fprintf(stderr, "zalento-measure: %s\n", qPrintable(message));
+    }
+}
+
+ssize_t printLibraryText(void *, const char *text, std::size_t size)
+{
+    const bool isKept = Apps::LibraryMessages::keep(QByteArray(text, static_cast<int>(size)));
+    return isKept ? static_cast<ssize_t>(size) : write(STDERR_FILENO, text, size);
+}
+
+// Readers of pictures print to the C library's stream, several of them at a time.
+void catchStandardError()
+{
+    cookie_io_functions_t functions{};
+    functions.write = printLibraryText;
+    if (FILE *stream = fopencookie(nullptr, "w", functions)) {
+        setvbuf(stream, nullptr, _IONBF, 0);
+        stderr = stream;
     }
 }
 
@@ -51,6 +74,7 @@ void printQtMessage(QtMsgType, const QMessageLogContext &, const QString &messag
 int main(int argc, char **argv)
 {
     occupyClosedStreams();
+    catchStandardError();
     qInstallMessageHandler(printQtMessage);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // The application takes options of its own, such as -platform: it gets none to take.
@@ -63,6 +87,6 @@ int main(int argc, char **argv)
     QFile messages;
     input.open(stdin, QIODevice::ReadOnly);
     output.open(stdout, QIODevice::WriteOnly);
-    messages.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered);
-    return Drevon::Zalento::Apps::run(argumentsOf(argc, argv), input, output, messages);
+    messages.open(STDERR_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered);
+    return Apps::run(argumentsOf(argc, argv), input, output, messages);
 }

@@ -20,6 +20,9 @@ struct Problem
         return place.isEmpty() ? what : QStringLiteral("%1: %2").arg(place, what);
     }
 
+    /** The same where @p named was told before it, which is not repeated. */
+    QString textAfter(const QString &named) const { return place == named ? what : text(); }
+
     /** The same problem inside of @p outer, such as a field's in its file. */
     Problem in(const QString &outer) const { return {outer, text()}; }
 };

@@ -83,6 +83,7 @@ void TestCommandLine::refusesWrongUsage_data()
     row("empty session", "measure --session= a", "--session is empty");
     row("format of files", "render --format csv a", "it takes no --format");
     row("nothing to write", "measure --output out a", "--output needs something to write");
+    row("no job", "measure --jobs 0 a", "--jobs: expected a whole number from 1 to 256");
     row("kinds of a picture", "kinds a.png", "kinds takes no pictures");
     row("mouth too small", "measure --mouth 4.9 a", "--mouth: expected a number from 5 to 400");
     row("crack that fits the view", "measure --kind CrackWidth --fit-fov a", "takes no --fit-fov");

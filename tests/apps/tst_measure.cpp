@@ -57,6 +57,7 @@ private slots:
     void anotherPictureIsNotOverwritten();
     void foldersAreSorted();
     void namesComeFromTheInput();
+    void jobsChangeNothing();
 
 private:
     QString path(const char *name) const { return m_dir->filePath(QLatin1String(name)); }
@@ -94,7 +95,7 @@ void TestMeasure::printsEveryFormat_data()
                       "textWithUncertainty,decision,diameterMM,fovYDEG,mmPerPixel\r\n"
                       "a.png,WaterLevel,measured,waterLevel,12.5,%,13 %,,SD,U2,2,first-order,,,"
                       "TEXT,,300,37.5,\r\n"
-                      "none.png,,failed,,,,,none.png: there is no such file,,,,,,,,,,,\r\n");
+                      "none.png,,failed,,,,,there is no such file,,,,,,,,,,,\r\n");
     QTest::newRow("jsonl")
         << "jsonl"
         << QByteArray(
@@ -110,7 +111,7 @@ void TestMeasure::printsEveryFormat_data()
                "\"fovYDEG\": 37.5, \"standardUncertainties\": {}, \"undetermined\": []}, "
                "\"message\": \"\", \"written\": []}\n"
                "{\"picture\": \"none.png\", \"kind\": \"\", \"status\": \"failed\", "
-               "\"values\": [], \"message\": \"none.png: there is no such file\", "
+               "\"values\": [], \"message\": \"there is no such file\", "
                "\"written\": []}\n");
 }
 
@@ -303,6 +304,37 @@ void TestMeasure::namesComeFromTheInput()
     QCOMPARE(outcome.code, int(SomeNotMeasured));
     QVERIFY(outcome.output.startsWith("a.png: waterLevel"));
     QVERIFY(outcome.output.contains("none ä.png: failed"));
+}
+
+// One after the other or many at a time: pictures of one name, one that an earlier one wrote, a
+// session that an earlier one wrote, one that cannot be read.
+void TestMeasure::jobsChangeNothing()
+{
+    const auto runJobs = [](const QString &jobs) {
+        const QTemporaryDir dir;
+        QDir::setCurrent(dir.path());
+        QDir().mkdir("sub");
+        const QImage large = greyPicture(QSize(400, 300));
+        bool isSaved = large.save("a.png") && large.save("sub/a.png") && writeBytes("bad.png", "x");
+        QStringList names{"a.png", "bad.png", "a.overlay.png", "sub/a.png", "sub/../a.png"};
+        for (int i = 0; i < 20; ++i) {
+            names += QString::number(i) + ".png";
+            isSaved = isSaved && greyPicture(QSize(8 + 20 * i, 48)).save(names.last());
+        }
+        const QStringList options{"--overlay", "both", "--save-session", "--jobs", jobs};
+        const Run outcome = runProgram(water + options + names + QStringList{"--output", "."});
+        const QByteArray files = folderState(dir.path());
+        QDir::setCurrent(QDir::rootPath());
+        return isSaved ? QByteArrayList{QByteArray::number(outcome.code), outcome.output,
+                                        outcome.messages, files}
+                       : QByteArrayList();
+    };
+    const QByteArrayList one = runJobs("1");
+    QCOMPARE(one.value(0), QByteArray::number(CannotReadOrWrite));
+    QVERIFY(one[1].contains("\na.overlay.png: waterLevel"));
+    QVERIFY(one[2].contains("a.overlay.png: was written for another picture of this run, not for"));
+    QVERIFY(one[3].contains("\n19.png.zalento.json"));
+    QCOMPARE(runJobs("8"), one);
 }
 
 QTEST_MAIN(TestMeasure)

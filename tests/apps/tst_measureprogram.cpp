@@ -95,6 +95,7 @@ private slots:
     void noticesStreamsThatFail_data();
     void noticesStreamsThatFail();
     void exitsAsToldByUsage();
+    void showsProgressOnATerminalOnly();
 };
 
 void TestMeasureProgram::noticesStreamsThatFail_data()
@@ -141,6 +142,23 @@ void TestMeasureProgram::exitsAsToldByUsage()
     QCOMPARE(version.code, 0);
     QVERIFY(version.output.startsWith("zalento-measure 1."));
     QVERIFY(version.messages.isEmpty());
+}
+
+void TestMeasureProgram::showsProgressOnATerminalOnly()
+{
+    const QTemporaryDir dir;
+    const QString picture = dir.filePath(QStringLiteral("a.png"));
+    QVERIFY(greyPicture(QSize(64, 48)).save(picture));
+    const QStringList arguments = water + QStringList{picture, picture};
+    const QByteArray progress = "\r1 of 2, 0:00 left";
+    QProcess terminal;
+    const QStringList command = QStringList(QStringLiteral(ZALENTO_MEASURE)) + arguments;
+    terminal.start("script", {"--quiet", "--command", command.join(' '), "/dev/null"});
+    QVERIFY(terminal.waitForFinished());
+    QVERIFY(terminal.readAllStandardOutput().contains(progress));
+    const Run file = start(arguments);
+    QCOMPARE(file.code, 0);
+    QCOMPARE(file.messages, QByteArray());
 }
 
 QTEST_MAIN(TestMeasureProgram)
