@@ -301,6 +301,10 @@ Outcome Batch::measurePicture(const Session *start, Work &work) const
     }
     work.picture = *picture;
     values.identity = picture->identity;
+    if (picture->frames > 1) {
+        work.result.warnings +=
+            QStringLiteral("the first of %1 frames is measured").arg(picture->frames);
+    }
     if (start) {
         const auto difference = pictureDifference(start->picture, picture->identity);
         work.isOtherPicture = difference.has_value();

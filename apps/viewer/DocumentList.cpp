@@ -13,20 +13,34 @@ namespace Drevon::Zalento {
 
 using Measuring::Session;
 
+QString shortName(const QString &path)
+{
+    return QFileInfo(path).fileName();
+}
+
 namespace {
 
 const QLatin1String sessionEnd(".json");
+
+// A drawing or a text that was chosen together with pictures is told, and not listed among them.
+Measuring::Outcome otherFile(const QString &path)
+{
+    const QByteArray suffix = QFileInfo(path).suffix().toLower().toLatin1();
+    if (Measuring::pictureFormats().contains(suffix)) {
+        return {};
+    }
+    const auto picture = Measuring::loadPicture(path);
+    if (picture) {
+        return {};
+    }
+    return Measuring::Problem{shortName(path), picture.problem().textAfter(path)};
+}
 
 } // namespace
 
 QDateTime stampOf(const QString &path)
 {
     return QFileInfo(path).lastModified();
-}
-
-QString shortName(const QString &path)
-{
-    return QFileInfo(path).fileName();
 }
 
 DocumentList::DocumentList(Preferences &preferences, Guidance &guidance)
@@ -55,7 +69,8 @@ QString DocumentList::pictureName() const
 
 QString DocumentList::pictureProblem() const
 {
-    return current() ? current()->problem : QString();
+    const bool isTrouble = current() && !current()->problem.isEmpty();
+    return isTrouble ? Measuring::Problem{pictureName(), current()->problem}.text() : QString();
 }
 
 // Opening
@@ -79,51 +94,61 @@ QStringList DocumentList::namePatterns() const
 
 void DocumentList::openPaths(const QStringList &paths)
 {
+    QStringList problems;
     int firstShown = -1;
     for (const QString &path : paths) {
         const QStringList pictures =
             QFileInfo(path).isDir() ? Measuring::picturesIn(path, false) : QStringList{path};
         for (const QString &picture : pictures) {
-            append(picture, firstShown);
+            const Measuring::Result<int> index = append(picture);
+            if (!index) {
+                problems += index.problem().text();
+            } else if (firstShown < 0) {
+                firstShown = *index;
+            }
         }
     }
     if (firstShown >= 0) {
         show(firstShown);
-    } else if (!paths.isEmpty() && m_guidance.level() != Guidance::Error) {
+    }
+    if (!problems.isEmpty()) {
+        m_guidance.notice(Guidance::Error, problems.join(QLatin1Char(' ')));
+    } else if (firstShown < 0 && !paths.isEmpty()) {
         m_guidance.notice(Guidance::Warning,
                           tr("There are no pictures in %1.").arg(shortName(paths.first())));
     }
 }
 
 // A session stands for its picture.
-void DocumentList::append(const QString &path, int &firstShown)
+Measuring::Result<int> DocumentList::append(const QString &path)
 {
     QString picturePath = path;
     QString sessionPath;
     if (path.endsWith(sessionEnd, Qt::CaseInsensitive)) {
         const auto session = Measuring::loadSession(path);
-        if (!session || session->picture.path.isEmpty()) {
-            m_guidance.notice(Guidance::Error, session ? tr("%1 names no picture.").arg(path)
-                                                       : session.problem().text());
-            return;
+        if (!session) {
+            return session.problem();
+        }
+        if (session->picture.path.isEmpty()) {
+            return Measuring::Problem{{}, tr("%1 names no picture.").arg(path)};
         }
         picturePath = session->picture.path;
         sessionPath = path;
+    } else if (const Measuring::Outcome problem = otherFile(path)) {
+        return *problem;
     }
-    int index = indexOf(picturePath);
-    if (index < 0) {
-        index = count();
-        beginInsertRows({}, index, index);
-        m_documents.push_back(std::make_unique<Document>(picturePath));
-        if (!sessionPath.isEmpty()) {
-            m_documents.back()->sessionPath = sessionPath;
-        }
-        endInsertRows();
-        Q_EMIT countChanged();
+    const int index = indexOf(picturePath);
+    if (index >= 0) {
+        return index;
     }
-    if (firstShown < 0) {
-        firstShown = index;
+    beginInsertRows({}, count(), count());
+    m_documents.push_back(std::make_unique<Document>(picturePath));
+    if (!sessionPath.isEmpty()) {
+        m_documents.back()->sessionPath = sessionPath;
     }
+    endInsertRows();
+    Q_EMIT countChanged();
+    return count() - 1;
 }
 
 int DocumentList::indexOf(const QString &picturePath) const
@@ -160,7 +185,7 @@ void DocumentList::loadPicture(Document &document)
 {
     const auto picture = Measuring::loadPicture(document.picturePath);
     m_picture.reset();
-    document.problem = picture ? QString() : picture.problem().text();
+    document.problem = picture ? QString() : picture.problem().textAfter(document.picturePath);
     if (picture) {
         m_picture = *picture;
     }
@@ -169,8 +194,13 @@ void DocumentList::loadPicture(Document &document)
         m_provider->setPicture(this->picture());
     }
     if (!m_picture) {
-        m_guidance.notice(Guidance::Error, document.problem);
+        m_guidance.notice(Guidance::Error, pictureProblem());
         return;
+    }
+    if (m_picture->frames > 1) {
+        m_guidance.notice(Guidance::Warning, tr("%1 has %n frames, of which this is the first.",
+                                                nullptr, m_picture->frames)
+                                                 .arg(pictureName()));
     }
     document.pictureStamp = stampOf(document.picturePath);
     m_preferences.addRecentFile(document.picturePath);

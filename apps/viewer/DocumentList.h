@@ -6,6 +6,7 @@
 #include "Preferences.h"
 
 #include "measuring/Picture.h"
+#include "measuring/Result.h"
 
 #include <QAbstractListModel>
 #include <QImage>
@@ -90,7 +91,7 @@ Q_SIGNALS:
     void currentChanged();
 
 private:
-    void append(const QString &path, int &firstShown);
+    Measuring::Result<int> append(const QString &path);
     int indexOf(const QString &picturePath) const;
     void loadPicture(Document &document);
     void startSession(Document &document, const Measuring::Session &fresh);

@@ -1,5 +1,6 @@
 #include "ViewerWindow.h"
 
+#include "FileOrder.h"
 #include "OverlayView.h"
 #include "PictureProvider.h"
 #include "StageView.h"
@@ -48,6 +49,8 @@ void prepareScene()
     QQuickStyle::setStyle(QStringLiteral("Default"));
     constexpr char module[] = "Drevon.Zalento.Viewer";
     registerTypes("Drevon.Zalento");
+    qmlRegisterAnonymousType<QAbstractItemModel>(module, 1); // of FileOrder's source
+    qmlRegisterType<FileOrder>(module, 1, 0, "FileOrder");
     qmlRegisterType<OverlayView>(module, 1, 0, "OverlayView");
     qmlRegisterType<StageView>(module, 1, 0, "StageView");
     qmlRegisterSingletonType<Viewer>(module, 1, 0, "Viewer", viewerOf);

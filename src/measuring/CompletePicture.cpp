@@ -72,12 +72,68 @@ bool isCompleteBmp(const QByteArray &content)
     return static_cast<quint32>(content.size()) >= promised;
 }
 
+// Blocks of a GIF file (GIF89a, sections 18 to 25). A table of colours has 3 * 2^(n+1) bytes where
+// the low bits of a byte of flags say n.
+constexpr int gifScreenFlagsAt = 10;
+constexpr int gifScreenBytes = 13;
+constexpr int gifImageFlagsAt = 9;
+constexpr int gifImageBytes = 11; // with the byte on code sizes that begins the data
+constexpr int gifExtensionBytes = 2;
+constexpr int gifExtension = 0x21;
+constexpr int gifImage = 0x2c;
+
+int gifColourBytes(int flags)
+{
+    constexpr int hasTable = 0x80;
+    constexpr int sizeBits = 0x07;
+    return (flags & hasTable) != 0 ? 3 * (2 << (flags & sizeBits)) : 0;
+}
+
+// A chain of data is pieces with their lengths, up to one of length 0. -1 where it is cut off.
+int endOfGifData(const QByteArray &content, int position)
+{
+    while (position < content.size()) {
+        const int length = byteAt(content, position);
+        position += 1 + length;
+        if (length == 0) {
+            return position;
+        }
+    }
+    return -1;
+}
+
+// As far as the first frame goes.
+bool isCompleteGif(const QByteArray &content)
+{
+    if (content.size() < gifScreenBytes) {
+        return false;
+    }
+    int position = gifScreenBytes + gifColourBytes(byteAt(content, gifScreenFlagsAt));
+    while (position >= 0 && position < content.size()) {
+        const int block = byteAt(content, position);
+        if (block == gifImage) {
+            return position + gifImageBytes <= content.size() &&
+                   endOfGifData(content, position + gifImageBytes +
+                                             gifColourBytes(
+                                                 byteAt(content, position + gifImageFlagsAt))) > 0;
+        }
+        if (block != gifExtension) {
+            return false;
+        }
+        position = endOfGifData(content, position + gifExtensionBytes);
+    }
+    return false;
+}
+
 } // namespace
 
 bool isCompletePicture(const QByteArray &content, const QByteArray &format)
 {
     if (format == "jpeg" || format == "jpg") {
         return isCompleteJpeg(content);
+    }
+    if (format == "gif") {
+        return isCompleteGif(content);
     }
     return format != "bmp" || isCompleteBmp(content);
 }

@@ -3,6 +3,7 @@
 #include "measuring/CompletePicture.h"
 
 #include <QBuffer>
+#include <QCollator>
 #include <QCryptographicHash>
 #include <QDirIterator>
 #include <QFile>
@@ -57,11 +58,23 @@ std::optional<QString> sizeProblem(const QSize &size)
     return {};
 }
 
+// "BMP, GIF, JPEG, ...": each format by one of its names.
+QString formatNames()
+{
+    QStringList names;
+    for (const QByteArray &format : pictureFormats()) {
+        if (format != "jpg" && format != "tif") {
+            names += QString::fromLatin1(format.toUpper());
+        }
+    }
+    return names.join(QLatin1String(", "));
+}
+
 // The size stands at the start of a picture file: it is known without decoding.
 std::optional<QString> headerProblem(QImageReader &reader)
 {
     if (!reader.canRead() || !pictureFormats().contains(reader.format())) {
-        return QStringLiteral("is not a picture in a known format");
+        return QStringLiteral("is no picture in a format that is read here: %1").arg(formatNames());
     }
     const QSize size = reader.size();
     if (size.isEmpty()) {
@@ -71,7 +84,14 @@ std::optional<QString> headerProblem(QImageReader &reader)
     return sizeProblem(size);
 }
 
-std::optional<QString> decode(const QByteArray &content, QImage &image)
+// A reader of its own: one that has read does not count from the start.
+int frameCount(QBuffer &content)
+{
+    content.seek(0);
+    return std::max(1, QImageReader(&content).imageCount()); // 0 where the format knows but one
+}
+
+std::optional<QString> decode(const QByteArray &content, Picture &picture)
 {
     QBuffer buffer;
     buffer.setData(content);
@@ -84,9 +104,10 @@ std::optional<QString> decode(const QByteArray &content, QImage &image)
     if (!isCompletePicture(content, reader.format())) {
         return QStringLiteral("the picture is cut off: the file ends too early");
     }
-    if (!reader.read(&image) || image.isNull()) {
+    if (!reader.read(&picture.image) || picture.image.isNull()) {
         return QStringLiteral("the picture is damaged or cut off: %1").arg(reader.errorString());
     }
+    picture.frames = frameCount(buffer);
     return {};
 }
 
@@ -98,7 +119,7 @@ const QList<QByteArray> &pictureFormats()
     static const QList<QByteArray> formats = [] {
         QList<QByteArray> readable;
         for (const char *format :
-             {"bmp", "jpeg", "jpg", "pbm", "pgm", "png", "ppm", "tif", "tiff", "webp"}) {
+             {"bmp", "gif", "jpeg", "jpg", "pbm", "pgm", "png", "ppm", "tif", "tiff", "webp"}) {
             if (QImageReader::supportedImageFormats().contains(format)) {
                 readable += format;
             }
@@ -126,6 +147,19 @@ bool isPictureToMeasure(const QString &path)
            });
 }
 
+// The locale is one that sorts by language, which "C" does not; a collator is of one thread.
+bool isBefore(const QString &name, const QString &other)
+{
+    thread_local const QCollator collator = [] {
+        QCollator natural(QLocale(QLocale::English));
+        natural.setNumericMode(true);
+        natural.setCaseSensitivity(Qt::CaseInsensitive);
+        return natural;
+    }();
+    const int order = collator.compare(name, other);
+    return order != 0 ? order < 0 : name < other;
+}
+
 QStringList picturesIn(const QString &folder, bool recursive)
 {
     // A link that leads nowhere, or a name that is not UTF-8, is no file to Qt; it is listed to be
@@ -139,7 +173,7 @@ QStringList picturesIn(const QString &folder, bool recursive)
             pictures += path;
         }
     }
-    pictures.sort();
+    std::sort(pictures.begin(), pictures.end(), isBefore);
     return pictures;
 }
 
@@ -158,7 +192,7 @@ Result<Picture> loadPicture(const QString &path)
         return Problem{path, QStringLiteral("cannot be read to its end")};
     }
     Picture picture;
-    if (const std::optional<QString> problem = decode(content, picture.image)) {
+    if (const std::optional<QString> problem = decode(content, picture)) {
         return Problem{path, *problem};
     }
     picture.identity.path = path;

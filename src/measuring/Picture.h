@@ -15,23 +15,33 @@ namespace Drevon::Zalento::Measuring {
 struct Picture
 {
     QImage image;             ///< upright: the orientation stored in the file is applied
+    int frames = 1;           ///< in the file; the image is the first of them
     PictureIdentity identity; ///< its path is the one it was loaded from
 };
 
 /** More pixels than any inspection camera has; such a file is refused before it is decoded. */
 constexpr qint64 largestPictureMegapixels = 100;
 
-/** Formats of photographs that can be read here, in lower case: "jpg", "png", ... */
+/**
+ * Formats of photographs that can be read here, in lower case: "jpg", "png", ... Some of them are
+ * plugins of Qt that need not be there.
+ */
 ZALENTO_MEASURING_EXPORT const QList<QByteArray> &pictureFormats();
 
 /** The same as patterns of file names: "*.jpg", ... */
 ZALENTO_MEASURING_EXPORT QStringList pictureNamePatterns();
 
+/**
+ * How people sort names: numbers by their value, small and capital letters together; the same
+ * whatever the locale. Names that differ are never equal.
+ */
+ZALENTO_MEASURING_EXPORT bool isBefore(const QString &name, const QString &other);
+
 /** False for what a program of this project wrote over a picture, and for other formats. */
 ZALENTO_MEASURING_EXPORT bool isPictureToMeasure(const QString &path);
 
 /**
- * The pictures in a folder, in the order of their names.
+ * The pictures in a folder, in the natural order of their names.
  * @param recursive those of the folders in it, too, in the order of their paths
  */
 ZALENTO_MEASURING_EXPORT QStringList picturesIn(const QString &folder, bool recursive);

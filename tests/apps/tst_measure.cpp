@@ -279,7 +279,7 @@ void TestMeasure::anotherPictureIsNotOverwritten()
 void TestMeasure::foldersAreSorted()
 {
     QVERIFY(QDir(m_dir->path()).mkpath(QStringLiteral("d/sub")));
-    for (const char *name : {"d/b.png", "d/a.PNG", "d/sub/c.png", "d/a.overlay.png"}) {
+    for (const char *name : {"d/b10.png", "d/B9.PNG", "d/sub/c.png", "d/a.overlay.png"}) {
         QVERIFY(greyPicture(QSize(8, 8)).save(path(name), "PNG"));
     }
     QVERIFY(writeBytes(path("d/notes.txt"), "notes"));
@@ -288,7 +288,7 @@ void TestMeasure::foldersAreSorted()
     QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("none")));
     const Run outcome = runProgram(water + QStringList{"--recursive", "d", "none"});
     QCOMPARE(outcome.code, int(SomeNotMeasured));
-    const QByteArrayList starts{"d/a.PNG: waterLevel",     "d/b.png: waterLevel",
+    const QByteArrayList starts{"d/B9.PNG: waterLevel",    "d/b10.png: waterLevel",
                                 "d/bad.png: failed",       "d/gone.png: failed",
                                 "d/sub/c.png: waterLevel", "none: failed"};
     const QByteArrayList lines = outcome.output.split('\n');

@@ -57,6 +57,16 @@ QImage markedPicture()
     return image;
 }
 
+// Frames of one pixel, the first white and the second black.
+QByteArray gif(int frames)
+{
+    const QByteArray screen("GIF89a\1\0\1\0\x80\0\0\xff\xff\xff\0\0\0", 19);
+    const QByteArray image("\x2c\0\0\0\0\1\0\1\0\0\2\2", 12);
+    const QByteArray white("\x44\1\0", 3);
+    const QByteArray black("\x4c\1\0", 3);
+    return screen + image + white + (frames == 2 ? image + black : QByteArray()) + ';';
+}
+
 } // namespace
 
 class TestPicture : public TestCase
@@ -67,6 +77,8 @@ private slots:
     void refuses_data();
     void refuses();
     void refusesWhatIsNoFile();
+    void countsFrames_data();
+    void countsFrames();
     void standsUpright_data();
     void standsUpright();
 };
@@ -84,9 +96,10 @@ void TestPicture::refuses_data()
     noWidth.replace(18, 4, QByteArray(4, '\0'));
 
     QTest::newRow("empty file") << QByteArray() << "the file is empty";
-    QTest::newRow("prose") << QByteArray("no picture") << "is not a picture in a known format";
+    QTest::newRow("prose") << QByteArray("no picture")
+                           << "is no picture in a format that is read here: BMP, GIF, JPEG";
     QTest::newRow("drawing") << QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\"/>")
-                             << "is not a picture in a known format";
+                             << "is no picture in a format that is read here: BMP, GIF, JPEG";
     QTest::newRow("JPEG cut off") << half(jpeg) << "cut off";
     QTest::newRow("JPEG without its last byte") << jpeg.left(jpeg.size() - 1) << "cut off";
     QTest::newRow("JPEG with a thumbnail, cut off") << half(thumbnail) << "cut off";
@@ -95,6 +108,7 @@ void TestPicture::refuses_data()
         << jpeg.left(jpeg.indexOf("\xff\xda") + 3) << "cut off";
     QTest::newRow("PNG cut off") << half(encoded(picture, "png")) << "damaged or cut off";
     QTest::newRow("BMP cut off") << half(encoded(picture, "bmp")) << "cut off";
+    QTest::newRow("GIF cut off") << gif(2).left(32) << "cut off";
     QTest::newRow("no width") << noWidth << "a size of zero";
     QTest::newRow("huge") << hugePng() << "too large: 15000 x 15000 pixels";
 }
@@ -121,6 +135,30 @@ void TestPicture::refusesWhatIsNoFile()
         const auto picture = loadPicture(QLatin1String(path));
         QVERIFY2(!picture && picture.problem().what.contains(QLatin1String(expected)), path);
     }
+}
+
+void TestPicture::countsFrames_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("frames");
+    QImage white(1, 1, QImage::Format_RGB32);
+    white.fill(Qt::white);
+    QTest::newRow("GIF") << gif(1) << 1;
+    QTest::newRow("animated GIF") << gif(2) << 2;
+    QTest::newRow("TIFF") << encoded(white, "tiff") << 1;
+    QTest::newRow("WebP") << encoded(white, "webp") << 1;
+}
+
+void TestPicture::countsFrames()
+{
+    QFETCH(QByteArray, content);
+    const QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("white"));
+    QVERIFY(writeBytes(path, content));
+    const auto picture = loadPicture(path);
+    QVERIFY2(picture, qPrintable(picture ? QString() : picture.problem().text()));
+    QTEST(picture->frames, "frames");
+    QVERIFY(picture->image.pixelColor(0, 0).lightness() > 250);
 }
 
 void TestPicture::standsUpright_data()

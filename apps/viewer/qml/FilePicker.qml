@@ -23,7 +23,7 @@ ViewerDialog {
     // Files to open or, with a suggested path, one to save; `action` gets their paths.
     function ask(text, patterns, suggested, action, several) {
         title = text
-        list.nameFilters = patterns
+        files.nameFilters = patterns
         run = action
         isSaving = suggested !== ""
         takesSeveral = several
@@ -62,12 +62,14 @@ ViewerDialog {
         run(isSaving ? [target] : chosen)
     }
 
-    FolderListModel {
+    FileOrder {
         id: list
-        folder: Viewer.urlOf(picker.folder)
-        showDirsFirst: true
-        showDotAndDotDot: false
-        caseSensitive: false
+        sourceModel: FolderListModel {
+            id: files
+            folder: Viewer.urlOf(picker.folder)
+            showDotAndDotDot: false
+            caseSensitive: false
+        }
     }
 
     contentItem: Item {

@@ -527,18 +527,21 @@ void TestViewer::severalPictures()
     const QString second = d.copySample("water.jpg");
     const QString broken = d.folder.filePath("broken.jpg");
     writeTo(broken, "not a picture");
+    const QString drawing = d.folder.filePath("drawing.svg");
+    writeTo(drawing, "<svg xmlns=\"http://www.w3.org/2000/svg\"/>");
     QMimeData dropped;
-    dropped.setUrls(
-        {QUrl::fromLocalFile(first), QUrl::fromLocalFile(broken), QUrl::fromLocalFile(second)});
+    dropped.setUrls({QUrl::fromLocalFile(first), QUrl::fromLocalFile(broken),
+                     QUrl::fromLocalFile(drawing), QUrl::fromLocalFile(second)});
     QDragEnterEvent enter({400, 300}, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(d.window(), &enter);
     QDropEvent drop({400, 300}, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(d.window(), &drop);
     QCOMPARE(d.documents.count(), 3);
+    QVERIFY(d.guidance.text().startsWith("drawing.svg: is no picture"));
     d.click(110, 288);
 
     d.clickItem("nextKey");
-    QVERIFY(d.documents.pictureProblem().contains("broken.jpg"));
+    QVERIFY(d.documents.pictureProblem().startsWith("broken.jpg: is no picture"));
     d.key(Qt::Key_PageDown);
     QCOMPARE(d.documents.pictureName(), QString("water.jpg"));
     QVERIFY(!d.editor.canUndo());
