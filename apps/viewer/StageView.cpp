@@ -62,7 +62,7 @@ void StageView::zoomAt(const QPointF &viewPoint, double factor)
     }
     const QPointF held = toPicture(viewPoint);
     const double smallest = std::min(1.0, fittedScale() * smallestShareOfFitted);
-    m_scale = std::clamp(m_scale * factor, smallest, std::max(largestScale, fittedScale()));
+    m_scale = std::clamp(m_scale * factor, smallest, largestScale);
     m_offset = viewPoint - held * m_scale;
     m_isFitted = false;
     keepInSight();
@@ -99,8 +99,8 @@ double StageView::fittedScale() const
     if (m_viewSize.isEmpty() || m_pictureSize.isEmpty()) {
         return 1.0;
     }
-    return std::min(m_viewSize.width() / m_pictureSize.width(),
-                    m_viewSize.height() / m_pictureSize.height());
+    return std::min({m_viewSize.width() / m_pictureSize.width(),
+                     m_viewSize.height() / m_pictureSize.height(), largestScale});
 }
 
 void StageView::placeFitted()

@@ -30,6 +30,10 @@ class StageView : public QObject
     Q_PROPERTY(bool isFitted READ isFitted NOTIFY changed)
 
 public:
+    /**
+     * Also of a picture that is fitted: the overlay's lines grow with the picture, and those of a
+     * tiny one that filled the stage would be hundreds of pixels wide, which takes seconds to draw.
+     */
     static constexpr double largestScale = 32.0;
 
     using QObject::QObject;

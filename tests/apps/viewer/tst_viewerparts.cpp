@@ -88,6 +88,8 @@ void TestViewerParts::viewKeepsThePictureInSight()
     view.panBy(1e9, -1e9);
     const QRectF shown(view.toView({0, 0}), view.toView({600, 800}));
     QVERIFY(shown.intersects(QRectF(QPointF(0, 0), view.viewSize())));
+    view.setPictureSize({1, 1});
+    QCOMPARE(view.scale(), StageView::largestScale);
 }
 
 // A shown text that is committed again means the same number, in both units.
