@@ -13,16 +13,16 @@ QString decisionOf(const Value &value)
 
 QByteArray textLines(const PictureValues &result)
 {
-    if (result.values.isEmpty()) {
-        return QStringLiteral("%1: %2: %3\n")
-            .arg(result.picture, statusName(result.status), result.message)
-            .toUtf8();
-    }
     QByteArray lines;
     if (result.alignment && result.alignment->fit) {
         lines += QStringLiteral("%1: alignment %2\n")
                      .arg(result.picture, fitText(*result.alignment))
                      .toUtf8();
+    }
+    if (result.values.isEmpty()) {
+        return lines + QStringLiteral("%1: %2: %3\n")
+                           .arg(result.picture, statusName(result.status), result.message)
+                           .toUtf8();
     }
     for (const Value &value : result.values) {
         lines += QStringLiteral("%1: %2 %3 (%4 %5)%6\n")
