@@ -83,6 +83,7 @@ private slots:
     void operatorsGetWhatIsStated_data() { addSituations(); }
     void operatorsGetWhatIsStated();
     void aWrongClickIsNamed();
+    void whatWasClickedIsDescribed();
     void whatIsNotDeterminedStays_data();
     void whatIsNotDeterminedStays();
     void aProblemIsSaid_data();
@@ -179,6 +180,55 @@ void TestAlignmentFit::aWrongClickIsNamed()
     QVERIFY2(named >= trials - 2, QByteArray::number(named));
 }
 
+// Looking straight along the axis: rings are circles around the middle, lines run away from it.
+void TestAlignmentFit::whatWasClickedIsDescribed()
+{
+    constexpr double diameterMM = 300.0;
+    const QPointF middle(400, 300);
+    AlignmentClicks clicks;
+    for (const double radiusPX : {200.0, 100.0}) {
+        const RingClicks four = circle(middle, radiusPX);
+        clicks.rings.append(four);
+        for (const QPointF &p : four.points) {
+            const QPointF way = (p - middle) * std::sqrt(0.5);
+            clicks.rings.last().points += middle + way + QPointF(-way.y(), way.x());
+        }
+    }
+    clicks.rings.append({{}, {{1, 1}, {2, 2}}});
+    clicks.rings[0].points[0] += QPointF(30, 0);
+    // One line slips by a pixel to both sides: 1.17 and 0.73 from the nearest one from the middle.
+    clicks.lines = {
+        {{{500, 301}, {560, 299}}}, {{{400, 420}, {400, 500}}}, {{{200, 300}, {300, 300}}}};
+    const auto fit = fitAlignment(clicks, Alignment(), diameterMM, QSize(800, 600));
+    QVERIFY2(fit, fit ? "" : qPrintable(fit.problem().text()));
+
+    const auto isNear = [](double found, double expected, double limit) {
+        return std::abs(found - expected) < limit;
+    };
+    // The clicks off the curves turn the fit by a tenth of a pixel.
+    constexpr double slackPX = 0.15;
+    const double focalPX = 300 / std::tan(0.5 * 37.5 * M_PI / 180);
+    QCOMPARE(*fit->ringDepthsMM[0], 0.0);
+    const double depthMM = focalPX * 0.5 * diameterMM * (1.0 / 100 - 1.0 / 200);
+    QVERIFY2(isNear(*fit->ringDepthsMM[1], depthMM, 1.0),
+             QByteArray::number(*fit->ringDepthsMM[1]));
+    QVERIFY(!fit->ringDepthsMM[2] && fit->ringResiduals[2].isEmpty());
+    const double clocksDEG[] = {90, 180, 270};
+    for (int line = 0; line < 3; ++line) {
+        QVERIFY2(isNear(*fit->lineClocksDEG[line], clocksDEG[line], 0.3),
+                 QByteArray::number(*fit->lineClocksDEG[line]));
+    }
+    QCOMPARE(fit->suspicious.size(), 1);
+    const QPointF off = fit->ringResiduals[0][0] - QPointF(30, 0);
+    QVERIFY2(std::hypot(off.x(), off.y()) < slackPX, QByteArray::number(off.x()));
+    const QPointF below = fit->lineResiduals[0][0];
+    QVERIFY2(isNear(below.y(), 1.17, slackPX), QByteArray::number(below.y()));
+    QVERIFY2(isNear(fit->largestPX, 1.17, slackPX), QByteArray::number(fit->largestPX));
+    constexpr int countedClicks = 15 + 6;
+    QVERIFY2(isNear(fit->rmsPX, std::hypot(1.17, 0.73) / std::sqrt(countedClicks), 0.03),
+             QByteArray::number(fit->rmsPX));
+}
+
 void TestAlignmentFit::whatIsNotDeterminedStays_data()
 {
     QTest::addColumn<int>("rings");
@@ -187,6 +237,7 @@ void TestAlignmentFit::whatIsNotDeterminedStays_data()
     QTest::addColumn<QString>("undetermined");
     const QString direction = QStringLiteral("rearCircleX rearCircleY");
     QTest::newRow("a joint") << 1 << 0 << 0 << direction;
+    QTest::newRow("a joint, field of view") << 1 << 0 << 1 << direction + " fovYDEG";
     QTest::newRow("a joint and a line") << 1 << 1 << 0 << direction;
     QTest::newRow("a joint and one line twice") << 1 << -2 << 0 << direction;
     QTest::newRow("a joint, two lines, field of view") << 1 << 2 << 1 << QStringLiteral("fovYDEG");
