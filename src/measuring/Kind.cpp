@@ -40,8 +40,9 @@ const KindInfo pipeDimension{
     Uses::Points | Uses::Clicks | Uses::Diameter | Uses::Model,
     {},
     {},
-    {QT_TRANSLATE_NOOP("Kind",
-                       "Drag the green pipe onto the picture's, then click one end on the wall."),
+    {QT_TRANSLATE_NOOP(
+         "Kind",
+         "Click joints or drag the green pipe to align it, then click one end on the wall."),
      QT_TRANSLATE_NOOP("Kind", "Click the other end on the wall."), lengthenLine, lengthenLine}};
 
 const char *const setWater =
