@@ -118,6 +118,33 @@ Item {
         enabled: Viewer.documents.hasPicture
         onTriggered: Viewer.editor.toggleUnit()
     }
+    readonly property Command clickPoints: Command {
+        text: qsTr("Points")
+        hint: qsTr("Click points of the measurement")
+        shortcut: "P"
+        enabled: Viewer.editor.hasModel
+        onTriggered: Viewer.editor.tool = 0
+    }
+    readonly property Command clickJoint: Command {
+        text: qsTr("Joint")
+        hint: qsTr("Click a joint; again: the next joint")
+        shortcut: "J"
+        enabled: Viewer.editor.hasModel
+        onTriggered: commands.clickFeature(1)
+    }
+    readonly property Command clickLine: Command {
+        text: qsTr("Line")
+        hint: qsTr("Click a line along the pipe; again: the next line")
+        shortcut: "L"
+        enabled: Viewer.editor.hasModel
+        onTriggered: commands.clickFeature(2)
+    }
+    function clickFeature(tool) {
+        if (Viewer.editor.tool === tool)
+            Viewer.editor.beginFeature()
+        else
+            Viewer.editor.tool = tool
+    }
     readonly property Command zoomIn: Command {
         text: "+"
         hint: qsTr("Zoom in")
@@ -152,7 +179,8 @@ Item {
 
     // In the order of the list of keys; the kinds follow, under their numbers.
     readonly property var all: [open, save, copy, previous, next, undo, redo, giveUp, dropLastPoint,
-                                confirm, measureAgain, snap, unit, map, wall, zoomIn, zoomOut, fit, actualSize, keys]
+                                confirm, measureAgain, clickPoints, clickJoint, clickLine, snap, unit,
+                                map, wall, zoomIn, zoomOut, fit, actualSize, keys]
     // What the list of keys says: [keys, text].
     readonly property var keyRows: {
         const rows = all.map(command => [command.keyText, command.hint])
