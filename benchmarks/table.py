@@ -13,7 +13,7 @@ def load(folder, name):
 def benchmarks(folder, name):
     """Results by name, without what the library appends to it."""
     entries = load(folder, name)["benchmarks"]
-    return {re.sub(r"/(min_time|manual_time).*", "", entry["name"]): entry for entry in entries}
+    return {re.sub(r"/(min_time|iterations|manual_time).*", "", entry["name"]): entry for entry in entries}
 
 
 def number(value):
@@ -94,6 +94,14 @@ def picture_rows(programs):
         yield [f"{count:,}", entry["pictures_per_s"], count / entry["cpu_s"], entry["peak_MB"]]
 
 
+def job_rows(programs):
+    one = programs["overlays/1"]
+    for jobs in (1, 2):
+        entry = programs[f"overlays/{jobs}"]
+        yield [str(jobs), entry["real_time"], f"{entry['real_time'] / one['real_time']:.2f}", entry["cpu_s"],
+               entry["peak_MB"]]
+
+
 FIELDS = ("offset", "cameraHeightPercent", "rearCircleX", "rearCircleY", "mouthPercent", "fovYDEG")
 
 
@@ -165,6 +173,11 @@ def main():
         "Growth with the number of pictures",
         ["pictures", "pictures/s", "pictures/s of processor time", "peak (MB)"],
         picture_rows(programs),
+    )
+    table(
+        "1,000 pictures with their overlays",
+        ["--jobs", "s", "of one job", "processor (s)", "peak (MB)"],
+        job_rows(programs),
     )
 
 

@@ -122,7 +122,18 @@ void pictures(benchmark::State &state)
     const auto count = static_cast<int>(state.range(0));
     const QTemporaryDir folder;
     Arguments more = copiesOfSample(folder, count);
-    more.insert(more.begin(), {"--session", std::string(sample) + sessionSuffix});
+    more.insert(more.begin(), {"--session", std::string(sample) + sessionSuffix, "--jobs", "1"});
+    measureRuns(state, measureCommand(more), "pictures_per_s", count);
+}
+
+// A working day's pictures with their overlays, on so many processors.
+void overlays(benchmark::State &state)
+{
+    constexpr int count = 1000;
+    const QTemporaryDir folder;
+    Arguments more = copiesOfSample(folder, count);
+    more.insert(more.begin(), {"--session", std::string(sample) + sessionSuffix, "--overlay", "png",
+                               "--jobs", std::to_string(state.range(0))});
     measureRuns(state, measureCommand(more), "pictures_per_s", count);
 }
 
@@ -211,6 +222,7 @@ BENCHMARK(overlay)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(convert)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(pictures)->RangeMultiplier(10)->Range(1, 1000)->UseManualTime()->Unit(
     benchmark::kMillisecond);
+BENCHMARK(overlays)->Arg(1)->Arg(2)->Iterations(1)->UseManualTime()->Unit(benchmark::kSecond);
 BENCHMARK(points)
     ->RangeMultiplier(10)
     ->Range(10, 100000)
