@@ -99,7 +99,7 @@ Item {
     readonly property Command snap: Command {
         text: qsTr("Snap")
         hint: qsTr("Find the joint's edge near the green ring")
-        shortcut: "J"
+        shortcut: "S"
         enabled: Viewer.editor.hasModel
         onTriggered: Viewer.editor.snap()
     }
