@@ -28,6 +28,22 @@ bool isBeyondModel(const Session &session, const QPointF &pixel)
 
 void MeasurementEditor::click(const QPointF &pixel)
 {
+    clickWith(Measuring::clickPoint, pixel);
+}
+
+void MeasurementEditor::clickKeepingOpen(const QPointF &pixel)
+{
+    clickWith(Measuring::addPoint, pixel);
+}
+
+bool MeasurementEditor::closesAt(const QPointF &pixel) const
+{
+    return isReady() && m_laserSpotsExpected == 0 && m_tool == Tool::Measure &&
+           Measuring::closesOutline(*session(), pixel);
+}
+
+void MeasurementEditor::clickWith(SetPoint setPoint, const QPointF &pixel)
+{
     if (!isReady()) {
         return;
     }
@@ -38,7 +54,7 @@ void MeasurementEditor::click(const QPointF &pixel)
     } else if (m_tool != Tool::Measure) {
         addAlignmentClick(pixel);
     } else if (infoOf(session()->kind).has(Uses::Points)) {
-        setPointAt(pixel);
+        setPointWith(setPoint, pixel);
     } else if (session()->kind == Measuring::Kind::WaterLevel) {
         setWaterLineAt(pixel);
     } else {
@@ -47,10 +63,10 @@ void MeasurementEditor::click(const QPointF &pixel)
     }
 }
 
-void MeasurementEditor::setPointAt(const QPointF &pixel)
+void MeasurementEditor::setPointWith(SetPoint setPoint, const QPointF &pixel)
 {
     Session session = sessionCopy();
-    if (Measuring::clickPoint(session, pixel) == Measuring::ClickResult::Missed) {
+    if (setPoint(session, pixel) == Measuring::ClickResult::Missed) {
         m_guidance.notice(Guidance::Warning, tr("The pipe's wall is not there: no point was set."));
         return;
     }

@@ -36,6 +36,11 @@ QString nextStep(const Situation &s)
 {
     const auto &texts = Measuring::infoOf(s.session.kind).guidance;
     const int count = s.session.points.size();
+    if (s.canClose) {
+        return tr("A click sets point %1; inside the dots it closes the outline. Shift+click, or a "
+                  "finger held down, sets a point there all the same.")
+            .arg(count + 1);
+    }
     const QString text = Measuring::translated(
         texts[static_cast<std::size_t>(s.isClosed ? 3 : std::clamp(count, 0, 2))]);
     return text.contains(QLatin1String("%1")) ? text.arg(count + 1) : text;

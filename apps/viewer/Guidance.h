@@ -19,6 +19,7 @@ struct Situation
     Measuring::Session session;
     Measuring::MeasureState state = Measuring::MeasureState::NeedsPoints;
     bool isClosed = false;      ///< the points are a closed outline
+    bool canClose = false;      ///< a click near the first point closes it
     int laserSpotsExpected = 0; ///< clicks that the calibration still waits for
     bool isPanning = false;     ///< a drag pans instead of moving the model
     Tool tool = Tool::Measure;

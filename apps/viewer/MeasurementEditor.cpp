@@ -245,8 +245,23 @@ void MeasurementEditor::showPoints()
         }
     }
     m_points.setPoints(pixels);
+    showClosingEdge();
     if (m_selectedPoint >= pixels.size()) {
         selectPoint(-1);
+    }
+}
+
+void MeasurementEditor::showClosingEdge()
+{
+    QVariantList edge;
+    if (isReady()) {
+        for (const QPointF &pixel : Measuring::closingEdge(*session())) {
+            edge += pixel;
+        }
+    }
+    if (edge != m_closingEdge) {
+        m_closingEdge = edge;
+        Q_EMIT closingEdgeChanged();
     }
 }
 
@@ -256,9 +271,9 @@ void MeasurementEditor::showGuidance()
         m_guidance.setSituation(std::nullopt);
         return;
     }
-    m_guidance.setSituation(Situation{*session(), m_measurement.state,
-                                      Measuring::isClosedOutline(*session()), m_laserSpotsExpected,
-                                      m_isPanning, m_tool});
+    m_guidance.setSituation(
+        Situation{*session(), m_measurement.state, Measuring::isClosedOutline(*session()),
+                  !m_closingEdge.isEmpty(), m_laserSpotsExpected, m_isPanning, m_tool});
 }
 
 void MeasurementEditor::selectPoint(int index)

@@ -6,6 +6,7 @@
 #include "PointModel.h"
 #include "Preferences.h"
 
+#include "measuring/Editing.h"
 #include "measuring/Measurement.h"
 
 #include <zalento/item/ZaItem.h>
@@ -53,6 +54,8 @@ class MeasurementEditor : public QObject
 
     Q_PROPERTY(Drevon::Zalento::PointModel *points READ points CONSTANT)
     Q_PROPERTY(int selectedPoint READ selectedPoint WRITE selectPoint NOTIFY selectedPointChanged)
+    /** Pixels around the area in which a click closes the outline; empty while none does. */
+    Q_PROPERTY(QVariantList closingEdge READ closingEdge NOTIFY closingEdgeChanged)
     Q_PROPERTY(QVariantList laserSpots READ laserSpots NOTIFY laserSpotsChanged)
     Q_PROPERTY(bool isCalibrating READ isCalibrating NOTIFY isCalibratingChanged)
     /** A drag pans the picture instead of moving the model. */
@@ -106,6 +109,7 @@ public:
     int selectedPoint() const { return m_selectedPoint; }
     void selectPoint(int index);
     QVariantList laserSpots() const { return m_laserSpots; }
+    QVariantList closingEdge() const { return m_closingEdge; }
     bool isCalibrating() const { return m_laserSpotsExpected > 0; }
     bool isPanning() const { return m_isPanning; }
     void setIsPanning(bool panning);
@@ -146,6 +150,10 @@ public:
     /** @name Gestures, in picture pixels */
     /** @{ */
     Q_INVOKABLE void click(const QPointF &pixel);
+    /** The same, but for a click that would close the outline: it sets a point all the same. */
+    Q_INVOKABLE void clickKeepingOpen(const QPointF &pixel);
+    /** Whether click() would close the outline. */
+    Q_INVOKABLE bool closesAt(const QPointF &pixel) const;
     /**
      * Takes hold of the point within @p radius, else of the model.
      * @return false when there is nothing to move: the drag pans
@@ -231,6 +239,7 @@ Q_SIGNALS:
     void scaleTextChanged();
     void selectedPointChanged();
     void laserSpotsChanged();
+    void closingEdgeChanged();
     void isCalibratingChanged();
     void isPanningChanged();
     void toolChanged();
@@ -280,6 +289,7 @@ private:
     Shown shownNow() const;
     void tell(const Shown &now);
     void showPoints();
+    void showClosingEdge();
     void showGuidance();
     Measuring::Session sessionCopy() const;
 
@@ -297,7 +307,10 @@ private:
     static QVector<QPointF *> alignmentClicksOf(Measuring::Session &session);
     bool nudgeAlignmentClick(const QPointF &step);
     bool beginModelDrag(const QPointF &pixel, double radius);
-    void setPointAt(const QPointF &pixel);
+    // How a click becomes a point of the session.
+    using SetPoint = Measuring::ClickResult (*)(Measuring::Session &, const QPointF &);
+    void clickWith(SetPoint setPoint, const QPointF &pixel);
+    void setPointWith(SetPoint setPoint, const QPointF &pixel);
     void setWaterLineAt(const QPointF &pixel);
     void addLaserSpot(const QPointF &pixel);
     void expectLaserSpots(int count, const QVariantList &spots);
@@ -328,6 +341,7 @@ private:
     int m_draggedPoint = -1;
     int m_laserSpotsExpected = 0;
     QVariantList m_laserSpots;
+    QVariantList m_closingEdge;
     bool m_isPanning = false;
     int m_nudgeNumber = 0;
 };

@@ -16,6 +16,11 @@ namespace {
 constexpr double fractionPerPercent = 0.01;
 constexpr double percentPerOne = 100.0;
 constexpr double mmPerM = 1000.0;
+// From this many points on a click near the first one closes the outline; before, only one on the very
+// same place.
+constexpr int smallestClosable = 3;
+// Of a side of the closing area: dots that the eye joins to a line.
+constexpr int closingEdgeSteps = 10;
 
 bool allHavePositions(const Session &session)
 {
@@ -81,6 +86,47 @@ ClickResult clickPoint(Session &session, const QPointF &pixel)
     }
     PipeView view(session);
     return clickOn(view, session, pixel);
+}
+
+ClickResult addPoint(Session &session, const QPointF &pixel)
+{
+    if (!closesOutline(session, pixel)) {
+        return clickPoint(session, pixel);
+    }
+    session.points.append({pixel, PipeView(session).pick(pixel), {}});
+    return ClickResult::Added;
+}
+
+bool closesOutline(const Session &session, const QPointF &pixel)
+{
+    if (infoOf(session.kind).mode != MeasureMode::CrossSection || isClosedOutline(session)) {
+        return false;
+    }
+    Session clicked = session;
+    return clickPoint(clicked, pixel) == ClickResult::Added && isClosedOutline(clicked);
+}
+
+QVector<QPointF> closingEdge(const Session &session)
+{
+    QVector<QPointF> edge;
+    if (session.points.size() < smallestClosable || !session.points.first().position ||
+        !closesOutline(session, session.points.first().pixel)) {
+        return edge;
+    }
+    PipeView view(session);
+    const Vec3 first = *session.points.first().position;
+    const double reachM = view.pipe().closingReachM();
+    const auto walk = [&](const Vec3 &from, const Vec3 &to) {
+        for (int i = 0; i < closingEdgeSteps; ++i) {
+            edge +=
+                view.project(first + (from + (to - from) * (1.0 * i / closingEdgeSteps)) * reachM);
+        }
+    };
+    walk({-1, -1, 0}, {1, -1, 0});
+    walk({1, -1, 0}, {1, 1, 0});
+    walk({1, 1, 0}, {-1, 1, 0});
+    walk({-1, 1, 0}, {-1, -1, 0});
+    return edge;
 }
 
 QVector<QPointF> placePoints(Session &session)

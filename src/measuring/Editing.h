@@ -33,6 +33,21 @@ enum class ClickResult {
 ZALENTO_MEASURING_EXPORT ClickResult clickPoint(Session &session, const QPointF &pixel);
 
 /**
+ * Adds the point that a click means, also where clickPoint() would close the outline: near the
+ * first point an outline can have another one.
+ */
+ZALENTO_MEASURING_EXPORT ClickResult addPoint(Session &session, const QPointF &pixel);
+
+/** Whether clickPoint() at @p pixel would close the open outline. */
+ZALENTO_MEASURING_EXPORT bool closesOutline(const Session &session, const QPointF &pixel);
+
+/**
+ * The edge of the area around the first point in which clickPoint() closes the outline, as pixels
+ * that follow each other around it. Empty while no click closes.
+ */
+ZALENTO_MEASURING_EXPORT QVector<QPointF> closingEdge(const Session &session);
+
+/**
  * Clicks the points that have no position yet, in their order.
  * @return the pixels of those that met nothing; they are no longer in the session
  */

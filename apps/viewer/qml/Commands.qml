@@ -193,6 +193,8 @@ Item {
             // The stage itself listens to these.
             [qsTr("H"), qsTr("Hide the overlay while held")],
             [qsTr("Enter"), qsTr("Show a cursor; again: click with it")],
+            [qsTr("Shift+Click"), qsTr("Set a point where a click would close the outline; "
+                                       + "Shift+Enter with the cursor")],
             [qsTr("Arrows"), qsTr("Move the cursor or the selected point by a pixel, or pan")],
             [qsTr("Shift+Arrows"), qsTr("The same by ten")]
         ])

@@ -114,6 +114,7 @@ FocusScope {
                 }
                 Text {
                     id: unitText
+                    objectName: "unit." + root.name
                     anchors { right: parent.right; rightMargin: 6; verticalCenter: parent.verticalCenter }
                     text: root.unit
                     color: Theme.quiet

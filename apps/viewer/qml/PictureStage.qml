@@ -53,9 +53,9 @@ FocusScope {
         if (!Viewer.editor.selectAlignmentClick(pixel, reach))
             Viewer.editor.click(pixel)
     }
-    function clickCursor() {
+    function clickCursor(keepsOpen) {
         if (cursor)
-            clickAt(cursor)
+            keepsOpen ? Viewer.editor.clickKeepingOpen(cursor) : clickAt(cursor)
         else
             cursor = stageView.toPicture(Qt.point(width / 2, height / 2))
     }
@@ -76,7 +76,7 @@ FocusScope {
         } else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
             event.accepted = Viewer.documents.hasPicture
             if (event.accepted)
-                clickCursor()
+                clickCursor(event.modifiers & Qt.ShiftModifier)
         } else if (event.key === Qt.Key_H) {
             event.accepted = true
             isOverlayHidden = true
@@ -162,6 +162,29 @@ FocusScope {
             visible: !stage.isOverlayHidden
         }
     }
+    // Inside of these dots a click closes the outline.
+    Repeater {
+        model: Viewer.editor.tool > 0 ? [] : Viewer.editor.closingEdge
+        Rectangle {
+            objectName: "closingDot"
+            readonly property int size: stage.closesNow ? 5 : 3
+            x: modelData.x * stageView.scale + stageView.offset.x - size / 2
+            y: modelData.y * stageView.scale + stageView.offset.y - size / 2
+            width: size
+            height: size
+            radius: size / 2
+            color: stage.closesNow ? Theme.accent : Theme.text
+            visible: !stage.isOverlayHidden
+        }
+    }
+    HoverHandler {
+        id: hover
+        acceptedDevices: PointerDevice.Mouse
+    }
+    // The click under the mouse or the cursor closes the outline.
+    readonly property bool closesNow: Viewer.editor.closingEdge.length > 0
+        && (cursor ? Viewer.editor.closesAt(cursor)
+                   : hover.hovered && Viewer.editor.closesAt(stageView.toPicture(hover.point.position)))
     Repeater {
         model: Viewer.editor.alignmentMarks
         AlignmentMark {
@@ -204,6 +227,10 @@ FocusScope {
             near >= 0 ? Viewer.editor.selectedPoint = near
                       : stage.clickAt(stageView.toPicture(position))
         }
+        onShiftTapped: {
+            stage.forceActiveFocus()
+            Viewer.editor.clickKeepingOpen(stageView.toPicture(position))
+        }
         onDragBegan: {
             stage.forceActiveFocus()
             const reach = (isTouch ? stage.fingerReach : stage.mouseReach) / stageView.scale
@@ -229,7 +256,8 @@ FocusScope {
         onAimed: loupe.aim = position
         onAimEnded: {
             loupe.aim = null
-            Viewer.editor.click(stageView.toPicture(position))
+            // Who aims means the place, not the closing.
+            Viewer.editor.clickKeepingOpen(stageView.toPicture(position))
         }
         onPinchBegan: Viewer.editor.beginPinch()
         onPinched: {

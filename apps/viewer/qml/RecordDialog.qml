@@ -26,6 +26,9 @@ ViewerDialog {
 
     contentItem: Column {
         spacing: 16
+        Note {
+            text: qsTr("The nominal size is the model's diameter: lengths grow with it.")
+        }
         Row {
             width: parent.width
             Text {
@@ -74,8 +77,8 @@ ViewerDialog {
             anchors.right: parent.right
             spacing: Theme.gap
             ToolKey {
-                text: qsTr("Load file…")
-                hint: qsTr("Load a pipe record")
+                text: qsTr("From file…")
+                hint: qsTr("Load the size from a record file")
                 onClicked: {
                     dialog.close()
                     dialog.fileRequested()
@@ -87,8 +90,8 @@ ViewerDialog {
             }
             ToolKey {
                 objectName: "recordAccept"
-                text: qsTr("Take")
-                hint: qsTr("Take the record")
+                text: qsTr("Use size")
+                hint: qsTr("Use this size for the model")
                 emphasized: true
                 onClicked: dialog.take()
             }

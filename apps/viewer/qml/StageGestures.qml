@@ -4,7 +4,7 @@ import QtQuick 2.15
 //
 // | Input                               | Gesture                         |
 // |-------------------------------------|---------------------------------|
-// | left click, tap                     | tapped                          |
+// | left click, tap; with Shift         | tapped; shiftTapped             |
 // | left drag, drag of one finger       | dragBegan, dragged, dragEnded   |
 // | middle drag; any while `panOnly`    | panned                          |
 // | finger held, then moved             | aimed, aimEnded                 |
@@ -19,6 +19,7 @@ Item {
     property bool panOnly: false
 
     signal tapped(point position, bool isTouch)
+    signal shiftTapped(point position)
     signal dragBegan(point position, bool isTouch)
     signal dragged(point position)
     signal dragEnded()
@@ -61,7 +62,14 @@ Item {
         property bool isTouch: false
         longPressThreshold: gestures.neverSeconds
         onPressedChanged: if (pressed) gestures.isGivenUp = false
-        onTapped: if (!gestures.isGivenUp) gestures.tapped(eventPoint.position, isTouch)
+        onTapped: {
+            if (gestures.isGivenUp)
+                return
+            if (eventPoint.event.modifiers & Qt.ShiftModifier)
+                gestures.shiftTapped(eventPoint.position)
+            else
+                gestures.tapped(eventPoint.position, isTouch)
+        }
     }
     component Drag: DragHandler {
         property bool isTouch: false

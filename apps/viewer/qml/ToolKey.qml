@@ -9,9 +9,12 @@ Button {
 
     property string hint: action ? action.hint : text
     readonly property string keyText: action ? action.keyText : ""
+    // What to press next: outlined.
     property bool emphasized: false
-    // Chosen of a few, or on. A press does not change it: what is shown does.
+    // Chosen of a few, or on: filled. A press does not change it: what is shown does.
     property bool chosen: false
+    // What it opens.
+    property var menu: null
 
     implicitHeight: Theme.touch
     implicitWidth: Math.max(Theme.touch, label.implicitWidth + 2 * 12)
@@ -25,15 +28,16 @@ Button {
     onPressed: Viewer.focusStage()
     // Qt tells the second of two quick presses apart; here it is a press like any other.
     onDoubleClicked: action ? action.trigger(key) : clicked()
+    onClicked: if (menu) menu.open()
     ToolTip.text: keyText ? hint + "  (" + keyText + ")" : hint
-    ToolTip.visible: hovered && !down && ToolTip.text !== text
+    ToolTip.visible: hovered && !down && ToolTip.text !== text && !(menu && menu.visible)
     ToolTip.delay: 600
 
     contentItem: Text {
         id: label
         text: key.text
         font: key.font
-        color: key.chosen || key.emphasized ? Theme.accentText : Theme.text
+        color: key.chosen ? Theme.accentText : key.emphasized ? Theme.accent : Theme.text
         opacity: key.enabled ? 1 : 0.35
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
@@ -41,11 +45,10 @@ Button {
     }
     background: Rectangle {
         radius: Theme.radius
-        color: key.chosen || key.emphasized
-               ? (key.down ? Qt.darker(Theme.accent, 1.2) : Theme.accent)
-               : key.down || key.hovered ? Theme.controlDown : Theme.control
+        color: key.chosen ? (key.down ? Qt.darker(Theme.accent, 1.2) : Theme.accent)
+                          : key.down || key.hovered ? Theme.controlDown : Theme.control
         opacity: key.enabled ? 1 : 0.5
-        border.width: key.visualFocus ? 2 : 0
-        border.color: Theme.text
+        border.width: key.visualFocus || key.emphasized ? 2 : 0
+        border.color: key.visualFocus ? Theme.text : Theme.accent
     }
 }

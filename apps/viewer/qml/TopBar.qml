@@ -25,7 +25,7 @@ Rectangle {
             text: qsTr("Recent")
             hint: qsTr("Pictures opened lately")
             enabled: Viewer.preferences.recentFiles.length > 0
-            onClicked: recentMenu.open()
+            menu: recentMenu
             ViewerMenu {
                 id: recentMenu
                 y: parent.height + 4
@@ -48,7 +48,7 @@ Rectangle {
             text: qsTr("Export")
             hint: qsTr("Save the picture with its overlay, or the values")
             enabled: Viewer.documents.hasPicture
-            onClicked: exportMenu.open()
+            menu: exportMenu
             ViewerMenu {
                 id: exportMenu
                 objectName: "exportMenu"
@@ -82,8 +82,8 @@ Rectangle {
         }
         ToolKey {
             objectName: "recordKey"
-            text: qsTr("Pipe size")
-            hint: qsTr("Pipe record: type or load the nominal size")
+            text: qsTr("Pipe record")
+            hint: qsTr("Type the pipe's nominal size, or load it from a record file")
             enabled: Viewer.documents.hasPicture
             onClicked: bar.recordRequested()
         }

@@ -179,7 +179,12 @@ Vec3 Pipe::snapToFirst(const std::vector<HitPoint> &list, const Vec3 &p) const
         return p;
     }
     const Vec3 &first = list.front().position;
-    return Vec3::approxEqual(first, p, diameterMM * snapMPerMM) ? first : p;
+    return Vec3::approxEqual(first, p, closingReachM()) ? first : p;
+}
+
+double Pipe::closingReachM() const
+{
+    return diameterMM * snapMPerMM;
 }
 
 void Pipe::undoHitPointList()

@@ -69,6 +69,10 @@ public:
      */
     void addPlanePoint(const Vec3 &picked);
 
+    /** Near the first point: a click that lies less than this off in x and in y closes the outline.
+     */
+    double closingReachM() const;
+
     /**
      * The first position of @p list when there are more than two points and @p p lies within
      * 12 % of the diameter of it in every coordinate; else @p p.

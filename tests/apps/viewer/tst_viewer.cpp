@@ -71,6 +71,7 @@ private slots:
     void measures();
     void crackNeedsAScale();
     void pointsAreCorrected();
+    void outlineClosesWhenItIsToldTo();
     void dragIsOneStep();
     void zoomAndPan();
     void fingers();
@@ -214,6 +215,13 @@ void TestViewer::pointsAreCorrected()
     d.key(Qt::Key_U);
     QVERIFY(d.editor.value().endsWith('\''));
     QCOMPARE(number(d), measured);
+    const auto shownDiameter = [&d] {
+        return d.text("field.diameterMM") + d.text("unit.diameterMM");
+    };
+    QCOMPARE(shownDiameter(), QString("11.811in"));
+    d.key(Qt::Key_U);
+    QCOMPARE(shownDiameter(), QString("300mm"));
+    d.key(Qt::Key_U);
     d.key(Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QApplication::clipboard()->text(), d.editor.value());
     d.key(Qt::Key_Backspace);
@@ -223,6 +231,33 @@ void TestViewer::pointsAreCorrected()
     d.click(390, 290);
     QVERIFY(d.guidance.text().contains("beyond"));
     QVERIFY(d.text("secondValueText").startsWith("Point 2 lies beyond"));
+}
+
+void TestViewer::outlineClosesWhenItIsToldTo()
+{
+    ViewerDriver d;
+    d.openSample("section.jpg");
+    d.key(Qt::Key_6);
+    const QPointF first(384, 350);
+    const QPointF near(400, 360);
+    for (const QPointF &point : {first, QPointF(560, 300), QPointF(384, 150)}) {
+        QVERIFY(d.editor.closingEdge().isEmpty() && !d.editor.closesAt(near));
+        d.click(point.x(), point.y());
+    }
+    QVERIFY(d.editor.closesAt(near) && !d.editor.closesAt(QPointF(500, 350)));
+    for (const QVariant &dot : d.editor.closingEdge()) {
+        const QPointF inwards = (first - dot.toPointF()) / 50.0;
+        QVERIFY(d.editor.closesAt(dot.toPointF() + inwards));
+        QVERIFY(!d.editor.closesAt(dot.toPointF() - inwards));
+    }
+    QTest::mouseClick(d.window(), Qt::LeftButton, Qt::ShiftModifier, d.at(near.x(), near.y()));
+    QCOMPARE(d.editor.points()->count(), 4);
+    d.hold(d.at(380, 340), d.at(380, 345), [] {});
+    QCOMPARE(d.editor.points()->count(), 5);
+    QVERIFY(!d.editor.value().contains("²"));
+    d.click(370, 366);
+    QVERIFY2(d.editor.value().contains("²"), qPrintable(d.editor.value()));
+    QVERIFY(d.editor.closingEdge().isEmpty());
 }
 
 void TestViewer::dragIsOneStep()
