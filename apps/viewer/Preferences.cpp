@@ -13,6 +13,7 @@ constexpr QSize usualWindowSize(1280, 800);
 
 const QString windowSizeKey = QStringLiteral("Viewer/windowSize");
 const QString recentFilesKey = QStringLiteral("Viewer/recentFiles");
+const QString languageKey = QStringLiteral("Viewer/language");
 const QString folderKey = QStringLiteral("Viewer/folder");
 
 } // namespace
@@ -51,6 +52,20 @@ void Preferences::addRecentFile(const QString &path)
     files.prepend(absolute);
     m_settings.setValue(recentFilesKey, QStringList(files.mid(0, largestRecentCount)));
     Q_EMIT recentFilesChanged();
+}
+
+QString Preferences::language() const
+{
+    return m_settings.value(languageKey).toString();
+}
+
+void Preferences::setLanguage(const QString &language)
+{
+    if (language == this->language()) {
+        return;
+    }
+    m_settings.setValue(languageKey, language);
+    Q_EMIT languageChanged();
 }
 
 QString Preferences::folder() const

@@ -119,7 +119,12 @@ Column {
             onClicked: Viewer.editor.isLocked = !Viewer.editor.isLocked
         }
     }
+    function focusFields() {
+        if (fields.count > 0)
+            fields.itemAt(0).forceActiveFocus(Qt.TabFocusReason)
+    }
     Repeater {
+        id: fields
         model: Viewer.alignmentFields
         NumberField {
             width: panel.width

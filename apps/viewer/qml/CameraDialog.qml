@@ -10,12 +10,19 @@ ViewerDialog {
     width: Math.min(parent.width - 40, 460)
     onOpened: nameField.forceActiveFocus()
 
-    contentItem: Column {
-        spacing: 12
-        Repeater {
+    contentItem: Item {
+        implicitHeight: list.contentHeight + bottom.height + 12
+        ListView {
+            id: list
+            anchors { left: parent.left; right: parent.right; top: parent.top; bottom: bottom.top }
+            anchors.bottomMargin: 12
+            clip: true
+            spacing: 12
+            boundsBehavior: Flickable.StopAtBounds
+            ScrollBar.vertical: ScrollBar { width: 10 }
             model: Viewer.cameras.names
-            Row {
-                width: dialog.availableWidth
+            delegate: Row {
+                width: list.width - 14
                 spacing: 6
                 ToolKey {
                     width: parent.width - removeKey.width - 6
@@ -35,6 +42,8 @@ ViewerDialog {
             }
         }
         Row {
+            id: bottom
+            anchors.bottom: parent.bottom
             width: dialog.availableWidth
             spacing: 6
             TextField {
@@ -44,6 +53,7 @@ ViewerDialog {
                 height: Theme.touch
                 selectByMouse: true
                 placeholderText: qsTr("Name")
+                placeholderTextColor: Theme.quiet
                 color: Theme.text
                 font { family: Theme.family; pixelSize: Theme.normal }
                 Accessible.name: qsTr("Name of the camera")

@@ -1,7 +1,7 @@
 import QtQuick 2.15
 
-// One of a few words.
-Row {
+// One of a few words; on a narrow panel below their label.
+Grid {
     id: choice
 
     property string label
@@ -9,28 +9,36 @@ Row {
     property int current: 0
     signal chosen(int index)
 
-    readonly property real keyWidth: (width - title.width - spacing * choices.length)
-                                     / choices.length
+    readonly property bool isNarrow: width < 300
+    readonly property real keyWidth: (width - (isNarrow ? 0 : title.width + spacing)
+                                      - spacing * (choices.length - 1)) / choices.length
+    columns: isNarrow ? 1 : 2
     spacing: 6
+    rowSpacing: 2
 
     Text {
         id: title
         width: 76
-        height: Theme.touch
+        height: choice.isNarrow ? implicitHeight : Theme.touch
         verticalAlignment: Text.AlignVCenter
         text: choice.label
         color: Theme.text
-        font { family: Theme.family; pixelSize: Theme.normal }
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 11
+        font { family: Theme.family; pixelSize: choice.isNarrow ? Theme.small : Theme.normal }
     }
-    Repeater {
-        model: choice.choices
-        ToolKey {
-            width: choice.keyWidth
-            text: modelData
-            hint: choice.label + " " + modelData
-            font.pixelSize: Theme.small
-            chosen: choice.current === index
-            onClicked: choice.chosen(index)
+    Row {
+        spacing: choice.spacing
+        Repeater {
+            model: choice.choices
+            ToolKey {
+                width: choice.keyWidth
+                text: modelData
+                hint: choice.label + " " + modelData
+                font.pixelSize: Theme.small
+                chosen: choice.current === index
+                onClicked: choice.chosen(index)
+            }
         }
     }
 }

@@ -6,6 +6,7 @@ Item {
     id: commands
 
     required property var stage
+    required property var side
     signal openRequested()
     signal keysRequested()
 
@@ -170,6 +171,25 @@ Item {
         shortcut: "Ctrl+1"
         onTriggered: commands.stage.actualSize()
     }
+    readonly property Command showValue: Command {
+        text: qsTr("Value")
+        hint: qsTr("Lead the keys to the value")
+        shortcut: "F6"
+        onTriggered: commands.side.focusValue()
+    }
+    readonly property Command showFields: Command {
+        text: qsTr("Fields")
+        hint: qsTr("Lead the keys to the fields")
+        shortcut: "F7"
+        enabled: Viewer.documents.hasPicture
+        onTriggered: commands.side.focusFields()
+    }
+    readonly property Command showStage: Command {
+        text: qsTr("Picture")
+        hint: qsTr("Lead the keys to the picture")
+        shortcut: "F8"
+        onTriggered: commands.stage.forceActiveFocus()
+    }
     readonly property Command keys: Command {
         text: "?"
         hint: qsTr("List of keys")
@@ -180,7 +200,8 @@ Item {
     // In the order of the list of keys; the kinds follow, under their numbers.
     readonly property var all: [open, save, copy, previous, next, undo, redo, giveUp, dropLastPoint,
                                 confirm, measureAgain, clickPoints, clickJoint, clickLine, snap, unit,
-                                map, wall, zoomIn, zoomOut, fit, actualSize, keys]
+                                map, wall, zoomIn, zoomOut, fit, actualSize, showValue, showFields,
+                                showStage, keys]
     // What the list of keys says: [keys, text].
     readonly property var keyRows: {
         const rows = all.map(command => [command.keyText, command.hint])

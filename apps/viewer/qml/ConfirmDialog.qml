@@ -10,6 +10,8 @@ ViewerDialog {
 
     width: Math.min(parent.width - 40, 560)
 
+    onOpened: cancelKey.forceActiveFocus(Qt.TabFocusReason)
+
     contentItem: Column {
         spacing: 24
         Text {
@@ -23,6 +25,7 @@ ViewerDialog {
             anchors.right: parent.right
             spacing: Theme.gap
             ToolKey {
+                id: cancelKey
                 objectName: "cancelKey"
                 text: qsTr("Cancel")
                 onClicked: dialog.reject()

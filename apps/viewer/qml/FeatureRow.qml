@@ -41,6 +41,7 @@ Column {
             height: Theme.touch
             text: row.distance
             placeholderText: qsTr("mm")
+            placeholderTextColor: Theme.quiet
             selectByMouse: true
             horizontalAlignment: TextInput.AlignRight
             inputMethodHints: Qt.ImhFormattedNumbersOnly

@@ -32,6 +32,8 @@ ViewerDialog {
         folder = isSaving ? above(suggested) : Viewer.preferences.folder
         nameField.text = suggested.substring(suggested.lastIndexOf("/") + 1)
         open()
+        const first = isSaving ? nameField : rows
+        first.forceActiveFocus(Qt.TabFocusReason)
     }
     function above(path) {
         return path.substring(0, path.lastIndexOf("/")) || "/"
@@ -102,6 +104,14 @@ ViewerDialog {
             clip: true
             model: list
             boundsBehavior: Flickable.StopAtBounds
+            activeFocusOnTab: true
+            keyNavigationEnabled: true
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Files")
+            onActiveFocusChanged: if (activeFocus && currentIndex < 0) currentIndex = 0
+            Keys.onSpacePressed: if (currentItem) currentItem.clicked()
+            Keys.onReturnPressed: if (currentItem) currentItem.enter()
+            Keys.onEnterPressed: if (currentItem) currentItem.enter()
             ScrollBar.vertical: ScrollBar { width: 12 }
             delegate: ItemDelegate {
                 id: row
@@ -109,11 +119,20 @@ ViewerDialog {
                 readonly property bool isChosen: picker.chosen.includes(filePath)
                 width: rows.width - 14
                 height: Theme.touch
+                focusPolicy: Qt.NoFocus
                 Accessible.name: fileName
+                Accessible.role: Accessible.ListItem
                 onClicked: fileIsDir ? picker.folder = filePath
                                      : picker.toggle(filePath)
-                onDoubleClicked: if (!fileIsDir && !picker.isSaving) {
-                    picker.chosen = [filePath]
+                onDoubleClicked: if (!fileIsDir) enter()
+
+                function enter() {
+                    if (fileIsDir || picker.isSaving) {
+                        clicked()
+                        return
+                    }
+                    if (!isChosen)
+                        picker.chosen = [filePath]
                     picker.finish()
                 }
                 contentItem: Text {
@@ -126,6 +145,8 @@ ViewerDialog {
                 background: Rectangle {
                     radius: Theme.radius
                     color: row.isChosen || row.hovered ? Theme.control : "transparent"
+                    border.width: rows.activeFocus && row.ListView.isCurrentItem ? 2 : 0
+                    border.color: Theme.text
                 }
             }
             Text {

@@ -9,7 +9,8 @@ ViewerDialog {
 
     title: qsTr("Keys")
     width: Math.min(parent.width - 40, 980)
-    height: Math.min(parent.height - 20, implicitHeight)
+
+    readonly property int columnCount: width < 800 ? 1 : 2
 
     contentItem: Item {
         implicitHeight: list.contentHeight + closeKey.height + 16
@@ -21,6 +22,10 @@ ViewerDialog {
             clip: true
             contentHeight: column.height
             boundsBehavior: Flickable.StopAtBounds
+            focus: true
+            Keys.onUpPressed: list.contentY = Math.max(0, list.contentY - Theme.touch)
+            Keys.onDownPressed: list.contentY = Math.max(0, Math.min(list.contentHeight - list.height,
+                                                                     list.contentY + Theme.touch))
             ScrollBar.vertical: ScrollBar {
                 policy: list.contentHeight > list.height ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
                 width: 10
@@ -32,16 +37,18 @@ ViewerDialog {
 
                 Grid {
                     id: grid
-                    columns: 2
+                    columns: dialog.columnCount
                     columnSpacing: 16
                     rowSpacing: 4
                     flow: Grid.TopToBottom
-                    rows: Math.ceil(dialog.rows.length / 2)
+                    rows: Math.ceil(dialog.rows.length / columns)
                     Repeater {
                         model: dialog.rows
                         Row {
                             height: Math.max(26, what.height)
                             spacing: 10
+                            Accessible.role: Accessible.StaticText
+                            Accessible.name: modelData[0] + ": " + modelData[1]
                             Text {
                                 id: keys
                                 width: 164
@@ -52,7 +59,8 @@ ViewerDialog {
                             }
                             Text {
                                 id: what
-                                width: (column.width - grid.columnSpacing) / 2 - keys.width - 10
+                                width: (column.width - grid.columnSpacing) / grid.columns
+                                       - keys.width - 10
                                 anchors.verticalCenter: parent.verticalCenter
                                 wrapMode: Text.WordWrap
                                 text: modelData[1]

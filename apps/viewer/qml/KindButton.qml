@@ -13,6 +13,8 @@ AbstractButton {
     implicitHeight: 58
     focusPolicy: Qt.TabFocus
     Accessible.name: text
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
     onPressed: Viewer.focusStage()
     Accessible.role: Accessible.RadioButton
     Accessible.checked: chosen
@@ -23,21 +25,27 @@ AbstractButton {
     contentItem: Item {
         KindIcon {
             id: icon
-            x: button.isCompact ? 4 : 8
+            x: button.isCompact ? (parent.width - width) / 2 : 8
+            y: button.isCompact ? 4 : (parent.height - height) / 2
             width: button.isCompact ? 22 : 28
             height: width
-            anchors.verticalCenter: parent.verticalCenter
             kind: button.kind
             stroke: button.chosen ? Theme.accentText : Theme.text
             measure: button.chosen ? Theme.accentText : Theme.accent
         }
         Text {
-            anchors { left: icon.right; leftMargin: button.isCompact ? 4 : 8; right: parent.right; rightMargin: 2 }
-            height: parent.height
+            readonly property real besideIcon: icon.x + icon.width + 8
+            x: button.isCompact ? 2 : besideIcon
+            y: button.isCompact ? icon.y + icon.height : 0
+            width: parent.width - x - 2
+            height: parent.height - y
+            horizontalAlignment: button.isCompact ? Text.AlignHCenter : Text.AlignLeft
             verticalAlignment: Text.AlignVCenter
             text: button.text
-            wrapMode: Text.WordWrap
-            font { family: Theme.family; pixelSize: button.isCompact ? 13 : Theme.normal }
+            wrapMode: button.isCompact ? Text.NoWrap : Text.WordWrap
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 9
+            font { family: Theme.family; pixelSize: button.isCompact ? 12 : Theme.normal }
             color: button.chosen ? Theme.accentText : Theme.text
         }
     }

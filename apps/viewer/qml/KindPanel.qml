@@ -31,7 +31,14 @@ Column {
             onClicked: panel.calibrationRequested()
         }
     }
+    // @return false without a field
+    function focusFields() {
+        if (fields.count > 0)
+            fields.itemAt(0).forceActiveFocus(Qt.TabFocusReason)
+        return fields.count > 0
+    }
     Repeater {
+        id: fields
         model: Viewer.kindFields
         NumberField {
             width: panel.width

@@ -7,13 +7,14 @@ ApplicationWindow {
     id: window
 
     property bool closesAfterSaving: false
-    // Height is scarce on small screens, width on none.
+    // Height is scarce on a small screen that lies, width on one that stands.
     readonly property bool isLow: height < 700
+    readonly property bool isUpright: height > width
 
     visible: true
     width: Math.min(Viewer.preferences.windowSize.width, Screen.desktopAvailableWidth)
     height: Math.min(Viewer.preferences.windowSize.height, Screen.desktopAvailableHeight)
-    minimumWidth: 800
+    minimumWidth: 720
     minimumHeight: 480
     title: (Viewer.documents.pictureName ? Viewer.documents.pictureName + (Viewer.editor.isModified ? " *" : "") + " – " : "")
            + "Zalento"
@@ -49,13 +50,20 @@ ApplicationWindow {
     TopBar {
         id: topBar
         width: parent.width
+        isLow: window.isLow
         commands: commands
         onExportRequested: fileChooser.exportTo(what)
         onRecordRequested: recordDialog.open()
     }
+    // What the bars and the side panel leave.
+    Item {
+        id: work
+        anchors { left: parent.left; top: topBar.bottom; bottom: statusLine.top }
+        width: statusLine.width
+    }
     PictureStage {
         id: stage
-        anchors { left: parent.left; right: wallPanel.left; top: topBar.bottom; bottom: statusLine.top }
+        anchors { left: work.left; right: wallPanel.left; top: work.top; bottom: work.bottom }
         commands: commands
         isBehindDialog: fileChooser.isOpen || [recordDialog, keyList, saveDialog, unsavedDialog]
                                               .some(dialog => dialog.visible)
@@ -63,19 +71,35 @@ ApplicationWindow {
     WallPanel {
         id: wallPanel
         objectName: "wallPanel"
-        anchors { right: side.left; top: topBar.bottom; bottom: statusLine.top }
-        width: visible ? Math.round((window.width - side.width) / 2) : 0
+        anchors { right: work.right; top: work.top; bottom: work.bottom }
+        width: visible ? Math.round(work.width / 2) : 0
         visible: Viewer.wall.isShown
     }
     StatusLine {
         id: statusLine
-        anchors { left: parent.left; right: side.left; bottom: parent.bottom }
+        y: (window.isUpright ? side.y : window.height) - height
+        width: window.width - (window.isUpright ? 0 : side.width)
+        isLow: window.isLow
+        spaceOnTheRight: window.isLow ? 0 : zoomKeys.width
+    }
+    ZoomKeys {
+        id: zoomKeys
+        x: window.isLow ? topBar.zoomKeysX : statusLine.width - width - 6
+        y: window.isLow ? (topBar.height - height) / 2
+                        : statusLine.y + (statusLine.height - height) / 2
+        isCompact: window.isLow
+        enabled: Viewer.documents.hasPicture
+        stage: stage
+        commands: commands
     }
     SidePanel {
         id: side
-        anchors { right: parent.right; top: topBar.bottom; bottom: parent.bottom }
-        width: 344
+        x: window.width - width
+        y: window.height - height
+        width: window.isUpright ? window.width : window.isLow ? 296 : 344
+        height: window.isUpright ? uprightHeight : window.height - topBar.height
         isLow: window.isLow
+        isUpright: window.isUpright
         commands: commands
         onCalibrationRequested: fileChooser.openCalibration()
         onRecordRequested: recordDialog.open()
@@ -141,6 +165,7 @@ ApplicationWindow {
     Commands {
         id: commands
         stage: stage
+        side: side
         onOpenRequested: fileChooser.openPictures()
         onKeysRequested: keyList.open()
     }

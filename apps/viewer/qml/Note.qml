@@ -6,5 +6,7 @@ Text {
     visible: text
     wrapMode: Text.WordWrap
     color: Theme.quiet
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
     font { family: Theme.family; pixelSize: Theme.small }
 }

@@ -22,6 +22,8 @@ FocusScope {
     required property bool isSetting
 
     property string problem: ""
+    // The label stands above the number.
+    readonly property bool isNarrow: width < 300
 
     implicitHeight: column.implicitHeight
     onTextChanged: if (!problem) field.text = text
@@ -52,6 +54,12 @@ FocusScope {
         width: parent.width
         spacing: 2
 
+        Text {
+            visible: root.isNarrow
+            text: root.label
+            color: Theme.text
+            font { family: Theme.family; pixelSize: Theme.small }
+        }
         Row {
             width: parent.width
             spacing: 4
@@ -59,6 +67,7 @@ FocusScope {
             Text {
                 width: parent.width - 3 * 4 - 2 * Theme.touch - input.width
                 height: Theme.touch
+                visible: !root.isNarrow
                 verticalAlignment: Text.AlignVCenter
                 wrapMode: Text.WordWrap
                 text: root.label
@@ -74,7 +83,7 @@ FocusScope {
             }
             Rectangle {
                 id: input
-                width: 104
+                width: root.isNarrow ? parent.width - 2 * 4 - 2 * Theme.touch : 104
                 height: Theme.touch
                 radius: Theme.radius
                 color: Theme.window

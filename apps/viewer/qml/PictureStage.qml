@@ -320,12 +320,6 @@ FocusScope {
         item: item
         stageView: stageView
     }
-    ZoomStrip {
-        anchors { right: parent.right; bottom: parent.bottom; margins: 10 }
-        visible: Viewer.documents.hasPicture
-        stage: stage
-        commands: stage.commands
-    }
 
     Column {
         anchors.centerIn: parent

@@ -12,7 +12,7 @@ ViewerDialog {
     signal fileRequested()
 
     title: qsTr("Pipe record")
-    width: 460
+    width: Math.min(parent.width - 40, 460)
     onOpened: {
         problem = ""
         size.forceActiveFocus()

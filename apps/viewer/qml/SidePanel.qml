@@ -1,36 +1,60 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
+import QtQuick.Window 2.15
 import Drevon.Zalento.Viewer 1.0
 
-// Value, kinds and controls; undo lies at the bottom, where the thumb is.
+// Value, kinds and controls; undo lies at the bottom, where the thumb is. Upright, the controls stand
+// beside the rest.
 Rectangle {
     id: panel
 
     property bool isLow: false
+    property bool isUpright: false
     required property var commands
     signal calibrationRequested()
     signal recordRequested()
 
+    readonly property real columnWidth: isUpright ? width / 2 : width
+    // What an upright panel needs.
+    readonly property real uprightHeight: kinds.y + kinds.height + bottomRow.height + 2 * Theme.gap
+
     color: Theme.panel
+
+    function focusValue() { valuePanel.focusValue() }
+    function focusFields() { kindPanel.focusFields() || alignPanel.focusFields() }
+
+    // What has the keys stands in sight.
+    readonly property Item focused: Window.activeFocusItem
+    onFocusedChanged: {
+        let inside = focused
+        while (inside && inside !== column)
+            inside = inside.parent
+        if (!inside)
+            return
+        const y = focused.mapToItem(column, 0, 0).y
+        controls.contentY = Math.max(Math.min(controls.contentY, y),
+                                     y + focused.height + 2 * column.y - controls.height)
+    }
 
     ValuePanel {
         id: valuePanel
-        width: parent.width
+        width: panel.columnWidth
         isLow: panel.isLow
         commands: panel.commands
     }
     Grid {
         id: kinds
-        anchors { top: valuePanel.bottom; topMargin: Theme.gap; horizontalCenter: parent.horizontalCenter }
+        x: (panel.columnWidth - width) / 2
+        y: valuePanel.height + Theme.gap
         columns: panel.isLow ? 3 : 2
         spacing: 6
         Repeater {
             model: Viewer.kinds
             KindButton {
                 objectName: "kind." + model.name
-                width: (panel.width - 2 * Theme.gap - 6 * (kinds.columns - 1)) / kinds.columns
+                width: (panel.columnWidth - 2 * Theme.gap - 6 * (kinds.columns - 1)) / kinds.columns
                 isCompact: panel.isLow
-                height: panel.isLow ? 46 : 54
+                height: panel.isLow ? 48 : 54
                 kind: model.name
                 number: index + 1
                 text: model.title
@@ -43,15 +67,19 @@ Rectangle {
     }
     Rectangle {
         id: rule
-        anchors { top: kinds.bottom; topMargin: Theme.gap }
-        width: parent.width
-        height: 1
+        x: panel.isUpright ? panel.columnWidth : 0
+        y: panel.isUpright ? 0 : kinds.y + kinds.height + Theme.gap
+        width: panel.isUpright ? 1 : parent.width
+        height: panel.isUpright ? parent.height : 1
         color: Theme.line
     }
     Flickable {
         id: controls
         objectName: "controls"
-        anchors { top: rule.bottom; bottom: bottomRow.top; bottomMargin: 6; left: parent.left; right: parent.right }
+        x: panel.isUpright ? panel.columnWidth + 1 : 0
+        y: panel.isUpright ? 0 : rule.y + 1
+        width: panel.width - x
+        height: (panel.isUpright ? panel.height : bottomRow.y - 6) - y
         clip: true
         contentHeight: column.height + 2 * column.y
         boundsBehavior: Flickable.StopAtBounds
@@ -72,11 +100,13 @@ Rectangle {
                 commands: panel.commands
             }
             KindPanel {
+                id: kindPanel
                 width: parent.width
                 onCalibrationRequested: panel.calibrationRequested()
                 onRecordRequested: panel.recordRequested()
             }
             AlignPanel {
+                id: alignPanel
                 width: parent.width
                 commands: panel.commands
                 visible: Viewer.editor.hasModel
@@ -85,9 +115,10 @@ Rectangle {
     }
     Row {
         id: bottomRow
-        anchors { bottom: parent.bottom; bottomMargin: Theme.gap; horizontalCenter: parent.horizontalCenter }
+        x: (panel.columnWidth - width) / 2
+        y: panel.height - height - Theme.gap
         spacing: 6
-        readonly property real keyWidth: (panel.width - 2 * Theme.gap - 2 * spacing) / 3
+        readonly property real keyWidth: (panel.columnWidth - 2 * Theme.gap - 2 * spacing) / 3
         ToolKey {
             objectName: "undoKey"
             action: panel.commands.undo

@@ -1,10 +1,15 @@
 import QtQuick 2.15
 import Drevon.Zalento.Viewer 1.0
 
+// One height, whatever it says: the picture above stays where it is.
 Rectangle {
+    id: line
+
+    property bool isLow: false
+    property real spaceOnTheRight: 0
     readonly property color mark: [Theme.accent, Theme.warning, Theme.error][Viewer.guidance.level]
 
-    height: Math.max(52, label.implicitHeight + 14)
+    height: isLow ? 44 : 56
     color: Theme.panel
     Accessible.role: Accessible.StaticText
     Accessible.name: Viewer.guidance.text
@@ -12,19 +17,22 @@ Rectangle {
     Rectangle {
         width: 5
         height: parent.height
-        color: parent.mark
+        color: line.mark
     }
     Text {
-        id: label
         objectName: "statusText"
         anchors {
-            left: parent.left; leftMargin: 18
-            right: parent.right; rightMargin: 12
-            verticalCenter: parent.verticalCenter
+            fill: parent
+            leftMargin: line.isLow ? 12 : 18
+            rightMargin: 12 + line.spaceOnTheRight
         }
+        verticalAlignment: Text.AlignVCenter
         wrapMode: Text.WordWrap
+        elide: Text.ElideRight
+        fontSizeMode: Text.Fit
+        minimumPixelSize: 11
         text: Viewer.guidance.text
-        color: Viewer.guidance.level ? parent.mark : Theme.text
-        font { family: Theme.family; pixelSize: 17 }
+        color: Viewer.guidance.level ? line.mark : Theme.text
+        font { family: Theme.family; pixelSize: line.isLow ? 14 : 17 }
     }
 }

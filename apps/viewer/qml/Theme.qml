@@ -13,7 +13,7 @@ QtObject {
     readonly property color accent: "#37c6f4"
     readonly property color accentText: "#06222c"
     readonly property color warning: "#ffc061"
-    readonly property color error: "#ff7a70"
+    readonly property color error: "#ff9188"
 
     // Of the sources of uncertainty, in their order; told apart by all kinds of sight (M. Okabe and
     // K. Ito, 2008).

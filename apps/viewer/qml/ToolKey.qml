@@ -27,8 +27,12 @@ Button {
     // Whatever was typed into a field is committed before the button acts.
     onPressed: Viewer.focusStage()
     // Qt tells the second of two quick presses apart; here it is a press like any other.
-    onDoubleClicked: action ? action.trigger(key) : clicked()
+    onDoubleClicked: press()
     onClicked: if (menu) menu.open()
+    Keys.onReturnPressed: press()
+    Keys.onEnterPressed: press()
+
+    function press() { action ? action.trigger(key) : clicked() }
     ToolTip.text: keyText ? hint + "  (" + keyText + ")" : hint
     ToolTip.visible: hovered && !down && ToolTip.text !== text && !(menu && menu.visible)
     ToolTip.delay: 600
@@ -42,6 +46,8 @@ Button {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 11
     }
     background: Rectangle {
         radius: Theme.radius

@@ -2,42 +2,30 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import Drevon.Zalento.Viewer 1.0
 
+// What has no room on a narrow bar stands in the menu alone.
 Rectangle {
     id: bar
 
+    property bool isLow: false
     required property var commands
     signal exportRequested(string what)
     signal recordRequested()
 
-    height: 54
+    readonly property bool isNarrow: width < 1000
+    // On a low screen the keys of the zoom stand behind ours.
+    readonly property real zoomKeysX: left.x + left.width + 10
+
+    height: isLow ? 48 : 54
     color: Theme.panel
 
     Row {
         id: left
         anchors { left: parent.left; leftMargin: 6; verticalCenter: parent.verticalCenter }
-        spacing: 6
+        spacing: bar.isNarrow ? 4 : 6
         ToolKey {
             objectName: "openKey"
             action: bar.commands.open
             emphasized: !Viewer.documents.hasPicture
-        }
-        ToolKey {
-            text: qsTr("Recent")
-            hint: qsTr("Pictures opened lately")
-            enabled: Viewer.preferences.recentFiles.length > 0
-            menu: recentMenu
-            ViewerMenu {
-                id: recentMenu
-                y: parent.height + 4
-                width: 460
-                Repeater {
-                    model: Viewer.preferences.recentFiles
-                    ViewerMenuItem {
-                        text: modelData
-                        onTriggered: Viewer.documents.openPaths([modelData])
-                    }
-                }
-            }
         }
         ToolKey {
             objectName: "saveKey"
@@ -82,6 +70,7 @@ Rectangle {
         }
         ToolKey {
             objectName: "recordKey"
+            visible: !bar.isNarrow
             text: qsTr("Pipe record")
             hint: qsTr("Type the pipe's nominal size, or load it from a record file")
             enabled: Viewer.documents.hasPicture
@@ -89,26 +78,46 @@ Rectangle {
         }
         ToolKey {
             objectName: "mapKey"
+            visible: !bar.isNarrow
             action: bar.commands.map
             chosen: Viewer.assessment.map > 0
         }
         ToolKey {
             objectName: "wallKey"
+            visible: !bar.isNarrow
             action: bar.commands.wall
             chosen: Viewer.wall.isShown
+        }
+        ToolKey {
+            objectName: "menuKey"
+            text: "☰"
+            hint: qsTr("Menu: pictures opened lately, language, keys")
+            menu: mainMenu
+            MainMenu {
+                id: mainMenu
+                objectName: "mainMenu"
+                y: parent.height + 4
+                commands: bar.commands
+                onRecordRequested: bar.recordRequested()
+            }
         }
     }
 
     Row {
+        id: right
         anchors { right: parent.right; rightMargin: 6; verticalCenter: parent.verticalCenter }
-        spacing: 6
+        spacing: left.spacing
         ToolKey {
             objectName: "previousKey"
             action: bar.commands.previous
+            width: Theme.touch
             font.pixelSize: 26
         }
         Column {
-            width: Math.min(240, bar.width - left.width - 3 * Theme.touch - 60)
+            readonly property real taken: bar.isLow ? bar.zoomKeysX + 5 * (Theme.touch + 4)
+                                                    : left.x + left.width
+            width: Math.max(40, Math.min(240, bar.width - taken
+                                              - (bar.isLow ? 2 : 3) * (Theme.touch + 4) - 20))
             anchors.verticalCenter: parent.verticalCenter
             visible: Viewer.documents.count > 0
             Text {
@@ -118,24 +127,31 @@ Rectangle {
                 text: Viewer.documents.pictureName
                 color: Theme.text
                 font { family: Theme.family; pixelSize: Theme.normal }
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
             Text {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
+                elide: Text.ElideRight
                 text: qsTr("%1 of %2").arg(Viewer.documents.currentIndex + 1).arg(Viewer.documents.count)
                       + (Viewer.documents.hasPicture ? qsTr(" · %1 × %2").arg(Viewer.documents.pictureSize.width)
                                              .arg(Viewer.documents.pictureSize.height) : "")
                 color: Theme.quiet
                 font { family: Theme.family; pixelSize: 12 }
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
         }
         ToolKey {
             objectName: "nextKey"
             action: bar.commands.next
+            width: Theme.touch
             font.pixelSize: 26
         }
         ToolKey {
             objectName: "keysKey"
+            visible: !bar.isLow
             action: bar.commands.keys
         }
     }

@@ -8,7 +8,17 @@ Item {
     property bool isLow: false
     required property var commands
 
-    height: isLow ? 124 : 148
+    height: isLow ? 120 : 148
+
+    function focusValue() { label.forceActiveFocus(Qt.TabFocusReason) }
+
+    Rectangle {
+        anchors { fill: label; leftMargin: -6; rightMargin: -6 }
+        visible: label.activeFocus
+        color: "transparent"
+        radius: Theme.radius
+        border { width: 2; color: Theme.text }
+    }
 
     Text {
         id: label
@@ -33,6 +43,8 @@ Item {
         }
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 20
+        activeFocusOnTab: true
+        Accessible.focusable: true
         Accessible.role: Accessible.StaticText
         Accessible.name: qsTr("Value: %1").arg(text)
     }
@@ -47,6 +59,9 @@ Item {
         color: Theme.text
         elide: Text.ElideRight
         font { family: Theme.family; pixelSize: Theme.normal }
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+        Accessible.ignored: !text
 
         readonly property string shareOf: Viewer.editor.points.count > 2 ? qsTr(" of the section")
                                                                    : qsTr(" of the diameter")

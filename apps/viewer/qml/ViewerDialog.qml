@@ -7,6 +7,8 @@ Dialog {
 
     parent: Overlay.overlay
     anchors.centerIn: parent
+    // On a small screen a dialog scrolls rather than hang out of it.
+    height: Math.min(parent.height - 20, implicitHeight)
     modal: true
     focus: true
     padding: 20
@@ -17,6 +19,9 @@ Dialog {
         text: dialog.title
         padding: 20
         bottomPadding: 0
+        elide: Text.ElideRight
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
         color: Theme.text
         font { family: Theme.family; pixelSize: 20; bold: true }
     }

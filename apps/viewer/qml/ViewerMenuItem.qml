@@ -7,10 +7,20 @@ MenuItem {
     implicitHeight: Theme.touch
     font { family: Theme.family; pixelSize: Theme.normal }
     Accessible.name: text
+    indicator: null
+    arrow: Text {
+        x: item.width - width - 12
+        height: item.height
+        visible: item.subMenu
+        verticalAlignment: Text.AlignVCenter
+        text: "▸"
+        color: Theme.text
+    }
     contentItem: Text {
-        text: item.text
+        text: (item.checkable ? (item.checked ? "✔ " : "    ") : "") + item.text
         font: item.font
         color: Theme.text
+        opacity: item.enabled ? 1 : 0.35
         leftPadding: 8
         elide: Text.ElideLeft
         verticalAlignment: Text.AlignVCenter

@@ -4,6 +4,7 @@
 #include "Viewer.h"
 #include "ViewerWindow.h"
 
+#include <QAccessible>
 #include <QDir>
 #include <QFile>
 #include <QLineF>
@@ -69,6 +70,26 @@ public:
             }
         }
         return controls;
+    }
+
+    /** The visible controls without a name, too small for a finger, or outside of the window. */
+    QStringList unfitControls() const
+    {
+        constexpr double smallestForAFinger = 44.0;
+        const QRectF whole(QPointF(), window()->size());
+        QStringList unfit;
+        for (QQuickItem *item : visibleControls()) {
+            auto *accessible = QAccessible::queryAccessibleInterface(item);
+            const QString label = accessible ? accessible->text(QAccessible::Name) : QString();
+            const QRectF place = item->mapRectToScene(item->boundingRect());
+            const bool isInside =
+                isScrolled(item) ? place.right() <= whole.right() : whole.contains(place);
+            const double side = std::min(item->width(), item->height());
+            if (label.isEmpty() || side < smallestForAFinger || !isInside) {
+                unfit += QStringLiteral("%1 \"%2\"").arg(item->objectName(), label);
+            }
+        }
+        return unfit;
     }
 
     /** A copy of a sample in the folder. */
@@ -201,6 +222,13 @@ public:
     }
 
 private:
+    static bool isScrolled(const QQuickItem *item)
+    {
+        while (item && !item->inherits("QQuickFlickable")) {
+            item = item->parentItem();
+        }
+        return item;
+    }
     static QQuickItem *named(QQuickItem *root, const QString &name)
     {
         for (QQuickItem *item : below(root)) {

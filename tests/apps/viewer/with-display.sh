@@ -5,7 +5,7 @@ set -euo pipefail
 xvfb=$1
 shift
 number_file=$(mktemp)
-"$xvfb" -displayfd 1 -screen 0 1400x1000x24 -nolisten tcp >"$number_file" 2>/dev/null &
+"$xvfb" -displayfd 1 -screen 0 1400x1300x24 -nolisten tcp >"$number_file" 2>/dev/null &
 server=$!
 trap 'kill "$server" 2>/dev/null || true; rm -f "$number_file"' EXIT
 

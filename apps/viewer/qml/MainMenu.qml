@@ -1,0 +1,53 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Drevon.Zalento.Viewer 1.0
+
+// What is not needed at every picture, and what a narrow bar has no room for.
+ViewerMenu {
+    id: menu
+
+    required property var commands
+    signal recordRequested()
+
+    width: 300
+
+    ViewerMenu {
+        title: qsTr("Recent pictures")
+        width: 460
+        enabled: Viewer.preferences.recentFiles.length > 0
+        Repeater {
+            model: Viewer.preferences.recentFiles
+            ViewerMenuItem {
+                text: modelData
+                onTriggered: Viewer.documents.openPaths([modelData])
+            }
+        }
+    }
+    ViewerMenuItem {
+        text: qsTr("Pipe record")
+        enabled: Viewer.documents.hasPicture
+        onTriggered: menu.recordRequested()
+    }
+    ViewerMenuItem { action: menu.commands.map }
+    ViewerMenuItem { action: menu.commands.wall }
+    ViewerMenu {
+        title: qsTr("Language")
+        width: 260
+        Repeater {
+            // Each in its own words.
+            model: [["", qsTr("As the system's")], ["en", "English"], ["de", "Deutsch"],
+                    ["fr", "Français"]]
+            ViewerMenuItem {
+                objectName: "language." + modelData[0]
+                text: modelData[1]
+                checkable: true
+                checked: Viewer.preferences.language === modelData[0]
+                onTriggered: Viewer.preferences.language = modelData[0]
+            }
+        }
+    }
+    ViewerMenuItem {
+        text: menu.commands.keys.hint
+        onTriggered: menu.commands.keys.trigger()
+    }
+}
