@@ -8,7 +8,8 @@
 
 #include <zalento/item/registerTypes.h>
 
-#include <QCoreApplication>
+#include <QFont>
+#include <QGuiApplication>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QTranslator>
@@ -37,10 +38,22 @@ QObject *viewerOf(QQmlEngine *engine, QJSEngine *)
     return viewer;
 }
 
+// Labels are drawn in the application's font, which platforms choose from 9 to 12 points: the size
+// is that of zalento-measure's labels, which knows none but its own platform.
+constexpr int labelPX = 17;
+
+void setLabelFont()
+{
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(labelPX);
+    QGuiApplication::setFont(font);
+}
+
 // For the first window of the process.
 void prepareScene()
 {
     keepScene();
+    setLabelFont();
     // Plural forms are a translation's even in English.
     static QTranslator english;
     if (english.load(QStringLiteral(":/translations/zalento_en.qm"))) {
