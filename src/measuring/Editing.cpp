@@ -16,8 +16,8 @@ namespace {
 constexpr double fractionPerPercent = 0.01;
 constexpr double percentPerOne = 100.0;
 constexpr double mmPerM = 1000.0;
-// From this many points on a click near the first one closes the outline; before, only one on the very
-// same place.
+// From this many points on a click near the first one closes the outline; before, only one on the
+// very same place.
 constexpr int smallestClosable = 3;
 // Of a side of the closing area: dots that the eye joins to a line.
 constexpr int closingEdgeSteps = 10;

@@ -18,8 +18,8 @@ ZALENTO_MEASURING_EXPORT QString sessionPathOf(const QString &picturePath);
 
 /**
  * Loads a session file. The path of its picture becomes one from the working folder, or absolute. A
- * problem names the file. The fields are those of the file: fitSession() fits them to its joints and
- * lines.
+ * problem names the file. The fields are those of the file: fitSession() fits them to its joints
+ * and lines.
  */
 ZALENTO_MEASURING_EXPORT Result<Session> loadSession(const QString &path);
 
