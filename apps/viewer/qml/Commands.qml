@@ -66,7 +66,7 @@ Item {
         onTriggered: commands.stage.cancel()
     }
     readonly property Command dropLastPoint: Command {
-        text: qsTr("Drop the last point")
+        text: qsTr("Drop the last point, or the click that was taken")
         shortcut: "Backspace"
         onTriggered: Viewer.editor.dropLastPoint()
     }
