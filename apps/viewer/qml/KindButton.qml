@@ -15,7 +15,7 @@ AbstractButton {
     Accessible.name: text
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
-    onPressed: Viewer.focusStage()
+    onPressed: if (!activeFocus) Viewer.focusStage()
     Accessible.role: Accessible.RadioButton
     Accessible.checked: chosen
     ToolTip.text: text + "  (" + number + ")"

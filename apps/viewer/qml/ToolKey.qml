@@ -24,8 +24,9 @@ Button {
     font.pixelSize: Theme.normal
     Accessible.name: hint
     Accessible.checked: chosen
-    // Whatever was typed into a field is committed before the button acts.
-    onPressed: Viewer.focusStage()
+    // Whatever was typed into a field is committed before the button acts. One that loses the keys
+    // while it is pressed does not act.
+    onPressed: if (!activeFocus) Viewer.focusStage()
     // Qt tells the second of two quick presses apart; here it is a press like any other.
     onDoubleClicked: press()
     onClicked: if (menu) menu.open()
