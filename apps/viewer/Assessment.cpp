@@ -179,7 +179,7 @@ QString Assessment::setLimit(const QString &text)
         return {};
     }
     Measuring::Session session = *m_editor.session();
-    session.limit = text.trimmed();
+    session.limit = UnitConv::cultureIndependentDecimalSeparator(text.trimmed());
     if (const Measuring::Outcome problem = checkSession(session)) {
         return problem->what;
     }

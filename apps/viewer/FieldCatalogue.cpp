@@ -88,8 +88,9 @@ Field diameterField(const Session &session)
 
 Field percentageField(const Session &session)
 {
-    Field field = with(numberField(QStringLiteral("percentage"), &Session::percentage),
-                       infoOf(session.kind).percentage.label, QStringLiteral("%"), 1, 1);
+    Field field = with(numberField(QStringLiteral("percentage"), &Session::percentage), "",
+                       QStringLiteral("%"), 1, 1);
+    field.label = Measuring::translated(infoOf(session.kind).percentage.label);
     field.hasSlider = true;
     // An angle is not set by the size of the branch or the joint.
     return session.kind == Measuring::Kind::WaterLevel ? setting(field) : field;
@@ -281,11 +282,12 @@ Measuring::Result<std::optional<double>> readField(const Field &field, const QSt
     const double value =
         QLocale::c().toDouble(UnitConv::cultureIndependentDecimalSeparator(trimmed), &isNumber);
     if (!isNumber || !std::isfinite(value)) {
-        return Measuring::Problem{{}, tr(QT_TRANSLATE_NOOP("Field", "This is not a number."))};
+        return Measuring::Problem{{},
+                                  QCoreApplication::translate("Field", "This is not a number.")};
     }
     if (value < field.smallest || value > field.largest) {
         return Measuring::Problem{{},
-                                  tr(QT_TRANSLATE_NOOP("Field", "From %1 to %2 %3, please."))
+                                  QCoreApplication::translate("Field", "From %1 to %2 %3, please.")
                                       .arg(number(field.smallest, field.decimals),
                                            number(field.largest, field.decimals), field.unit)
                                       .trimmed()};

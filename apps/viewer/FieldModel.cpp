@@ -120,6 +120,12 @@ void FieldModel::endDrag()
     m_editor.finishGesture(tr("Slider"));
 }
 
+void FieldModel::retranslate()
+{
+    beginResetModel();
+    endResetModel();
+}
+
 int FieldModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : m_rows.size();

@@ -42,6 +42,9 @@ public:
     Q_INVOKABLE void drag(int row, double value);
     Q_INVOKABLE void endDrag();
 
+    /** To be called when the language has changed. */
+    void retranslate();
+
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;

@@ -1,34 +1,29 @@
 #include "Guidance.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 
 namespace Drevon::Zalento {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Guidance", text);
-}
-
 QString calibration(int spotsExpected)
 {
-    return spotsExpected == 2 ? tr("Click the first laser spot. Esc gives up.")
-                              : tr("Click the second laser spot. Esc gives up.");
+    return spotsExpected == 2 ? Guidance::tr("Click the first laser spot. Esc gives up.")
+                              : Guidance::tr("Click the second laser spot. Esc gives up.");
 }
 
 QString alignment(const Situation &s)
 {
     if (s.tool == Tool::Line) {
-        return tr("Click along a feature of the wall that runs along the pipe: a seam, the water's "
-                  "edge. \"Points\" goes back to measuring.");
+        return Guidance::tr(
+            "Click along a feature of the wall that runs along the pipe: a seam, the water's "
+            "edge. \"Points\" goes back to measuring.");
     }
     const int clicks = s.session.rings.isEmpty() ? 0 : s.session.rings.last().points.size();
     return clicks < Measuring::smallestRingClicks
-               ? tr("Click on the edge of a joint: from the third click on the ring follows.")
-               : tr("The ring follows. Click more of the edge, or begin another joint.");
+               ? Guidance::tr(
+                     "Click on the edge of a joint: from the third click on the ring follows.")
+               : Guidance::tr("The ring follows. Click more of the edge, or begin another joint.");
 }
 
 // The kind's own sentence for so many points; some name the next point's number.
@@ -37,9 +32,10 @@ QString nextStep(const Situation &s)
     const auto &texts = Measuring::infoOf(s.session.kind).guidance;
     const int count = s.session.points.size();
     if (s.canClose) {
-        return tr("A click sets point %1; inside the dots it closes the outline. Shift+click, or a "
-                  "finger held down, sets a point there all the same.")
-            .arg(count + 1);
+        const QString closing = Guidance::tr(
+            "A click sets point %1; inside the dots it closes the outline. Shift+click, or a "
+            "finger held down, sets a point there all the same.");
+        return closing.arg(count + 1);
     }
     const QString text = Measuring::translated(
         texts[static_cast<std::size_t>(s.isClosed ? 3 : std::clamp(count, 0, 2))]);
@@ -57,19 +53,22 @@ QString guidanceFor(const Situation &s)
         return alignment(s);
     }
     if (s.isPanning) {
-        return tr("A drag pans the picture. Press the hand again to move the model.");
+        return Guidance::tr("A drag pans the picture. Press \"Pan\" again to move the model.");
     }
     if (s.session.rearCircleActive &&
         Measuring::infoOf(s.session.kind).has(Measuring::Uses::Model)) {
-        return tr("A drag moves the pipe's far end. Press \"Far end\" again to move the pipe.");
+        return Guidance::tr(
+            "A drag moves the pipe's far end. Press \"Far end\" again to move the pipe.");
     }
     if (s.state == Measuring::MeasureState::NoScale) {
-        return tr("No scale yet: press \"Laser spots\" and click the two spots, type mm per pixel, "
-                  "or load a calibration file. A click sets point %1.")
-            .arg(s.session.points.size() + 1);
+        const QString text = Guidance::tr(
+            "No scale yet: press \"Laser spots\" and click the two spots, type mm per pixel, "
+            "or load a calibration file. A click sets point %1.");
+        return text.arg(s.session.points.size() + 1);
     }
     if (s.state == Measuring::MeasureState::NotSet) {
-        return nextStep(s) + QLatin1Char(' ') + tr("If it matches already, press \"Confirm\".");
+        return nextStep(s) + QLatin1Char(' ') +
+               Guidance::tr("If it matches already, press \"Confirm\".");
     }
     return nextStep(s);
 }

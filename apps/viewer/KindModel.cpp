@@ -27,6 +27,11 @@ QVariant KindModel::data(const QModelIndex &index, int role) const
     }
 }
 
+void KindModel::retranslate()
+{
+    Q_EMIT dataChanged(index(0), index(rowCount() - 1), {TitleRole});
+}
+
 QHash<int, QByteArray> KindModel::roleNames() const
 {
     return {{NameRole, "name"}, {TitleRole, "title"}, {DescriptionRole, "description"}};

@@ -17,6 +17,9 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
+
+    /** To be called when the language has changed. */
+    void retranslate();
 };
 
 } // namespace Drevon::Zalento

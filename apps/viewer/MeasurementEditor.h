@@ -222,6 +222,9 @@ public:
     /** To be called when the document on view was saved. */
     void noteSaved() { refresh(); }
 
+    /** To be called when the language has changed. */
+    void retranslate() { showCurrent(); }
+
 Q_SIGNALS:
     void itemChanged();
     /** Another session is on view: everything that was read of it may be different. */

@@ -4,7 +4,6 @@
 #include <drevon/CDomainObject.h>
 #include <drevon/CLocaleSupport.h>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -21,11 +20,6 @@ const char *const unitField = "unit";
 constexpr int largestNominalSize = 100000;
 constexpr qint64 largestRecordBytes = 1024 * 1024;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("PipeRecord", text);
-}
-
 // A number that is not whole gives 0, which is no size.
 int wholeNumber(const QJsonValue &value)
 {
@@ -41,12 +35,14 @@ Measuring::Result<PipeRecord> loadPipeRecord(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return Measuring::Problem{path, tr("cannot be read: %1").arg(file.errorString())};
+        return Measuring::Problem{path,
+                                  PipeRecords::tr("cannot be read: %1").arg(file.errorString())};
     }
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(file.read(largestRecordBytes), &error);
     if (!document.isObject()) {
-        return Measuring::Problem{path, tr("expected a JSON object: %1").arg(error.errorString())};
+        return Measuring::Problem{
+            path, PipeRecords::tr("expected a JSON object: %1").arg(error.errorString())};
     }
     const QJsonObject fields = document.object();
     const PipeRecord record{wholeNumber(fields.value(QLatin1String(sizeField))),
@@ -63,11 +59,13 @@ Measuring::Outcome checkRecord(const PipeRecord &record)
                                    QStringLiteral("ft")};
     if (record.nominalSize < 1 || record.nominalSize > largestNominalSize) {
         return Measuring::Problem{
-            {}, tr("The nominal size is a whole number from 1 to %1.").arg(largestNominalSize)};
+            {},
+            PipeRecords::tr("The nominal size is a whole number from 1 to %1.")
+                .arg(largestNominalSize)};
     }
     if (!units.contains(record.unit)) {
         return Measuring::Problem{
-            {}, tr("The unit is one of %1.").arg(units.join(QStringLiteral(", ")))};
+            {}, PipeRecords::tr("The unit is one of %1.").arg(units.join(QStringLiteral(", ")))};
     }
     return {};
 }

@@ -13,6 +13,14 @@ Viewer::Viewer()
     , m_alignmentFields(m_editor, Zalento::alignmentFields)
 {}
 
+void Viewer::retranslate()
+{
+    m_kinds.retranslate();
+    m_kindFields.retranslate();
+    m_alignmentFields.retranslate();
+    m_editor.retranslate();
+}
+
 bool Viewer::hasPlatformDialogs() const
 {
     const QPlatformTheme *theme = QGuiApplicationPrivate::platformTheme();

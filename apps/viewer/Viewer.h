@@ -55,6 +55,9 @@ public:
 
     bool hasPlatformDialogs() const;
 
+    /** Says everything again, after the language has changed. */
+    void retranslate();
+
     Q_INVOKABLE QUrl urlOf(const QString &path) const { return QUrl::fromLocalFile(path); }
     Q_INVOKABLE QString pathOf(const QUrl &url) const { return url.toLocalFile(); }
 

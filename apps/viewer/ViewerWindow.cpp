@@ -1,6 +1,7 @@
 #include "ViewerWindow.h"
 
 #include "FileOrder.h"
+#include "Language.h"
 #include "OverlayView.h"
 #include "PictureProvider.h"
 #include "StageView.h"
@@ -12,7 +13,6 @@
 #include <QGuiApplication>
 #include <QQuickStyle>
 #include <QQuickWindow>
-#include <QTranslator>
 
 #include <mutex>
 
@@ -54,11 +54,6 @@ void prepareScene()
 {
     keepScene();
     setLabelFont();
-    // Plural forms are a translation's even in English.
-    static QTranslator english;
-    if (english.load(QStringLiteral(":/translations/zalento_en.qm"))) {
-        QCoreApplication::installTranslator(&english);
-    }
     QQuickStyle::setStyle(QStringLiteral("Default"));
     constexpr char module[] = "Drevon.Zalento.Viewer";
     registerTypes("Drevon.Zalento");
@@ -100,6 +95,15 @@ ViewerWindow::ViewerWindow(Viewer &viewer)
     viewer.wall()->setProvider(walls);
     m_engine.addImageProvider(QStringLiteral("wall"), walls);
     m_engine.setProperty(viewerProperty, QVariant::fromValue<QObject *>(&viewer));
+    const auto speak = [this, &viewer] {
+        useLanguage(viewer.preferences()->language());
+        viewer.retranslate();
+        m_engine.retranslate();
+    };
+    // Later, for it replaces the menu's entries, one of which was just pressed.
+    QObject::connect(viewer.preferences(), &Preferences::languageChanged, &m_engine, speak,
+                     Qt::QueuedConnection);
+    speak();
 }
 
 bool ViewerWindow::show()

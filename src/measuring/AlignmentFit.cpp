@@ -5,6 +5,7 @@
 #include "measuring/FitOutliers.h"
 #include "measuring/FitPlan.h"
 #include "measuring/FitStart.h"
+#include "measuring/Text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,10 +18,6 @@ namespace {
 // Variance of what rounding to whole gesture units leaves: rectangular, 1 unit wide.
 constexpr double roundingVariance = 1.0 / 12.0;
 
-constexpr const char *noneFits = "no round pipe fits the clicks";
-constexpr const char *tooFewPlaces =
-    "the clicks lie too near to each other, or on one side, to tell where the pipe is";
-
 // What is being fitted, and where the search stands.
 struct Fitting
 {
@@ -29,9 +26,20 @@ struct Fitting
     std::vector<FitClick> wrong;
 };
 
-Problem problemWith(const char *what)
+Problem problemWith(const QString &what)
 {
-    return {QStringLiteral("alignment"), QString::fromLatin1(what)};
+    return {QStringLiteral("alignment"), what};
+}
+
+Problem noneFits()
+{
+    return problemWith(Text::tr("no round pipe fits the clicks"));
+}
+
+Problem tooFewPlaces()
+{
+    return problemWith(Text::tr(
+        "the clicks lie too near to each other, or on one side, to tell where the pipe is"));
 }
 
 bool areFinite(const QVector<QPointF> &points)
@@ -72,12 +80,12 @@ Outcome inputProblem(const AlignmentClicks &clicks, const Alignment &start, doub
     const bool isPipe = std::isfinite(diameterMM) && diameterMM > 0.0;
     if (!isPipe || picture.isEmpty() || !canBeShown(start) || !areFinite(clicks) ||
         !(spreadPX > 0.0)) {
-        return problemWith(
-            "expected a diameter, a picture and an alignment to begin with, found other numbers");
+        return problemWith(Text::tr(
+            "expected a diameter, a picture and an alignment to begin with, found other numbers"));
     }
     if (possibleTargets(clicks).isEmpty()) {
-        return problemWith(
-            "expected three clicks on a joint, or two on each of two lines along the pipe");
+        return problemWith(Text::tr(
+            "expected three clicks on a joint, or two on each of two lines along the pipe"));
     }
     return std::nullopt;
 }
@@ -134,7 +142,7 @@ Result<Fitting> fittedWhereDetermined(const AlignmentClicks &clicks, const FitPr
         }
         const std::optional<Fitting> fitting = fitted(problem, targets, spreadPX);
         if (!fitting) {
-            return problemWith(noneFits);
+            return noneFits();
         }
         const double spread = spreadOf(fitting->problem, spreadPX);
         const FitTargets determined = determinedTargets(fitting->problem, targets, spread);
@@ -144,7 +152,7 @@ Result<Fitting> fittedWhereDetermined(const AlignmentClicks &clicks, const FitPr
         isRound = spread == spreadPX;
         targets = determined;
     }
-    return problemWith(isRound ? tooFewPlaces : noneFits);
+    return isRound ? tooFewPlaces() : noneFits();
 }
 
 // The offset is drawn in whole gesture units: the others follow where it is rounded. False when
@@ -255,17 +263,19 @@ Outcome drawingProblem(const FitProblem &problem, const Alignment &alignment,
                        const FitDrawing &drawing)
 {
     if (!isInsidePipe(problem)) {
-        return problemWith("the clicks say that the camera stands outside of the pipe");
+        return problemWith(Text::tr("the clicks say that the camera stands outside of the pipe"));
     }
     if (!isBetween(alignment.cameraHeightPercent, 0.0, 100.0)) {
-        return problemWith("the first joint lies too far above or below the middle of the picture");
+        return problemWith(
+            Text::tr("the first joint lies too far above or below the middle of the picture"));
     }
     if (!canBeShown(alignment)) {
-        return problemWith(
-            "the clicks say that the first joint or the field of view has an impossible size");
+        return problemWith(Text::tr(
+            "the clicks say that the first joint or the field of view has an impossible size"));
     }
     if (drawing.isCorrected()) {
-        return problemWith("the clicks say that the far end lies outside of the first joint");
+        return problemWith(
+            Text::tr("the clicks say that the far end lies outside of the first joint"));
     }
     return std::nullopt;
 }
@@ -370,7 +380,7 @@ Result<AlignmentFit> fitAlignment(const AlignmentClicks &clicks, const Alignment
     setCovariance(fitting->problem, spreadPX, fit);
     setResponses(fitting->problem, fit);
     if (fitting->targets.place && !roundOffset(*fitting, fit)) {
-        return problemWith(noneFits);
+        return noneFits();
     }
     if (!fitting->targets.direction) {
         fitClocks(clicks, fitting->problem);

@@ -1,5 +1,7 @@
 #include "measuring/CalibrationFile.h"
 
+#include "measuring/Text.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
@@ -27,20 +29,20 @@ Result<QString> loadCalibration(const QString &path)
 {
     QFile file(path);
     if (QFileInfo(path).isDir()) {
-        return Problem{path, QStringLiteral("is a folder, not a calibration file")};
+        return Problem{path, Text::tr("is a folder, not a calibration file")};
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        return Problem{path, QStringLiteral("cannot be read: %1").arg(file.errorString())};
+        return Problem{path, Text::tr("cannot be read: %1").arg(file.errorString())};
     }
     const QByteArray content = file.read(largestFileBytes + 1);
     if (content.size() > largestFileBytes) {
-        return Problem{path, QStringLiteral("is too large for a calibration file")};
+        return Problem{path, Text::tr("is too large for a calibration file")};
     }
     const QString text = QString::fromUtf8(content); // without the byte order mark
     const QStringList lines = text.split(QLatin1Char('\n'));
     if (std::none_of(lines.begin(), lines.end(), isRecord)) {
-        return Problem{path, QStringLiteral("holds no calibration: expected lines LASER;;;MM or "
-                                            "DIAMETER;PIXELS;MM")};
+        return Problem{path, Text::tr("holds no calibration: expected lines LASER;;;MM or "
+                                      "DIAMETER;PIXELS;MM")};
     }
     return text;
 }

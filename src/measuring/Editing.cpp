@@ -1,6 +1,7 @@
 #include "measuring/Editing.h"
 
 #include "measuring/PipeView.h"
+#include "measuring/Text.h"
 
 #include "zalento/geometry/Cylinder.h"
 #include "zalento/measure/measureLine.h"
@@ -257,10 +258,10 @@ Outcome takeLaserScale(Session &session, const QPointF &first, const QPointF &se
     const double distanceMM = pipe.laserDistance;
     pipe.calibrateLaser(0.0);
     if (!(distanceMM > 0.0)) {
-        return Problem{{}, QStringLiteral("the calibration names no distance of the laser spots")};
+        return Problem{{}, Text::tr("the calibration names no distance of the laser spots")};
     }
     if (!(pipe.laserScale > 0.0)) {
-        return Problem{{}, QStringLiteral("the two laser spots are the same pixel")};
+        return Problem{{}, Text::tr("the two laser spots are the same pixel")};
     }
     if (const Outcome problem = checkNumber(QStringLiteral("mmPerPixel"), pipe.laserScale,
                                             smallestMMPerPixel, largestMMPerPixel)) {

@@ -1,5 +1,7 @@
 #include "measuring/Limit.h"
 
+#include "measuring/Text.h"
+
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -37,9 +39,9 @@ constexpr std::array<UnitRow, 12> unitRows{{
 
 Problem problemOf(const QString &text)
 {
-    return {QStringLiteral("limit"),
-            QStringLiteral("expected a limit such as \"< 0.5 mm\" or \"> 20 %\", found \"%1\"")
-                .arg(text)};
+    return {
+        QStringLiteral("limit"),
+        Text::tr("expected a limit such as \"< 0.5 mm\" or \"> 20 %\", found \"%1\"").arg(text)};
 }
 
 } // namespace

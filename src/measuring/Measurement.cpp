@@ -3,6 +3,7 @@
 #include "measuring/Editing.h"
 #include "measuring/PipeView.h"
 #include "measuring/Repeats.h"
+#include "measuring/Text.h"
 #include "measuring/UncertaintyText.h"
 
 #include "zalento/geometry/Cylinder.h"
@@ -76,8 +77,8 @@ Measurement measuredByEye(const Session &session)
 {
     if (!session.isSet) {
         return unmeasured(MeasureState::NotSet,
-                          QStringLiteral("not set: set the value until the model matches the "
-                                         "picture, or confirm it"));
+                          Text::tr("not set: set the value until the model matches the "
+                                   "picture, or confirm it"));
     }
     switch (session.kind) {
     case Kind::WaterLevel:
@@ -111,15 +112,15 @@ Measurement lineMeasurement(const Session &session)
 {
     if (session.kind == Kind::CrackWidth && !scaleOf(session)) {
         return unmeasured(MeasureState::NoScale,
-                          QStringLiteral("no scale yet: give millimetres per pixel, a calibration "
-                                         "file, or the two laser spots"));
+                          Text::tr("no scale yet: give millimetres per pixel, a calibration "
+                                   "file, or the two laser spots"));
     }
     if (session.points.size() < 2) {
-        return unmeasured(MeasureState::NeedsPoints, QStringLiteral("needs at least two points"));
+        return unmeasured(MeasureState::NeedsPoints, Text::tr("needs at least two points"));
     }
     const LineMeasure line = lineMeasure(session);
     if (!line.value.isMeasured()) {
-        return unmeasured(MeasureState::NeedsPoints, QStringLiteral("the points lie on one place"));
+        return unmeasured(MeasureState::NeedsPoints, Text::tr("the points lie on one place"));
     }
     if (line.observable == ObservableType::Area) {
         return measured({named("area", line.value, session.unit),

@@ -1,5 +1,7 @@
 #include "measuring/OutputFile.h"
 
+#include "measuring/Text.h"
+
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
@@ -12,14 +14,14 @@ Outcome writeFile(const QString &path, const QByteArray &content, Overwrite over
     const QFileInfo existing(path);
     // A symbolic link that leads nowhere is something of the user's, too.
     if (overwrite == Overwrite::Refuse && (existing.exists() || existing.isSymLink())) {
-        return Problem{path, QStringLiteral("exists already and was left as it is")};
+        return Problem{path, Text::tr("exists already and was left as it is")};
     }
     QSaveFile file(path);
     // What flush() reports of a full disk, commit() would not: it would replace the old file by
     // what fitted.
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
         !file.flush() || !file.commit()) {
-        return Problem{path, QStringLiteral("cannot be written: %1").arg(file.errorString())};
+        return Problem{path, Text::tr("cannot be written: %1").arg(file.errorString())};
     }
     return {};
 }

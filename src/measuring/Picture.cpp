@@ -1,6 +1,7 @@
 #include "measuring/Picture.h"
 
 #include "measuring/CompletePicture.h"
+#include "measuring/Text.h"
 
 #include <QBuffer>
 #include <QCollator>
@@ -28,17 +29,17 @@ constexpr qint64 largestFileBytes = 512 * 1024 * 1024;
 std::optional<QString> fileProblem(const QFileInfo &info)
 {
     if (!info.exists()) {
-        return QStringLiteral("there is no such file");
+        return Text::tr("there is no such file");
     }
     if (!info.isFile()) {
-        return info.isDir() ? QStringLiteral("is a folder, not a picture")
-                            : QStringLiteral("is not a regular file");
+        return info.isDir() ? Text::tr("is a folder, not a picture")
+                            : Text::tr("is not a regular file");
     }
     if (info.size() == 0) {
-        return QStringLiteral("the file is empty");
+        return Text::tr("the file is empty");
     }
     if (info.size() > largestFileBytes) {
-        return QStringLiteral("the file is too large: %1 MiB, at most %2 are read")
+        return Text::tr("the file is too large: %1 MiB, at most %2 are read")
             .arg(info.size() / 1024 / 1024)
             .arg(largestFileBytes / 1024 / 1024);
     }
@@ -49,8 +50,8 @@ std::optional<QString> sizeProblem(const QSize &size)
 {
     const qint64 pixels = qint64(size.width()) * size.height();
     if (pixels > largestPictureMegapixels * pixelsPerMegapixel) {
-        return QStringLiteral("the picture is too large: %1 x %2 pixels, at most %3 megapixels are "
-                              "read")
+        return Text::tr("the picture is too large: %1 x %2 pixels, at most %3 megapixels are "
+                        "read")
             .arg(size.width())
             .arg(size.height())
             .arg(largestPictureMegapixels);
@@ -74,12 +75,12 @@ QString formatNames()
 std::optional<QString> headerProblem(QImageReader &reader)
 {
     if (!reader.canRead() || !pictureFormats().contains(reader.format())) {
-        return QStringLiteral("is no picture in a format that is read here: %1").arg(formatNames());
+        return Text::tr("is no picture in a format that is read here: %1").arg(formatNames());
     }
     const QSize size = reader.size();
     if (size.isEmpty()) {
-        return QStringLiteral("the picture has no size: its header is damaged or cut off, or tells "
-                              "a size of zero");
+        return Text::tr("the picture has no size: its header is damaged or cut off, or tells "
+                        "a size of zero");
     }
     return sizeProblem(size);
 }
@@ -102,10 +103,10 @@ std::optional<QString> decode(const QByteArray &content, Picture &picture)
         return problem;
     }
     if (!isCompletePicture(content, reader.format())) {
-        return QStringLiteral("the picture is cut off: the file ends too early");
+        return Text::tr("the picture is cut off: the file ends too early");
     }
     if (!reader.read(&picture.image) || picture.image.isNull()) {
-        return QStringLiteral("the picture is damaged or cut off: %1").arg(reader.errorString());
+        return Text::tr("the picture is damaged or cut off: %1").arg(reader.errorString());
     }
     picture.frames = frameCount(buffer);
     return {};
@@ -185,11 +186,11 @@ Result<Picture> loadPicture(const QString &path)
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return Problem{path, QStringLiteral("cannot be read: %1").arg(file.errorString())};
+        return Problem{path, Text::tr("cannot be read: %1").arg(file.errorString())};
     }
     const QByteArray content = file.readAll();
     if (content.size() != info.size()) {
-        return Problem{path, QStringLiteral("cannot be read to its end")};
+        return Problem{path, Text::tr("cannot be read to its end")};
     }
     Picture picture;
     if (const std::optional<QString> problem = decode(content, picture)) {

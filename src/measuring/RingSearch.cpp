@@ -1,6 +1,7 @@
 #include "measuring/RingSearch.h"
 
 #include "measuring/FitCamera.h"
+#include "measuring/Text.h"
 
 #include <Eigen/Cholesky>
 #include <Eigen/LU>
@@ -325,17 +326,17 @@ Result<QVector<QPointF>> findRing(const RingCurve &curve, const PictureEdges &ed
 {
     const std::vector<Normal> normals = normalsOf(curve, edges, widePX, reachPX);
     if (static_cast<int>(normals.size()) < samples / 3) {
-        return refusal(QStringLiteral("the picture shows too little of the ring"));
+        return refusal(Text::tr("the picture shows too little of the ring"));
     }
     const Election election = elect(normals, reachPX);
     const auto count = static_cast<double>(normals.size());
     const Found found = pointsOn(normals, refined(normals, election.winner), election.winner.sign);
     if (found.points.size() < smallestShare * count || found.gap > largestGap) {
-        return refusal(QStringLiteral("no edge runs along enough of the ring: found %1 % of it")
+        return refusal(Text::tr("no edge runs along enough of the ring: found %1 % of it")
                            .arg(qRound(100 * found.points.size() / count)));
     }
     if (election.rival > largestRival * election.winner.votes) {
-        return refusal(QStringLiteral("two edges fit the ring equally well"));
+        return refusal(Text::tr("two edges fit the ring equally well"));
     }
     return found.points;
 }

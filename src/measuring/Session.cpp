@@ -1,6 +1,7 @@
 #include "measuring/Session.h"
 
 #include "measuring/Limit.h"
+#include "measuring/Text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -98,7 +99,7 @@ Outcome checkClicks(const QString &place, const QVector<QPointF> &points)
     for (int i = 0; i < points.size(); ++i) {
         if (!std::isfinite(points[i].x()) || !std::isfinite(points[i].y())) {
             return Problem{QStringLiteral("%1.points[%2]").arg(place).arg(i),
-                           QStringLiteral("expected finite numbers")};
+                           Text::tr("expected finite numbers")};
         }
     }
     return {};
@@ -124,7 +125,7 @@ Outcome checkPoint(const SessionPoint &point, int index)
     for (const double number : numbers) {
         if (!std::isfinite(number)) {
             return Problem{QStringLiteral("points[%1]").arg(index),
-                           QStringLiteral("expected finite numbers")};
+                           Text::tr("expected finite numbers")};
         }
     }
     return {};
@@ -228,7 +229,7 @@ Outcome checkNumber(const QString &name, double value, double smallest, double l
     if (value >= smallest && value <= largest) {
         return {};
     }
-    return Problem{name, QStringLiteral("expected a number from %1 to %2, found %3")
+    return Problem{name, Text::tr("expected a number from %1 to %2, found %3")
                              .arg(smallest)
                              .arg(largest)
                              .arg(value)};
@@ -261,7 +262,7 @@ Outcome checkSession(const Session &session)
     const int spots = session.laserSpots.size();
     if (spots != 0 && spots != laserSpotCount) {
         return Problem{QStringLiteral("laserSpots"),
-                       QStringLiteral("expected two places, found %1").arg(spots)};
+                       Text::tr("expected two places, found %1").arg(spots)};
     }
     for (int i = 0; i < session.rings.size(); ++i) {
         if (const Outcome problem = checkRing(session.rings[i], i)) {

@@ -1,6 +1,7 @@
 #include "measuring/SessionFile.h"
 
 #include "measuring/SessionJson.h"
+#include "measuring/Text.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,17 +18,17 @@ Result<QByteArray> readSessionFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        return Problem{path, QStringLiteral("there is no such file")};
+        return Problem{path, Text::tr("there is no such file")};
     }
     if (!info.isFile()) {
-        return Problem{path, QStringLiteral("is not a regular file")};
+        return Problem{path, Text::tr("is not a regular file")};
     }
     if (info.size() > largestSessionBytes) {
-        return Problem{path, QStringLiteral("is too large for a session")};
+        return Problem{path, Text::tr("is too large for a session")};
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return Problem{path, QStringLiteral("cannot be read: %1").arg(file.errorString())};
+        return Problem{path, Text::tr("cannot be read: %1").arg(file.errorString())};
     }
     return file.readAll();
 }
@@ -88,15 +89,15 @@ std::optional<QString> pictureDifference(const PictureIdentity &expected,
                                          const PictureIdentity &found)
 {
     if (!expected.size.isEmpty() && expected.size != found.size) {
-        return QStringLiteral("the session was made on a picture of %1 x %2 pixels, this one has "
-                              "%3 x %4")
+        return Text::tr("the session was made on a picture of %1 x %2 pixels, this one has "
+                        "%3 x %4")
             .arg(expected.size.width())
             .arg(expected.size.height())
             .arg(found.size.width())
             .arg(found.size.height());
     }
     if (!expected.sha256.isEmpty() && expected.sha256 != found.sha256) {
-        return QStringLiteral("the picture's content is not the one that the session was made on");
+        return Text::tr("the picture's content is not the one that the session was made on");
     }
     return {};
 }

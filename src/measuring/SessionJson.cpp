@@ -1,6 +1,7 @@
 #include "measuring/SessionJson.h"
 
 #include "measuring/OrderedJson.h"
+#include "measuring/Text.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -23,17 +24,17 @@ QString typeName(const QJsonValue &value)
     case QJsonValue::Null:
         return QStringLiteral("null");
     case QJsonValue::Bool:
-        return QStringLiteral("true or false");
+        return Text::tr("true or false");
     case QJsonValue::Double:
-        return QStringLiteral("the number %1").arg(value.toDouble());
+        return Text::tr("the number %1").arg(value.toDouble());
     case QJsonValue::String:
-        return QStringLiteral("the text \"%1\"").arg(value.toString());
+        return Text::tr("the text \"%1\"").arg(value.toString());
     case QJsonValue::Array:
-        return QStringLiteral("a list");
+        return Text::tr("a list");
     case QJsonValue::Object:
-        return QStringLiteral("an object");
+        return Text::tr("an object");
     default:
-        return QStringLiteral("nothing");
+        return Text::tr("nothing");
     }
 }
 
@@ -52,7 +53,7 @@ public:
     void read(const char *name, double &number)
     {
         const QJsonValue value = take(name);
-        if (expect(name, value, value.isDouble(), "a number")) {
+        if (expect(name, value, value.isDouble(), QT_TRANSLATE_NOOP("Text", "a number"))) {
             number = value.toDouble();
         }
     }
@@ -71,7 +72,7 @@ public:
         const QJsonValue value = take(name);
         // toInt() gives its argument back for everything but a whole number.
         const bool isInt = value.toInt(0) == value.toInt(1);
-        if (expect(name, value, isInt, "a whole number")) {
+        if (expect(name, value, isInt, QT_TRANSLATE_NOOP("Text", "a whole number"))) {
             number = value.toInt();
         }
     }
@@ -79,7 +80,7 @@ public:
     void read(const char *name, bool &flag)
     {
         const QJsonValue value = take(name);
-        if (expect(name, value, value.isBool(), "true or false")) {
+        if (expect(name, value, value.isBool(), QT_TRANSLATE_NOOP("Text", "true or false"))) {
             flag = value.toBool();
         }
     }
@@ -87,7 +88,7 @@ public:
     void read(const char *name, QString &text)
     {
         const QJsonValue value = take(name);
-        if (expect(name, value, value.isString(), "a text")) {
+        if (expect(name, value, value.isString(), QT_TRANSLATE_NOOP("Text", "a text"))) {
             text = value.toString();
         }
     }
@@ -126,9 +127,9 @@ public:
             return false;
         }
         if (!isExpected && !m_problem) {
-            m_problem = Problem{m_prefix + QLatin1String(name),
-                                QStringLiteral("expected %1, found %2")
-                                    .arg(QLatin1String(expected), typeName(value))};
+            m_problem =
+                Problem{m_prefix + QLatin1String(name),
+                        Text::tr("expected %1, found %2").arg(Text::tr(expected), typeName(value))};
         }
         return isExpected;
     }
@@ -187,7 +188,8 @@ PictureIdentity pictureFromJson(const QJsonObject &object, Outcome &problem)
     FieldReader reader(object, prefix, problem);
     reader.read("path", picture.path);
     const QJsonValue size = object.value(QLatin1String("size"));
-    const char *const expectedSize = "a list of width and height in whole pixels";
+    const char *const expectedSize =
+        QT_TRANSLATE_NOOP("Text", "a list of width and height in whole pixels");
     const QVector<double> numbers = reader.readNumbers("size", 2, expectedSize);
     if (!numbers.isEmpty()) {
         const std::optional<QSize> whole = sizeOf(numbers);
@@ -218,17 +220,18 @@ SessionPoint pointFromJson(const QJsonObject &object, const QString &prefix, Out
 {
     SessionPoint point;
     FieldReader reader(object, prefix + QLatin1Char('.'), problem);
-    const QVector<double> pixel = reader.readNumbers("pixel", 2, "a list of x and y in pixels");
+    const QVector<double> pixel =
+        reader.readNumbers("pixel", 2, QT_TRANSLATE_NOOP("Text", "a list of x and y in pixels"));
     if (!pixel.isEmpty()) {
         point.pixel = QPointF(pixel[0], pixel[1]);
     }
-    const QVector<double> position =
-        reader.readNumbers("position", 3, "a list of x, y and z in the scene");
+    const QVector<double> position = reader.readNumbers(
+        "position", 3, QT_TRANSLATE_NOOP("Text", "a list of x, y and z in the scene"));
     if (!position.isEmpty()) {
         point.position = Vec3(position[0], position[1], position[2]);
     }
     if (pixel.isEmpty() && position.isEmpty() && !problem) {
-        problem = Problem{prefix, QStringLiteral("expected a pixel or a position")};
+        problem = Problem{prefix, Text::tr("expected a pixel or a position")};
     }
     point.unknownFields = reader.rest();
     return point;
@@ -251,8 +254,8 @@ QVector<SessionPoint> pointsFromJson(const QJsonArray &list, Outcome &problem)
         if (list[i].isObject()) {
             points += pointFromJson(list[i].toObject(), name, problem);
         } else {
-            problem = Problem{
-                name, QStringLiteral("expected an object, found %1").arg(typeName(list[i]))};
+            problem =
+                Problem{name, Text::tr("expected an object, found %1").arg(typeName(list[i]))};
         }
     }
     return points;
@@ -299,7 +302,8 @@ QVector<QPointF> clicksFromJson(FieldReader &reader, const char *name, const QSt
 {
     const QJsonValue value = reader.take(name);
     QVector<QPointF> points;
-    if (!reader.expect(name, value, value.isArray(), "a list of places [x, y]")) {
+    if (!reader.expect(name, value, value.isArray(),
+                       QT_TRANSLATE_NOOP("Text", "a list of places [x, y]"))) {
         return points;
     }
     const QJsonArray list = value.toArray();
@@ -308,9 +312,9 @@ QVector<QPointF> clicksFromJson(FieldReader &reader, const char *name, const QSt
         if (xy.size() == 2 && xy[0].isDouble() && xy[1].isDouble()) {
             points += QPointF(xy[0].toDouble(), xy[1].toDouble());
         } else {
-            problem = Problem{QStringLiteral("%1%2[%3]").arg(prefix, QLatin1String(name)).arg(i),
-                              QStringLiteral("expected a list of x and y in pixels, found %1")
-                                  .arg(typeName(list[i]))};
+            problem = Problem{
+                QStringLiteral("%1%2[%3]").arg(prefix, QLatin1String(name)).arg(i),
+                Text::tr("expected a list of x and y in pixels, found %1").arg(typeName(list[i]))};
         }
     }
     return points;
@@ -321,8 +325,8 @@ RingClicks ringFromJson(const QJsonObject &object, const QString &place, Outcome
     RingClicks ring;
     FieldReader reader(object, place + QLatin1Char('.'), problem);
     const QJsonValue distance = reader.take("distanceMM");
-    if (!distance.isNull() &&
-        reader.expect("distanceMM", distance, distance.isDouble(), "a number or null")) {
+    if (!distance.isNull() && reader.expect("distanceMM", distance, distance.isDouble(),
+                                            QT_TRANSLATE_NOOP("Text", "a number or null"))) {
         ring.distanceMM = distance.toDouble();
     }
     ring.points = clicksFromJson(reader, "points", place + QLatin1Char('.'), problem);
@@ -340,7 +344,7 @@ void readObjects(FieldReader &reader, const char *name, QVector<Element> &lists,
                  Outcome &problem)
 {
     const QJsonValue value = reader.take(name);
-    if (!reader.expect(name, value, value.isArray(), "a list")) {
+    if (!reader.expect(name, value, value.isArray(), QT_TRANSLATE_NOOP("Text", "a list"))) {
         return;
     }
     const QJsonArray list = value.toArray();
@@ -349,8 +353,8 @@ void readObjects(FieldReader &reader, const char *name, QVector<Element> &lists,
         if (list[i].isObject()) {
             lists += read(list[i].toObject(), place, problem);
         } else {
-            problem = Problem{
-                place, QStringLiteral("expected an object, found %1").arg(typeName(list[i]))};
+            problem =
+                Problem{place, Text::tr("expected an object, found %1").arg(typeName(list[i]))};
         }
     }
 }
@@ -371,7 +375,8 @@ QByteArray standardUncertaintiesToJson(const StandardUncertainties &given)
 void readStandardUncertainties(FieldReader &reader, Session &session, Outcome &problem)
 {
     const QJsonValue value = reader.take("standardUncertainties");
-    if (!reader.expect("standardUncertainties", value, value.isObject(), "an object")) {
+    if (!reader.expect("standardUncertainties", value, value.isObject(),
+                       QT_TRANSLATE_NOOP("Text", "an object"))) {
         return;
     }
     FieldReader numbers(value.toObject(), QStringLiteral("standardUncertainties."), problem);
@@ -401,9 +406,9 @@ QMap<QString, double> repeatFromJson(const QJsonObject &object, const QString &p
         if (member.value().isDouble()) {
             result.insert(member.key(), member.value().toDouble());
         } else {
-            problem = Problem{
-                place + QLatin1Char('.') + member.key(),
-                QStringLiteral("expected a number, found %1").arg(typeName(member.value()))};
+            problem =
+                Problem{place + QLatin1Char('.') + member.key(),
+                        Text::tr("expected a number, found %1").arg(typeName(member.value()))};
         }
     }
     return result;
@@ -427,12 +432,12 @@ void readSchema(FieldReader &reader, Session &session, Outcome &problem)
     const auto match = pattern.match(value.toString());
     if (!match.hasMatch()) {
         problem = Problem{QStringLiteral("schema"),
-                          QStringLiteral("expected \"%1\", found %2")
+                          Text::tr("expected \"%1\", found %2")
                               .arg(schemaText(sessionSchemaMinor), typeName(value))};
     } else if (match.captured(1).toInt() > sessionSchemaMajor) {
         problem = Problem{QStringLiteral("schema"),
-                          QStringLiteral("the session has version %1.%2, this program reads up to "
-                                         "version %3; please use a newer Zalento")
+                          Text::tr("the session has version %1.%2, this program reads up to "
+                                   "version %3; please use a newer Zalento")
                               .arg(match.captured(1), match.captured(2))
                               .arg(sessionSchemaMajor)};
     }
@@ -443,18 +448,20 @@ void readSchema(FieldReader &reader, Session &session, Outcome &problem)
 
 void readChoices(FieldReader &reader, Session &session)
 {
-    const QByteArray expectedKind = "one of " + kindNames().join(QStringLiteral(", ")).toLatin1();
+    const QByteArray expectedKind =
+        Text::tr("one of %1").arg(kindNames().join(QStringLiteral(", "))).toUtf8();
     reader.readChoice("kind", session.kind, kindNamed, expectedKind.constData());
-    reader.readChoice("unit", session.unit, unitNamed, "\"metric\" or \"imperial\"");
+    reader.readChoice("unit", session.unit, unitNamed,
+                      QT_TRANSLATE_NOOP("Text", "\"metric\" or \"imperial\""));
     reader.read("rearCircleActive", session.rearCircleActive);
     reader.read("clockDEG", session.clockDEG);
     reader.readChoice("direction", session.viewDownstream, directionNamed,
-                      "\"downstream\" or \"upstream\"");
+                      QT_TRANSLATE_NOOP("Text", "\"downstream\" or \"upstream\""));
     reader.read("jointShown", session.jointShown);
     reader.read("isSet", session.isSet);
     reader.read("fitsFov", session.fitsFov);
     reader.readChoice("viewStyle", session.viewStyle, viewStyleNamed,
-                      "\"measure\", \"ends\" or \"full\"");
+                      QT_TRANSLATE_NOOP("Text", "\"measure\", \"ends\" or \"full\""));
     reader.read("calibration", session.calibrationText);
     reader.read("mmPerPixel", session.mmPerPixel);
     reader.read("limit", session.limit);
@@ -483,7 +490,8 @@ void addChoices(OrderedJson &json, const Session &session)
 void readFields(FieldReader &reader, Session &session, Outcome &problem)
 {
     const QJsonValue picture = reader.take("picture");
-    if (reader.expect("picture", picture, picture.isObject(), "an object")) {
+    if (reader.expect("picture", picture, picture.isObject(),
+                      QT_TRANSLATE_NOOP("Text", "an object"))) {
         session.picture = pictureFromJson(picture.toObject(), problem);
     }
     readChoices(reader, session);
@@ -491,7 +499,7 @@ void readFields(FieldReader &reader, Session &session, Outcome &problem)
         reader.read(number.name, session.*number.member);
     }
     const QJsonValue points = reader.take("points");
-    if (reader.expect("points", points, points.isArray(), "a list")) {
+    if (reader.expect("points", points, points.isArray(), QT_TRANSLATE_NOOP("Text", "a list"))) {
         session.points = pointsFromJson(points.toArray(), problem);
     }
     readObjects(reader, "rings", session.rings, ringFromJson, problem);
@@ -505,8 +513,7 @@ void readFields(FieldReader &reader, Session &session, Outcome &problem)
 Problem parseProblem(const QByteArray &json, const QJsonParseError &error)
 {
     const int line = json.left(error.offset).count('\n') + 1;
-    return {{},
-            QStringLiteral("not a JSON object: %1 in line %2").arg(error.errorString()).arg(line)};
+    return {{}, Text::tr("not a JSON object: %1 in line %2").arg(error.errorString()).arg(line)};
 }
 
 } // namespace
@@ -539,7 +546,7 @@ Result<Session> sessionFromJson(const QByteArray &json)
         return parseProblem(json, error);
     }
     if (!document.isObject()) {
-        return Problem{{}, QStringLiteral("not a JSON object: found a list")};
+        return Problem{{}, Text::tr("not a JSON object: found a list")};
     }
     Session session;
     Outcome problem;

@@ -5,6 +5,7 @@
 #include "measuring/PipeView.h"
 #include "measuring/RingSearch.h"
 #include "measuring/SessionFit.h"
+#include "measuring/Text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -106,7 +107,7 @@ Result<QVector<QPointF>> pass(Session &session, const PictureEdges &edges, doubl
 Result<Snap> snapToEdges(Session &session, const QImage &picture)
 {
     if (!infoOf(session.kind).has(Uses::Model)) {
-        return refusal(QStringLiteral("the kind %1 lays no pipe over the picture")
+        return refusal(Text::tr("the kind %1 lays no pipe over the picture")
                            .arg(infoOf(session.kind).nameText()));
     }
     const auto stored = PictureEdges::of(picture, PictureEdges::Of::StoredValues);

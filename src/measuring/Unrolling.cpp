@@ -2,6 +2,7 @@
 
 #include "measuring/ModelPlace.h"
 #include "measuring/PipeView.h"
+#include "measuring/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -41,9 +42,8 @@ Outcome rangeProblem(const UnrollRange &range, bool isPlane)
         }
     }
     if (!isPlane && !(range.toMM > range.fromMM)) {
-        return problemWith(QStringLiteral("the range from %1 to %2 mm is empty")
-                               .arg(range.fromMM)
-                               .arg(range.toMM));
+        return problemWith(
+            Text::tr("the range from %1 to %2 mm is empty").arg(range.fromMM).arg(range.toMM));
     }
     return {};
 }
@@ -200,7 +200,7 @@ UnrollRange Unrolling::defaultRange(const Session &session)
 Result<Unrolling> Unrolling::of(const Session &session, const UnrollRange &range)
 {
     if (!infoOf(session.kind).has(Uses::Model)) {
-        return problemWith(QStringLiteral("the kind %1 lays no pipe over the picture")
+        return problemWith(Text::tr("the kind %1 lays no pipe over the picture")
                                .arg(infoOf(session.kind).nameText()));
     }
     if (const Outcome problem = rangeProblem(range, session.kind == Kind::CrossSection)) {
@@ -209,10 +209,9 @@ Result<Unrolling> Unrolling::of(const Session &session, const UnrollRange &range
     auto implementation = std::make_unique<Implementation>(session, range);
     if (implementation->columns * implementation->rows >
         static_cast<double>(largestUnrolledPixels)) {
-        return problemWith(
-            QStringLiteral("%1 x %2 pixels are too many: give more millimetres per pixel")
-                .arg(implementation->columns, 0, 'f', 0)
-                .arg(implementation->rows, 0, 'f', 0));
+        return problemWith(Text::tr("%1 x %2 pixels are too many: give more millimetres per pixel")
+                               .arg(implementation->columns, 0, 'f', 0)
+                               .arg(implementation->rows, 0, 'f', 0));
     }
     return Unrolling(std::move(implementation));
 }

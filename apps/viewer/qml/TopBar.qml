@@ -135,7 +135,7 @@ Rectangle {
                 horizontalAlignment: Text.AlignHCenter
                 elide: Text.ElideRight
                 text: qsTr("%1 of %2").arg(Viewer.documents.currentIndex + 1).arg(Viewer.documents.count)
-                      + (Viewer.documents.hasPicture ? qsTr(" · %1 × %2").arg(Viewer.documents.pictureSize.width)
+                      + (Viewer.documents.hasPicture && !bar.isLow ? qsTr(" · %1 × %2").arg(Viewer.documents.pictureSize.width)
                                              .arg(Viewer.documents.pictureSize.height) : "")
                 color: Theme.quiet
                 font { family: Theme.family; pixelSize: 12 }

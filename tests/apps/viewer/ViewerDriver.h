@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <functional>
 
 namespace Drevon::Zalento::Test {
@@ -22,10 +23,12 @@ namespace Drevon::Zalento::Test {
 class ViewerDriver
 {
 public:
-    explicit ViewerDriver(const QSize &windowSize = QSize(1280, 800))
+    explicit ViewerDriver(const QSize &windowSize = QSize(1280, 800),
+                          const QString &language = "en")
     {
         QSettings().clear();
         viewer.preferences()->setWindowSize(windowSize);
+        viewer.preferences()->setLanguage(language);
         scene.show();
         window()->requestActivate();
         if (!QTest::qWaitForWindowActive(window())) {
@@ -72,7 +75,10 @@ public:
         return controls;
     }
 
-    /** The visible controls without a name, too small for a finger, or outside of the window. */
+    /**
+     * The visible controls without a name, too small for a finger, outside of the window, or with a
+     * text that does not fit.
+     */
     QStringList unfitControls() const
     {
         constexpr double smallestForAFinger = 44.0;
@@ -85,7 +91,7 @@ public:
             const bool isInside =
                 isScrolled(item) ? place.right() <= whole.right() : whole.contains(place);
             const double side = std::min(item->width(), item->height());
-            if (label.isEmpty() || side < smallestForAFinger || !isInside) {
+            if (label.isEmpty() || side < smallestForAFinger || !isInside || isCutOff(item)) {
                 unfit += QStringLiteral("%1 \"%2\"").arg(item->objectName(), label);
             }
         }
@@ -222,6 +228,15 @@ public:
     }
 
 private:
+    // But for the names of files, which may be long.
+    static bool isCutOff(QQuickItem *control)
+    {
+        const auto items = below(control);
+        return !control->inherits("QQuickItemDelegate") &&
+               std::any_of(items.begin(), items.end(), [](const QQuickItem *item) {
+                   return item->property("truncated").toBool();
+               });
+    }
     static bool isScrolled(const QQuickItem *item)
     {
         while (item && !item->inherits("QQuickFlickable")) {

@@ -81,6 +81,7 @@ private slots:
     void controlsFitFingersAndWindows_data();
     void controlsFitFingersAndWindows();
     void isUsedWithoutEyesOrMouse();
+    void speaksTheOperatorsLanguage();
     void textsStandOut();
     void nothingIsLostUnlessConfirmed();
     void exportsOrSaysWhyNot_data();
@@ -404,8 +405,11 @@ void TestViewer::controlsFitFingersAndWindows_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<double>("smallestShare"); // of the window, for the picture
-    QTest::newRow("lying") << QSize(800, 480) << 0.5;
-    QTest::newRow("standing") << QSize(720, 1280) << 0.55;
+    QTest::addColumn<QString>("language");
+    QTest::newRow("lying") << QSize(800, 480) << 0.5 << "en";
+    QTest::newRow("lying-de") << QSize(800, 480) << 0.5 << "de";
+    QTest::newRow("lying-fr") << QSize(800, 480) << 0.5 << "fr";
+    QTest::newRow("standing-de") << QSize(720, 1280) << 0.55 << "de";
 }
 
 // What can be pressed has a name, is large enough for a finger and does not hang out of the window,
@@ -414,7 +418,8 @@ void TestViewer::controlsFitFingersAndWindows()
 {
     QFETCH(QSize, size);
     QFETCH(double, smallestShare);
-    ViewerDriver d(size);
+    QFETCH(QString, language);
+    ViewerDriver d(size, language);
     const QString tag = QTest::currentDataTag();
     d.openSample("dimension.jpg");
     const QQuickItem *stage = d.find("stage");
@@ -424,7 +429,7 @@ void TestViewer::controlsFitFingersAndWindows()
         d.key(key);
         d.screenshot(QStringLiteral("%1-%2").arg(tag).arg(key - Qt::Key_0));
         QCOMPARE(stage->size(), stageSize); // whatever the hint says
-        QCOMPARE(d.unfitControls(), QStringList());
+        QVERIFY2(d.unfitControls().isEmpty(), qPrintable(d.unfitControls().join(", ")));
     }
     for (const char *name : {"recordDialog", "cameraDialog", "keyList", "mainMenu", "exportMenu",
                              "saveDialog", "filePicker"}) {
@@ -479,6 +484,37 @@ void TestViewer::isUsedWithoutEyesOrMouse()
     d.key(Qt::Key_Down);
     d.key(Qt::Key_Return);
     QCOMPARE(d.documents.pictureName(), QString("water.jpg"));
+}
+
+// The language changes under way; files have none.
+void TestViewer::speaksTheOperatorsLanguage()
+{
+    ViewerDriver d;
+    const QString picture = d.openSample("branch.jpg");
+    d.key(Qt::Key_4);
+    QCOMPARE(d.text("kind.BranchAngle"), QString("Branch angle"));
+    d.viewer.preferences()->setLanguage("fr");
+    QTRY_COMPARE(d.text("kind.BranchAngle"), QString("Branchement"));
+    d.viewer.preferences()->setLanguage("de");
+    QTRY_COMPARE(d.text("kind.BranchAngle"), QString("Abzweigwinkel"));
+    QCOMPARE(d.text("valueText"), QString("nicht gesetzt"));
+    QVERIFY2(d.guidance.text().startsWith("Das Rohr zurechtziehen"), qPrintable(d.guidance.text()));
+    const auto labels = [](const FieldModel *fields) {
+        QStringList texts;
+        for (int row = 0; row < fields->rowCount(); ++row) {
+            texts += fields->data(fields->index(row), FieldModel::LabelRole).toString();
+        }
+        return texts.join(", ");
+    };
+    QCOMPARE(labels(d.viewer.kindFields()), QString("Winkel, Abzweiggröße, Richtung, Uhr"));
+    d.type("field.angleDEG", "200");
+    QCOMPARE(d.text("problem.angleDEG"), QString("Bitte von 30 bis 150 °."));
+    d.type("field.angleDEG", "60,5");
+    d.window()->close();
+    QCOMPARE(d.waitForDialog("unsavedDialog")->property("text").toString(),
+             QString("1 Messung ist nicht gesichert."));
+    d.clickDialog("unsavedDialog", "acceptKey");
+    QVERIFY(contentOf(Measuring::sessionPathOf(picture)).contains("60.5"));
 }
 
 // Relative luminance and contrast as WCAG 2.1 defines them.
