@@ -83,11 +83,12 @@ Column {
         color: Theme.quiet
         font { family: Theme.family; pixelSize: Theme.small }
     }
-    Row {
+    Grid {
         id: helpRow
         width: parent.width
+        columns: 2
         spacing: 6
-        readonly property real keyWidth: (width - 3 * spacing) / 4
+        readonly property real keyWidth: (width - spacing) / 2
         ToolKey {
             objectName: "snapKey"
             width: helpRow.keyWidth

@@ -221,10 +221,6 @@
         <translation>Abbrechen, was im Gange ist</translation>
     </message>
     <message>
-        <source>Drop the last point</source>
-        <translation>Den letzten Punkt verwerfen</translation>
-    </message>
-    <message>
         <source>✕ Points</source>
         <translation>✕ Punkte</translation>
     </message>
@@ -399,6 +395,10 @@
     <message>
         <source>Click a line along the pipe; again: the next line</source>
         <translation>Eine Linie entlang des Rohres anklicken; noch einmal: die nächste</translation>
+    </message>
+    <message>
+        <source>Drop the last point, or the click that was taken</source>
+        <translation>Den letzten Punkt entfernen, oder den gewählten Klick</translation>
     </message>
 </context>
 <context>

@@ -221,10 +221,6 @@
         <translation>Abandonner ce qui est en cours</translation>
     </message>
     <message>
-        <source>Drop the last point</source>
-        <translation>Retirer le dernier point</translation>
-    </message>
-    <message>
         <source>✕ Points</source>
         <translation>✕ Points</translation>
     </message>
@@ -399,6 +395,10 @@
     <message>
         <source>Click a line along the pipe; again: the next line</source>
         <translation>Cliquer une ligne le long du tuyau ; encore : la suivante</translation>
+    </message>
+    <message>
+        <source>Drop the last point, or the click that was taken</source>
+        <translation>Retirer le dernier point, ou le clic choisi</translation>
     </message>
 </context>
 <context>
