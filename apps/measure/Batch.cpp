@@ -3,6 +3,7 @@
 #include "measure/LibraryMessages.h"
 
 #include "measuring/Editing.h"
+#include "measuring/LensEstimate.h"
 #include "measuring/Limit.h"
 #include "measuring/Measurement.h"
 #include "measuring/OverlayExport.h"
@@ -12,6 +13,7 @@
 #include "measuring/Replay.h"
 #include "measuring/SessionFile.h"
 #include "measuring/SessionFit.h"
+#include "measuring/SessionLens.h"
 #include "measuring/Snap.h"
 #include "measuring/UnrollExport.h"
 
@@ -204,6 +206,14 @@ struct Batch::Work
         : request(std::move(asked))
     {}
 
+    // A click of the options: with an estimated lens it was made in the picture as it was taken.
+    QPointF shownPlace(const QPointF &click) const
+    {
+        const Result<LensMapping> mapping =
+            estimate ? LensMapping::of(*session.lens) : Result<LensMapping>(Problem());
+        return mapping ? mapping->toShown(click).value_or(click) : click;
+    }
+
     PictureRequest request;
     PictureResult result;
     QStringList readPaths; // also of a file that is not there
@@ -211,6 +221,7 @@ struct Batch::Work
     Session session;
     std::optional<AlignmentFit> fit;
     std::optional<SnapSummary> snap;
+    std::optional<RadialEstimate> estimate;
     bool isOtherPicture = false; // than the one of the session
     bool isMeasured = false;
     QVector<DrawnFile> drawn;
@@ -324,6 +335,12 @@ Outcome Batch::measureSession(const Session *start, Work &work) const
     if (const Outcome problem = mergeSession(start, work)) {
         return problem;
     }
+    if (const Outcome problem = takeEstimatedLens(work)) {
+        return problem;
+    }
+    if (const Outcome problem = undistortPicture(work)) {
+        return problem;
+    }
     if (const Outcome problem = fitAlignment(start, work)) {
         return problem;
     }
@@ -347,6 +364,10 @@ void Batch::tellValues(Work &work) const
                            m_command.drawsValues ? UncertaintyEffort::MonteCarlo
                                                  : UncertaintyEffort::Checked);
     values.snap = work.snap;
+    if (work.estimate) {
+        values.lens->k1 = work.estimate->k1;
+        values.lens->standardUncertainty = work.estimate->standardUncertainty;
+    }
     work.result.warnings += lackingTrust(values.values, work.session);
     if (values.status == Status::NotSet) {
         values.message = neededOption(infoOf(work.session.kind));
@@ -358,11 +379,14 @@ Outcome Batch::mergeSession(const Session *start, Work &work) const
     const SessionOptions &options = m_command.session;
     Session &session = work.session;
     session = start ? *start : Session();
+    session.picture = work.picture.identity;
+    if (const Outcome problem = options.takeLensFor(session)) {
+        return problem;
+    }
     options.applyTo(session);
     if (work.isOtherPicture) {
         session.repeats.clear();
     }
-    session.picture = work.picture.identity;
     if (start) {
         session.picture.unknownFields = start->picture.unknownFields;
     }
@@ -381,6 +405,37 @@ Outcome Batch::mergeSession(const Session *start, Work &work) const
     }
     work.result.warnings += takeDrawnAngle(session);
     movePlane(start, options, session);
+    return {};
+}
+
+Outcome Batch::takeEstimatedLens(Work &work) const
+{
+    if (!m_command.session.fitsLens) {
+        return {};
+    }
+    const Result<RadialEstimate> estimate = estimateRadial(work.session);
+    if (!estimate) {
+        return estimate.problem();
+    }
+    work.estimate = *estimate;
+    Lens lens = estimate->lens;
+    lens.view = m_command.session.lensView.value_or(lens.view);
+    return takeLens(work.session, lens);
+}
+
+// Values alone take no picture.
+Outcome Batch::undistortPicture(Work &work) const
+{
+    const bool isShown =
+        m_command.snaps || m_command.writesPng || m_command.map || m_command.verb == Verb::Unroll;
+    if (!work.session.lens || !isShown) {
+        return {};
+    }
+    const Result<QImage> shown = shownPicture(work.session, work.picture.image);
+    if (!shown) {
+        return shown.problem();
+    }
+    work.picture.image = *shown;
     return {};
 }
 
@@ -476,7 +531,7 @@ Outcome Batch::takeWaterLevel(Work &work) const
     if (session.kind != Kind::WaterLevel || !clicks) {
         return {};
     }
-    const QPointF edge = clicks->first();
+    const QPointF edge = work.shownPlace(clicks->first());
     if (!setWaterLevelAt(session, edge)) {
         return missedWall(edge);
     }

@@ -57,6 +57,8 @@ private:
     Outcome measurePicture(const Session *start, Work &work) const;
     Outcome measureSession(const Session *start, Work &work) const;
     Outcome mergeSession(const Session *start, Work &work) const;
+    Outcome takeEstimatedLens(Work &work) const;
+    Outcome undistortPicture(Work &work) const;
     Outcome fitToClicks(Work &work) const;
     Outcome fitAlignment(const Session *start, Work &work) const;
     void snap(Work &work) const;

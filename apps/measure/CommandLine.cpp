@@ -1,5 +1,6 @@
 #include "measure/CommandLine.h"
 
+#include <QFileInfo>
 #include <QThread>
 
 #include <algorithm>
@@ -41,7 +42,8 @@ void addOptions(QCommandLineParser &parser)
     addValue(parser, "map",
              "Writes <stem>.map.png, what a pixel is worth on the wall: scale or uncertainty.",
              "NAME");
-    addValue(parser, "output", "Folder for written files; made when missing.", "DIR");
+    addValue(parser, "output",
+             "Folder for written files, made when missing; of lens the file to write.", "PATH");
     addFlag(
         parser, "snap",
         "Finds the edge of each joint in the picture, from a rough alignment or three clicks, and "
@@ -51,6 +53,10 @@ void addOptions(QCommandLineParser &parser)
     addValue(parser, "from", "Of unroll: distance from the mouth in mm where it begins.", "MM");
     addValue(parser, "to", "Of unroll: distance from the mouth in mm where it ends.", "MM");
     addFlag(parser, "plain", "Of unroll: the wall alone, without axes.");
+    addValue(parser, "board",
+             "Of lens: inner corners of the chessboard, across and down, such as 9x6.", "WxH");
+    addValue(parser, "square", "Of lens: side of a field of the chessboard in mm.", "MM");
+    addValue(parser, "name", "Of lens: the camera's name; without it the file's.", "TEXT");
     addFlag(parser, "force", "Writes over existing files.");
     addValue(parser, "jobs",
              "Pictures that are worked on at a time; without it as many as there are processors.",
@@ -88,6 +94,9 @@ std::optional<Verb> verbNamed(const QString &name)
     if (name == QLatin1String("unroll")) {
         return Verb::Unroll;
     }
+    if (name == QLatin1String("lens")) {
+        return Verb::Lens;
+    }
     if (name == QLatin1String("kinds")) {
         return Verb::Kinds;
     }
@@ -114,11 +123,12 @@ std::optional<Format> formatNamed(const QString &name)
 QString readVerb(const QStringList &positional, CommandLine &command)
 {
     if (positional.isEmpty()) {
-        return QStringLiteral("a verb is missing: measure, render, unroll or kinds");
+        return QStringLiteral("a verb is missing: measure, render, unroll, lens or kinds");
     }
     const std::optional<Verb> verb = verbNamed(positional.first());
     if (!verb) {
-        return QStringLiteral("unknown verb \"%1\": expected measure, render, unroll or kinds")
+        return QStringLiteral("unknown verb \"%1\": expected measure, render, unroll, lens or "
+                              "kinds")
             .arg(positional.first());
     }
     command.verb = *verb;
@@ -187,8 +197,8 @@ QString readJobs(const QCommandLineParser &parser, CommandLine &command)
 // Every value option but --click means one thing.
 QString repeatedOption(const QCommandLineParser &parser)
 {
-    for (const char *name :
-         {"session", "format", "overlay", "map", "from", "to", "output", "jobs"}) {
+    for (const char *name : {"session", "format", "overlay", "map", "from", "to", "board", "square",
+                             "name", "output", "jobs"}) {
         if (parser.values(QLatin1String(name)).size() > 1) {
             return QStringLiteral("--%1 is given more than once").arg(QLatin1String(name));
         }
@@ -206,6 +216,7 @@ void readFlagsAndFiles(const QCommandLineParser &parser, CommandLine &command)
     command.overwrites = parser.isSet(QStringLiteral("force"));
     command.sessionFile = parser.value(QStringLiteral("session"));
     command.calibrationFile = parser.value(QStringLiteral("calibration"));
+    command.lensFile = parser.value(QStringLiteral("lens"));
     command.outputFolder = parser.value(QStringLiteral("output"));
 }
 
@@ -235,9 +246,73 @@ QString readUnroll(const QCommandLineParser &parser, CommandLine &command)
     return {};
 }
 
+std::optional<QSize> cornersFrom(const QString &text)
+{
+    constexpr int fewest = 3; // a side; fewer lines tell nothing of a bend
+    constexpr int most = 100;
+    const QStringList sides = text.split(QLatin1Char('x'));
+    bool areNumbers[2] = {false, false};
+    if (sides.size() != 2) {
+        return std::nullopt;
+    }
+    const QSize corners(sides[0].toInt(&areNumbers[0]), sides[1].toInt(&areNumbers[1]));
+    const bool isBoard = areNumbers[0] && areNumbers[1] &&
+                         std::min(corners.width(), corners.height()) >= fewest &&
+                         std::max(corners.width(), corners.height()) <= most;
+    return isBoard ? std::optional<QSize>(corners) : std::nullopt;
+}
+
+// All that the verb lens takes.
+QString readBoard(const QCommandLineParser &parser, CommandLine &command)
+{
+    const QString boardText = parser.value(QStringLiteral("board"));
+    const std::optional<QSize> corners = cornersFrom(boardText);
+    if (!corners) {
+        return QStringLiteral("--board: expected inner corners such as 9x6, found \"%1\"")
+            .arg(boardText);
+    }
+    constexpr double largestSquareMM = 1e4;
+    const QString squareText = parser.value(QStringLiteral("square"));
+    const double squareMM = squareText.toDouble();
+    if (!(squareMM > 0.0 && squareMM <= largestSquareMM)) {
+        return QStringLiteral("--square: expected the side of a field in mm, found \"%1\"")
+            .arg(squareText);
+    }
+    command.outputFile = parser.value(QStringLiteral("output"));
+    const QString name = parser.value(QStringLiteral("name"));
+    command.board = {*corners, squareMM,
+                     name.isEmpty() ? QFileInfo(command.outputFile).completeBaseName() : name};
+    if (command.outputFile.isEmpty()) {
+        return QStringLiteral("--output is missing: the file to write, such as camera.yaml");
+    }
+    if (command.inputs.isEmpty()) {
+        return QStringLiteral("no picture: name pictures of the chessboard, or folders");
+    }
+    return {};
+}
+
+QString readLensCommand(const QCommandLineParser &parser, CommandLine &command)
+{
+    static const QStringList known{QStringLiteral("board"), QStringLiteral("square"),
+                                   QStringLiteral("name"),  QStringLiteral("output"),
+                                   QStringLiteral("force"), QStringLiteral("recursive"),
+                                   QStringLiteral("format")};
+    for (const QString &name : parser.optionNames()) {
+        if (!known.contains(name)) {
+            return QStringLiteral("lens takes no --%1").arg(name);
+        }
+    }
+    if (command.format != Format::Text && command.format != Format::Json) {
+        return QStringLiteral("lens prints text or json");
+    }
+    command.recursive = parser.isSet(QStringLiteral("recursive"));
+    command.overwrites = parser.isSet(QStringLiteral("force"));
+    return readBoard(parser, command);
+}
+
 QString emptyValue(const QCommandLineParser &parser)
 {
-    for (const char *name : {"session", "calibration", "output"}) {
+    for (const char *name : {"session", "calibration", "lens", "output"}) {
         if (parser.isSet(QLatin1String(name)) && parser.value(QLatin1String(name)).isEmpty()) {
             return QStringLiteral("--%1 is empty").arg(QLatin1String(name));
         }
@@ -294,6 +369,14 @@ QString readCommand(const QCommandLineParser &parser, CommandLine &command)
     }
     if (!problem.isEmpty()) {
         return problem;
+    }
+    if (command.verb == Verb::Lens) {
+        return readLensCommand(parser, command);
+    }
+    for (const char *name : {"board", "square", "name"}) {
+        if (parser.isSet(QLatin1String(name))) {
+            return QStringLiteral("--%1 belongs to lens").arg(QLatin1String(name));
+        }
     }
     readFlagsAndFiles(parser, command);
     const Result<SessionOptions> session = readSessionOptions(parser);

@@ -4,6 +4,7 @@
 
 #include "measuring/PlaceUncertainty.h"
 
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -15,10 +16,19 @@ enum class Verb {
     Measure, ///< values, and files when asked for
     Render,  ///< files only
     Unroll,  ///< the wall as a flat picture
+    Lens,    ///< a camera's, from pictures of a chessboard
     Kinds,   ///< lists what can be measured
 };
 
 enum class Format { Text, Json, JsonLines, Csv };
+
+/** The chessboard that a lens is calibrated with. */
+struct BoardOptions
+{
+    QSize corners;         ///< inner ones, where four fields meet
+    double squareMM = 0.0; ///< side of a field
+    QString name;          ///< of the camera; empty: the output's
+};
 
 /** What the command line asks for. */
 struct CommandLine
@@ -29,6 +39,7 @@ struct CommandLine
     QString sessionFile;          ///< for every picture; empty: the session beside each
     bool ignoresSessions = false; ///< also those beside the pictures
     QString calibrationFile;
+    QString lensFile;
     SessionOptions session;
     Format format = Format::Text;
     bool snaps = false;       ///< finds the edges of joints in the picture
@@ -40,8 +51,10 @@ struct CommandLine
     std::optional<double> unrollFromMM;
     std::optional<double> unrollToMM;
     bool unrollsPlain = false; ///< without axes
+    BoardOptions board;
     bool savesSession = false;
     QString outputFolder; ///< empty: beside each picture
+    QString outputFile;   ///< of a verb that writes one
     bool overwrites = false;
     int jobs = 1; ///< pictures worked on at a time
 };

@@ -10,6 +10,7 @@ const char *const introduction = R"(Usage:
   zalento-measure measure [options] --session FILE
   zalento-measure render  [options] PICTURE|SESSION|FOLDER|- ...
   zalento-measure unroll  [options] PICTURE|SESSION|FOLDER|- ...
+  zalento-measure lens    --board WxH --square MM --output FILE PICTURE|FOLDER|- ...
   zalento-measure kinds   [--format NAME]
 
 Measures on pictures from inside pipes, without a display.
@@ -19,6 +20,7 @@ Verbs:
   render   Writes the picture with the overlay (--overlay png unless said otherwise).
   unroll   Writes the pipe's wall as a flat picture to scale, <stem>.unrolled.png: --from and --to are
            distances from the mouth, --mm-per-pixel is its scale. Of the kind CrossSection the plane.
+  lens     Calibrates a camera with its lens from pictures of a chessboard; --lens takes it.
   kinds    Lists what can be measured, and the options that each kind takes.
 
 Pictures:
@@ -44,7 +46,7 @@ Exit codes:
   0  everything was measured
   1  at least one picture failed or gave no value
   2  wrong usage; nothing was read or written
-  3  a session, a calibration or a list could not be read, or a file or value not be written
+  3  a session, a calibration, a lens or a list could not be read, or a file or value not be written
 
 Examples:
   zalento-measure measure --kind CrackWidth --laser 654,83 745,147 --click 695,106 --click 709,117 crack.jpg

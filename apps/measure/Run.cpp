@@ -3,12 +3,16 @@
 #include "measure/Batch.h"
 #include "measure/CommandLine.h"
 #include "measure/KindList.h"
+#include "measure/LensCalibration.h"
+#include "measure/LensReport.h"
 #include "measure/OrderedJobs.h"
 #include "measure/PictureList.h"
 #include "measure/Progress.h"
 #include "measure/Report.h"
 
 #include "measuring/CalibrationFile.h"
+#include "measuring/Lens.h"
+#include "measuring/OutputFile.h"
 #include "measuring/SessionFile.h"
 
 #include <QDir>
@@ -88,6 +92,20 @@ bool readCalibration(CommandLine &command, Console &console)
         return false;
     }
     command.session.calibrationText = *text;
+    return true;
+}
+
+bool readLens(CommandLine &command, Console &console)
+{
+    if (command.lensFile.isEmpty()) {
+        return true;
+    }
+    const Result<Lens> lens = loadLens(command.lensFile);
+    if (!lens) {
+        console.fail(CannotReadOrWrite, lens.problem().text());
+        return false;
+    }
+    command.session.lens = *lens;
     return true;
 }
 
@@ -203,6 +221,48 @@ void measureAll(const CommandLine &command, const std::optional<Session> &sessio
     console.print(isRender ? QByteArray() : report.end(count));
 }
 
+// One picture a line: what was found on it, or why it was left out.
+void tellBoards(const LensCalibration &calibration, Console &console)
+{
+    for (const BoardPicture &picture : calibration.pictures) {
+        if (!picture.problem.isEmpty()) {
+            console.say(QStringLiteral("%1: left out: %2").arg(picture.path, picture.problem));
+        }
+    }
+    for (const QString &warning : calibration.warnings()) {
+        console.say(QStringLiteral("warning: %1").arg(warning));
+    }
+}
+
+void makeLens(const CommandLine &command, QIODevice &input, Console &console)
+{
+    const std::optional<QStringList> names = namesOf(command, input, console);
+    if (!names) {
+        return;
+    }
+    QVector<BoardPicture> boards;
+    const QVector<PictureRequest> requests = listPictures(*names, command.recursive);
+    for (const PictureRequest &request : requests) {
+        boards += findBoard(request, command.board, boards);
+        console.showProgress(boards.size(), requests.size());
+    }
+    const LensCalibration calibration = calibrateLens(boards, command.board);
+    tellBoards(calibration, console);
+    if (!calibration.problem.isEmpty()) {
+        console.fail(SomeNotMeasured, calibration.problem);
+        return;
+    }
+    const Overwrite overwrite = command.overwrites ? Overwrite::Allow : Overwrite::Refuse;
+    if (const Outcome problem =
+            writeFile(command.outputFile, lensFile(calibration, command.board, command.outputFile),
+                      overwrite)) {
+        console.fail(CannotReadOrWrite, problem->text());
+        return;
+    }
+    console.print(command.format == Format::Json ? lensJson(calibration) : lensText(calibration));
+    console.say(QStringLiteral("wrote %1").arg(command.outputFile));
+}
+
 } // namespace
 
 ExitCode run(const QStringList &arguments, QIODevice &input, QIODevice &output, QIODevice &messages)
@@ -223,8 +283,13 @@ ExitCode run(const QStringList &arguments, QIODevice &input, QIODevice &output, 
         console.print(kindList(command.format));
         return console.exitCode();
     }
+    if (command.verb == Verb::Lens) {
+        makeLens(command, input, console);
+        return console.exitCode();
+    }
     std::optional<Session> session;
-    if (!readCalibration(command, console) || !readSession(command, session, console)) {
+    if (!readCalibration(command, console) || !readLens(command, console) ||
+        !readSession(command, session, console)) {
         return console.exitCode();
     }
     const std::optional<QStringList> names = namesOf(command, input, console);

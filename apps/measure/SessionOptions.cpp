@@ -2,6 +2,7 @@
 
 #include "measuring/Editing.h"
 #include "measuring/Limit.h"
+#include "measuring/SessionLens.h"
 #include "measuring/Unrolling.h"
 
 #include <QStringList>
@@ -163,6 +164,19 @@ void readRearCircle(OptionReader &reader, SessionOptions &options)
     }
     if (reader.isSet("rear-circle-active")) {
         options.rearCircleActive = true;
+    }
+}
+
+void readLens(OptionReader &reader, SessionOptions &options)
+{
+    options.lensView = reader.choice("lens-view", "square or all", lensViewNamed);
+    options.fitsLens = reader.isSet("fit-lens");
+    const bool isGiven = reader.value("lens").has_value();
+    if (isGiven && options.fitsLens) {
+        reader.note(Problem{{}, QStringLiteral("--lens and --fit-lens both give the lens")});
+    }
+    if (isGiven && options.hasNumber(&Session::fovYDEG)) {
+        reader.note(Problem{{}, QStringLiteral("--lens and --fov both give the field of view")});
     }
 }
 
@@ -417,6 +431,18 @@ void SessionOptions::applyTo(Session &session) const
     }
 }
 
+Outcome SessionOptions::takeLensFor(Session &session) const
+{
+    std::optional<Lens> taken = lens ? lens : session.lens;
+    if (fitsLens) {
+        taken.reset();
+    }
+    if (taken && lensView) {
+        taken->view = *lensView;
+    }
+    return takeLens(session, taken);
+}
+
 Outcome SessionOptions::misfit(const KindInfo &info) const
 {
     const struct
@@ -436,6 +462,7 @@ Outcome SessionOptions::misfit(const KindInfo &info) const
         {rings.has_value(), Uses::Model, "--ring"},
         {lines.has_value(), Uses::Model, "--line"},
         {fitsFov, Uses::Model, "--fit-fov"},
+        {fitsLens, Uses::Model, "--fit-lens"},
     };
     for (const auto &check : checks) {
         if (check.isGiven && !info.has(check.use)) {
@@ -510,6 +537,19 @@ void addSessionOptions(QCommandLineParser &parser)
         QStringLiteral("fit-fov"),
         QStringLiteral("Fits the field of view, too, where two joints with a known "
                        "distance give it.")));
+    addOption(parser, "lens",
+              "File of the camera and its lens in OpenCV's YAML or JSON: the picture is shown and "
+              "measured without its distortion, clicks are pixels of that picture, and the field "
+              "of view is the camera's.",
+              "FILE");
+    addOption(parser, "lens-view",
+              "Of the undistorted picture: square (default), in which the largest centred square "
+              "has no black corners, or all that the camera saw.",
+              "NAME");
+    parser.addOption(QCommandLineOption(
+        QStringLiteral("fit-lens"),
+        QStringLiteral("Estimates the lens's radial distortion from three joints or more, clicked "
+                       "like all else in the picture as it was taken.")));
     addOption(parser, "mm-per-pixel", "Scale for crack widths.", "MM");
     addOption(parser, "laser",
               "The two laser spots in picture pixels; gives the scale for crack widths.",
@@ -533,6 +573,7 @@ Result<SessionOptions> readSessionOptions(const QCommandLineParser &parser)
     OptionReader reader(parser);
     readNumbers(reader, options);
     readChoices(reader, options);
+    readLens(reader, options);
     readRearCircle(reader, options);
     options.mmPerPixel = reader.number("mm-per-pixel", smallestMMPerPixel, largestMMPerPixel);
     readLaserSpots(reader, options);

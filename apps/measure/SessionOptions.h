@@ -42,6 +42,9 @@ struct SessionOptions
     std::optional<QVector<RingClicks>> rings; ///< replace the session's
     std::optional<QVector<LineClicks>> lines;
     bool fitsFov = false;
+    std::optional<Lens> lens; ///< replaces the session's
+    std::optional<LensView> lensView;
+    bool fitsLens = false; ///< clicks are those of the picture as it was taken
     StandardUncertainties standardUncertainties; ///< replace the session's, one by one
     std::optional<QString> limit;
 
@@ -56,6 +59,9 @@ struct SessionOptions
      */
     void applyTo(Session &session) const;
 
+    /** Takes the lens for a session that knows its picture's size. */
+    Outcome takeLensFor(Session &session) const;
+
     /** Names the first option that means nothing to the kind. */
     Outcome misfit(const KindInfo &info) const;
 };
@@ -63,7 +69,7 @@ struct SessionOptions
 /** Declares the options that applyTo() knows. */
 void addSessionOptions(QCommandLineParser &parser);
 
-/** Reads them; the calibration file is not read. A problem names the option. */
+/** Reads them; the files of calibration and lens are not read. A problem names the option. */
 Result<SessionOptions> readSessionOptions(const QCommandLineParser &parser);
 
 /** The distance along the pipe that an option gives in mm; nothing without it. */

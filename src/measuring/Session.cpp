@@ -91,7 +91,7 @@ auto choicesOf(const Session &s)
 {
     return std::tie(s.kind, s.unit, s.rearCircleActive, s.clockDEG, s.viewDownstream, s.jointShown,
                     s.isSet, s.viewStyle, s.calibrationText, s.mmPerPixel, s.fitsFov, s.limit,
-                    s.repeats, s.schemaMinor);
+                    s.repeats, s.lens, s.schemaMinor);
 }
 
 Outcome checkClicks(const QString &place, const QVector<QPointF> &points)
@@ -142,6 +142,19 @@ Outcome checkStandardUncertainties(const StandardUncertainties &given)
         }
     }
     return {};
+}
+
+Outcome checkSessionLens(const Lens &lens, const QSize &picture)
+{
+    if (!picture.isEmpty() && lens.size != picture) {
+        return Problem{QStringLiteral("lens.size"),
+                       Text::tr("the lens is for pictures of %1 x %2 pixels, this one has %3 x %4")
+                           .arg(lens.size.width())
+                           .arg(lens.size.height())
+                           .arg(picture.width())
+                           .arg(picture.height())};
+    }
+    return checkLens(lens);
 }
 
 Outcome checkLimit(const QString &text)
@@ -258,6 +271,11 @@ Outcome checkSession(const Session &session)
     }
     if (const Outcome problem = checkLimit(session.limit)) {
         return problem;
+    }
+    if (session.lens) {
+        if (const Outcome problem = checkSessionLens(*session.lens, session.picture.size)) {
+            return problem;
+        }
     }
     const int spots = session.laserSpots.size();
     if (spots != 0 && spots != laserSpotCount) {

@@ -3,6 +3,7 @@
 #include "measuring/AlignmentFit.h"
 #include "measuring/Export.h"
 #include "measuring/Kind.h"
+#include "measuring/Lens.h"
 #include "measuring/Result.h"
 #include "measuring/StandardUncertainties.h"
 
@@ -62,6 +63,8 @@ ZALENTO_MEASURING_EXPORT bool operator==(const SessionPoint &a, const SessionPoi
 struct Session
 {
     PictureIdentity picture;
+    /** Was taken out of the picture that is shown: all pixels here are of the undistorted one. */
+    std::optional<Lens> lens;
     Kind kind = Kind::PipeDimension;
     MeasureUnit unit = MeasureUnit::Metric; ///< of the texts; numbers stay metric
     double diameterMM = 300.0;              ///< nominal

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace Drevon::Zalento::Measuring {
@@ -109,7 +110,7 @@ public:
         const QJsonValue value = take(name);
         const QJsonArray list = value.toArray();
         const bool areNumbers =
-            list.size() == count &&
+            value.isArray() && list.size() == count &&
             std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isDouble(); });
         QVector<double> numbers;
         if (expect(name, value, areNumbers, expected)) {
@@ -118,6 +119,13 @@ public:
             }
         }
         return numbers;
+    }
+
+    /** The numbers of a list, however many; nothing when the field is missing. */
+    QVector<double> readNumbers(const char *name)
+    {
+        const int count = m_rest.value(QLatin1String(name)).toArray().size();
+        return readNumbers(name, count, QT_TRANSLATE_NOOP("Text", "a list of numbers"));
     }
 
     /** True when the field is there and is what was expected. */
@@ -181,25 +189,84 @@ std::optional<QSize> sizeOf(const QVector<double> &numbers)
     return QSize(static_cast<int>(numbers[0]), static_cast<int>(numbers[1]));
 }
 
-PictureIdentity pictureFromJson(const QJsonObject &object, Outcome &problem)
+void readSize(FieldReader &reader, const QJsonObject &object, QSize &size)
 {
-    const QString prefix = QStringLiteral("picture.");
-    PictureIdentity picture;
-    FieldReader reader(object, prefix, problem);
-    reader.read("path", picture.path);
-    const QJsonValue size = object.value(QLatin1String("size"));
-    const char *const expectedSize =
+    const QJsonValue given = object.value(QLatin1String("size"));
+    const char *const expected =
         QT_TRANSLATE_NOOP("Text", "a list of width and height in whole pixels");
-    const QVector<double> numbers = reader.readNumbers("size", 2, expectedSize);
+    const QVector<double> numbers = reader.readNumbers("size", 2, expected);
     if (!numbers.isEmpty()) {
         const std::optional<QSize> whole = sizeOf(numbers);
-        if (reader.expect("size", size, whole.has_value(), expectedSize)) {
-            picture.size = *whole;
+        if (reader.expect("size", given, whole.has_value(), expected)) {
+            size = *whole;
         }
     }
+}
+
+PictureIdentity pictureFromJson(const QJsonObject &object, Outcome &problem)
+{
+    PictureIdentity picture;
+    FieldReader reader(object, QStringLiteral("picture."), problem);
+    reader.read("path", picture.path);
+    readSize(reader, object, picture.size);
     reader.readChoice("sha256", picture.sha256, sha256Of, "64 lower-case hexadecimal digits");
     picture.unknownFields = reader.rest();
     return picture;
+}
+
+// Lens
+
+QJsonArray arrayOf(const double *begin, const double *end)
+{
+    QJsonArray array;
+    std::copy(begin, end, std::back_inserter(array));
+    return array;
+}
+
+QByteArray lensToJson(const Lens &lens)
+{
+    OrderedJson json;
+    json.add(QStringLiteral("name"), lens.name);
+    json.add(QStringLiteral("size"), QJsonArray{lens.size.width(), lens.size.height()});
+    json.add(
+        QStringLiteral("cameraMatrix"),
+        arrayOf(lens.cameraMatrix.data(), lens.cameraMatrix.data() + lens.cameraMatrix.size()));
+    json.add(QStringLiteral("distortion"), arrayOf(lens.distortion.begin(), lens.distortion.end()));
+    if (lens.view != LensView::Square) {
+        json.add(QStringLiteral("view"), lensViewName(lens.view));
+    }
+    if (lens.focalLengthSDPX) {
+        json.add(QStringLiteral("focalLengthSDPX"), *lens.focalLengthSDPX);
+    }
+    json.addAll(lens.unknownFields);
+    return json.toLine();
+}
+
+// The field of view is the lens's where the file names none.
+void readLens(FieldReader &reader, Session &session, Outcome &problem)
+{
+    const QJsonValue value = reader.take("lens");
+    if (!reader.expect("lens", value, value.isObject(), QT_TRANSLATE_NOOP("Text", "an object"))) {
+        return;
+    }
+    const QJsonObject object = value.toObject();
+    Lens lens;
+    FieldReader fields(object, QStringLiteral("lens."), problem);
+    fields.read("name", lens.name);
+    readSize(fields, object, lens.size);
+    const QVector<double> matrix =
+        fields.readNumbers("cameraMatrix", static_cast<int>(lens.cameraMatrix.size()),
+                           QT_TRANSLATE_NOOP("Text", "a list of 9 numbers, row by row"));
+    std::copy(matrix.begin(), matrix.end(), lens.cameraMatrix.begin());
+    lens.distortion = fields.readNumbers("distortion");
+    fields.readChoice("view", lens.view, lensViewNamed,
+                      QT_TRANSLATE_NOOP("Text", "\"square\" or \"all\""));
+    fields.read("focalLengthSDPX", lens.focalLengthSDPX);
+    lens.unknownFields = fields.rest();
+    session.lens = lens;
+    if (const Result<LensMapping> mapping = LensMapping::of(lens)) {
+        session.fovYDEG = mapping->fovYDEG();
+    }
 }
 
 // Points
@@ -494,6 +561,7 @@ void readFields(FieldReader &reader, Session &session, Outcome &problem)
                       QT_TRANSLATE_NOOP("Text", "an object"))) {
         session.picture = pictureFromJson(picture.toObject(), problem);
     }
+    readLens(reader, session, problem);
     readChoices(reader, session);
     for (const SessionNumber &number : sessionNumbers()) {
         reader.read(number.name, session.*number.member);
@@ -523,6 +591,9 @@ QByteArray sessionToJson(const Session &session)
     OrderedJson json;
     json.add(QStringLiteral("schema"), schemaText(session.schemaMinor));
     json.add(QStringLiteral("picture"), pictureToJson(session.picture));
+    if (session.lens) {
+        json.add(QStringLiteral("lens"), lensToJson(*session.lens));
+    }
     addChoices(json, session);
     for (const SessionNumber &number : sessionNumbers()) {
         json.add(QLatin1String(number.name), session.*number.member);

@@ -3,18 +3,29 @@
 #include "measuring/Editing.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace Drevon::Zalento::Measuring {
 
 namespace {
 
 constexpr double fractionPerPercent = 0.01;
+constexpr double radiansPerDegree = 0.017453292519943295;
 
 double laserPartOf(const Session &session)
 {
     const std::optional<double> distanceMM = laserDistanceOf(session);
     const std::optional<double> &givenMM = session.standardUncertainties.laserMM;
     return givenMM && distanceMM ? *givenMM / *distanceMM : defaultLaserPart;
+}
+
+// fov = 2 atan(a / f): dfov = 2 (a / f) / (1 + (a / f)^2) df / f.
+double lensFovDEG(const Lens &lens, double fovYDEG)
+{
+    const double tangent = std::tan(fovYDEG * 0.5 * radiansPerDegree);
+    const double focalPart =
+        lens.focalLengthSDPX ? *lens.focalLengthSDPX / lens.fy() : defaultLensFocalPart;
+    return 2.0 * tangent / (1.0 + tangent * tangent) * focalPart / radiansPerDegree;
 }
 
 } // namespace
@@ -47,7 +58,8 @@ InputUncertainties inputUncertainties(const Session &session)
     InputUncertainties known;
     known.clickPX = given.clickPX.value_or(defaultClickPX);
     known.diameterMM = given.diameterMM.value_or(session.diameterMM * defaultDiameterPart);
-    known.fovDEG = given.fovDEG.value_or(defaultFovDEG);
+    known.fovDEG = given.fovDEG.value_or(session.lens ? lensFovDEG(*session.lens, session.fovYDEG)
+                                                      : defaultFovDEG);
     known.alignmentPX = given.alignmentPX.value_or(defaultAlignmentPX);
     known.laserPart = laserPartOf(session);
     known.scalePart =

@@ -46,6 +46,9 @@ constexpr double defaultAlignmentPX = 2.0;
 constexpr double defaultDiameterPart = 0.006;
 /** Data sheets of cameras name whole degrees, and lenses differ by as much. */
 constexpr double defaultFovDEG = 1.0;
+/** Of the focal length of a lens whose file does not tell it: calibrations with a board that are
+    repeated differ by less. */
+constexpr double defaultLensFocalPart = 0.005;
 /** Of the spots' distance: half a millimetre in the usual 50. */
 constexpr double defaultLaserPart = 0.01;
 /** Of a scale that was typed, taken from something of known size in the picture. */

@@ -194,6 +194,17 @@ QByteArray snapJson(const SnapSummary &snap)
     return json.toLine();
 }
 
+QByteArray lensJson(const LensSummary &lens)
+{
+    OrderedJson json;
+    json.add(QStringLiteral("name"), lens.name);
+    if (lens.k1) {
+        json.add(QStringLiteral("k1"), *lens.k1);
+        json.add(QStringLiteral("standardUncertainty"), lens.standardUncertainty);
+    }
+    return json.toLine();
+}
+
 QString counted(int count, const char *one, const char *many)
 {
     return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
@@ -246,6 +257,9 @@ PictureValues pictureValues(const QString &picture, const Session &session,
     result.values = measurement.values;
     result.inputs = inputsOf(session);
     result.alignment = alignmentSummary(session, fit);
+    if (session.lens) {
+        result.lens = LensSummary{session.lens->name, {}, 0.0};
+    }
     result.message = measurement.note;
     return result;
 }
@@ -322,6 +336,9 @@ OrderedJson valuesJson(const PictureValues &picture)
     json.add(QStringLiteral("values"), valueList(picture));
     if (picture.alignment) {
         json.add(QStringLiteral("alignment"), alignmentJson(*picture.alignment));
+    }
+    if (picture.lens) {
+        json.add(QStringLiteral("lens"), lensJson(*picture.lens));
     }
     if (picture.snap) {
         json.add(QStringLiteral("snap"), snapJson(*picture.snap));

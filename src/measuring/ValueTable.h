@@ -56,6 +56,14 @@ struct SnapSummary
     QString reason; ///< why it was refused; empty when they were found
 };
 
+/** The lens that was taken out of the picture. */
+struct LensSummary
+{
+    QString name;
+    std::optional<double> k1;         ///< where it was estimated from joints
+    double standardUncertainty = 0.0; ///< of #k1
+};
+
 /** What values are measured with, where they depend on it. */
 struct ValueInputs
 {
@@ -74,6 +82,7 @@ struct PictureValues
     QVector<Value> values;
     ValueInputs inputs;
     std::optional<AlignmentSummary> alignment; ///< of the model; nothing before it is known
+    std::optional<LensSummary> lens;           ///< nothing for a picture as it was taken
     std::optional<SnapSummary> snap;           ///< nothing where nobody asked for it
     QString message;                           ///< why there is no value; else empty
     QStringList written;                       ///< files

@@ -29,6 +29,13 @@ Session fullSession()
                        QSize(1024, 768),
                        QByteArray(64, 'a'),
                        {{QStringLiteral("camera"), QStringLiteral("front")}}};
+    session.lens = Lens{QStringLiteral("wide \"ö\""),
+                        QSize(1024, 768),
+                        {1.0 / 3.0 + 700, 0, 511.5, 0, 700, 383.5, 0, 0, 1},
+                        {-0.2, 1.0 / 7.0, 1e-5, -1e-5, 0.02},
+                        LensView::All,
+                        1.0 / 9.0,
+                        {{QStringLiteral("serial"), 12}}};
     session.kind = Kind::CrackWidth;
     session.unit = MeasureUnit::Imperial;
     double value = 1.0 / 3.0;
@@ -58,9 +65,9 @@ Session fullSession()
     return session;
 }
 
-QByteArray minimal(const char *field)
+QByteArray minimal(const QByteArray &field)
 {
-    return QByteArray("{\"schema\": \"zalento-session 1.0\", ") + field + "}";
+    return "{\"schema\": \"zalento-session 1.0\", " + field + "}";
 }
 
 } // namespace
@@ -142,6 +149,18 @@ void TestSession::refusesMalformed_data()
         "picture.size: expected a list of width and height in whole pixels");
     row("upper-case hash", minimal("\"picture\": {\"sha256\": \"ABC\"}"),
         "picture.sha256: expected 64 lower-case hexadecimal digits");
+    const QByteArray lens =
+        "\"size\": [640, 480], \"cameraMatrix\": [500, 0, 320, 0, 500, 240, 0, 0, 1]";
+    row("lens with three coefficients",
+        minimal("\"lens\": {" + lens + ", \"distortion\": [0, 0, 0]}"),
+        "lens.distortion: expected 4, 5 or 8 numbers, found 3");
+    row("lens with eight numbers of nine",
+        minimal("\"lens\": {\"cameraMatrix\": [500, 0, 320, 0, 500, 240, 0, 0]}"),
+        "lens.cameraMatrix: expected a list of 9 numbers");
+    row("lens of another size",
+        minimal("\"picture\": {\"size\": [640, 481]}, \"lens\": {" + lens +
+                ", \"distortion\": [0, 0, 0, 0]}"),
+        "lens.size: the lens is for pictures of 640 x 480 pixels, this one has 640 x 481");
     row("points as an object", minimal("\"points\": {}"), "points: expected a list");
     row("point as a list", minimal("\"points\": [[1, 2]]"), "points[0]: expected an object");
     row("second point without x", minimal("\"points\": [{\"pixel\": [1, 2]}, {\"pixel\": [2]}]"),

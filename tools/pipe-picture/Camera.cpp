@@ -20,6 +20,8 @@ Rotation product(const Rotation &a, const Rotation &b)
 Camera::Camera(const CameraSettings &settings, double diameterM)
     : m_pose(product(product(rotationY(settings.yawDeg), rotationX(settings.pitchDeg)),
                      rotationZ(settings.rollDeg)))
+    , m_k1(settings.k1)
+    , m_k2(settings.k2)
 {
     const double width = settings.picture.width();
     const double height = settings.picture.height();
@@ -32,11 +34,17 @@ Camera::Camera(const CameraSettings &settings, double diameterM)
              diameterM * (settings.heightShare - 0.5), mouthMargin * diameterM * 0.5 / tangent};
 }
 
+double Camera::distortion(const QPointF &direction) const
+{
+    const double r2 = direction.x() * direction.x() + direction.y() * direction.y();
+    return 1.0 + r2 * (m_k1 + r2 * m_k2);
+}
+
 QPointF Camera::project(const Vec &pipePoint) const
 {
     const Vec p = m_pose * pipePoint;
-    const double scale = m_pixelsPerTangent / depthOf(p);
-    return {m_centre.x() - (p.x - m_eye.x) * scale, m_centre.y() - (p.y - m_eye.y) * scale};
+    const QPointF direction = QPointF(m_eye.x - p.x, m_eye.y - p.y) / depthOf(p); // right and down
+    return m_centre + direction * distortion(direction) * m_pixelsPerTangent;
 }
 
 double Camera::metresPerPixel(const Vec &pipePoint) const
@@ -46,8 +54,15 @@ double Camera::metresPerPixel(const Vec &pipePoint) const
 
 Ray Camera::rayThrough(double x, double y) const
 {
-    const Vec view{(m_centre.x() - x) / m_pixelsPerTangent, (m_centre.y() - y) / m_pixelsPerTangent,
-                   -1.0};
+    // Fixed point: what is seen at a place lies where the distortion there puts it.
+    constexpr int steps = 60;
+    const QPointF seen = QPointF(x - m_centre.x(), y - m_centre.y()) / m_pixelsPerTangent;
+    QPointF direction = seen;
+    const bool isBent = m_k1 != 0.0 || m_k2 != 0.0;
+    for (int i = 0; isBent && i < steps; ++i) {
+        direction = seen / distortion(direction);
+    }
+    const Vec view{-direction.x(), -direction.y(), -1.0};
     return {eyeInPipe(), m_pose.inverse(normalized(view))};
 }
 

@@ -18,10 +18,12 @@ struct CameraSettings
     double rollDeg = 0.0;     ///< pipe turned about its axis
     double yawDeg = 0.0;      ///< pipe turned about the vertical through the mouth's centre
     double pitchDeg = 0.0;    ///< pipe turned about the horizontal through the mouth's centre
+    double k1 = 0.0;          ///< radial distortion (D. C. Brown): below 0 a barrel
+    double k2 = 0.0;          ///< the same, with the fourth power
 };
 
 /**
- * Pinhole camera before the mouth of a pipe.
+ * Camera before the mouth of a pipe: a pinhole, or a lens with its middle in the picture's.
  *
  * Frames: *pipe frame*, metres, origin in the centre of the mouth, the pipe along −z, +y up and +x
  * to the left of somebody who looks into the pipe, so that angles about the axis grow clockwise in
@@ -54,6 +56,7 @@ public:
     Ray rayThrough(double x, double y) const;
 
 private:
+    double distortion(const QPointF &direction) const;
     double depthOf(const Vec &viewPoint) const { return m_eye.z - viewPoint.z; }
 
     Rotation m_pose;
@@ -61,6 +64,8 @@ private:
     QRectF m_square;
     QPointF m_centre;
     double m_pixelsPerTangent = 1.0;
+    double m_k1 = 0.0;
+    double m_k2 = 0.0;
 };
 
 } // namespace PipePicture

@@ -39,6 +39,8 @@ const std::vector<NumberOption> &numberOptions()
         {"roll", "deg", "Turn of the pipe about its axis, clockwise.", [](S &s, double v) { s.camera.rollDeg = v; }},
         {"yaw", "deg", "Turn of the pipe that moves its far end to the right.", [](S &s, double v) { s.camera.yawDeg = v; }},
         {"pitch", "deg", "Turn of the pipe that moves its far end up.", [](S &s, double v) { s.camera.pitchDeg = v; }},
+        {"k1", "number", "Radial distortion of the lens; below 0 a barrel.", [](S &s, double v) { s.camera.k1 = v; }},
+        {"k2", "number", "The same, with the fourth power.", [](S &s, double v) { s.camera.k2 = v; }},
         {"water", "percent", "Water level, of the diameter.", [](S &s, double v) { s.waterShare = v * 0.01; }},
         {"crack-width", "mm", "Width of the crack at the laser spots; 0 for none.", [](S &s, double v) { s.crack.widthMm = v; }},
         {"crack-length", "mm", "Length of the crack along the pipe.", [](S &s, double v) { s.crack.lengthMm = v; }},

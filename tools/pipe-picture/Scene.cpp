@@ -30,6 +30,8 @@ QString cameraError(const SceneSettings &scene)
         return text("The picture's sides must be from 64 to 4096 pixels.");
     if (!within(camera.fovDeg, 10.0, 90.0))
         return text("The field of view must be from 10 to 90 degrees.");
+    if (!within(camera.k1, -0.4, 1.0) || !within(camera.k2, -0.4, 1.0))
+        return text("The distortion must be from -0.4 to 1.");
     const Vec eye = Camera(camera, scene.diameterM()).eyeInPipe();
     if (std::hypot(eye.x, eye.y) >= 0.98 * scene.radiusM() || eye.z <= 0.0)
         return text("The camera stands outside the pipe.");

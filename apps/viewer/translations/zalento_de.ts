@@ -1650,6 +1650,110 @@
         <source>&quot;measure&quot;, &quot;ends&quot; or &quot;full&quot;</source>
         <translation>&quot;measure&quot;, &quot;ends&quot; oder &quot;full&quot;</translation>
     </message>
+    <message>
+        <source>expected fx, 0, cx, 0, fy, cy, 0, 0, 1, row by row</source>
+        <translation>erwartet wurden fx, 0, cx, 0, fy, cy, 0, 0, 1, Zeile für Zeile</translation>
+    </message>
+    <message>
+        <source>expected focal lengths above 0 and up to %1 pixels, found %2 and %3</source>
+        <translation>erwartet wurden Brennweiten über 0 und bis %1 Pixel, gefunden %2 und %3</translation>
+    </message>
+    <message>
+        <source>expected 4, 5 or 8 numbers, found %1</source>
+        <translation>erwartet wurden 4, 5 oder 8 Zahlen, gefunden %1</translation>
+    </message>
+    <message>
+        <source>expected finite numbers up to %1</source>
+        <translation>erwartet wurden endliche Zahlen bis %1</translation>
+    </message>
+    <message>
+        <source>expected a width and a height in pixels</source>
+        <translation>erwartet wurden Breite und Höhe in Pixeln</translation>
+    </message>
+    <message>
+        <source>the picture of this lens would have a field of view of %1 degrees, expected %2 to %3</source>
+        <translation>das Bild dieses Objektivs hätte ein Sichtfeld von %1 Grad, erwartet wurden %2 bis %3</translation>
+    </message>
+    <message>
+        <source>expected a number from 0 to %1</source>
+        <translation>erwartet wurde eine Zahl von 0 bis %1</translation>
+    </message>
+    <message>
+        <source>estimated from joints</source>
+        <translation>aus Fugen geschätzt</translation>
+    </message>
+    <message>
+        <source>the joints need more clicks to tell the lens</source>
+        <translation>die Fugen brauchen mehr Klicks, um das Objektiv zu verraten</translation>
+    </message>
+    <message>
+        <source>no lens with one coefficient fits the joints</source>
+        <translation>kein Objektiv mit einem Koeffizienten passt zu den Fugen</translation>
+    </message>
+    <message>
+        <source>the joints do not tell the lens</source>
+        <translation>die Fugen verraten das Objektiv nicht</translation>
+    </message>
+    <message>
+        <source>the picture has a lens already</source>
+        <translation>das Bild hat schon ein Objektiv</translation>
+    </message>
+    <message>
+        <source>expected %1 joints with three clicks or more, found %2</source>
+        <translation>erwartet wurden %1 Fugen mit drei Klicks oder mehr, gefunden %2</translation>
+    </message>
+    <message>
+        <source>the joints do not tell the lens from a straight one: k1 is %1 with a standard uncertainty of %2</source>
+        <translation>die Fugen unterscheiden das Objektiv nicht von einem geraden: k1 ist %1 mit einer Standardunsicherheit von %2</translation>
+    </message>
+    <message>
+        <source>expected plumb_bob or rational_polynomial, found %1</source>
+        <translation>erwartet wurde plumb_bob oder rational_polynomial, gefunden %1</translation>
+    </message>
+    <message>
+        <source>a list of 9 numbers, row by row</source>
+        <translation>eine Liste von 9 Zahlen, Zeile für Zeile</translation>
+    </message>
+    <message>
+        <source>is no file of a camera: expected OpenCV&apos;s YAML or JSON</source>
+        <translation>ist keine Datei einer Kamera: erwartet wurde YAML oder JSON von OpenCV</translation>
+    </message>
+    <message>
+        <source>is a folder, not a file of a camera</source>
+        <translation>ist ein Ordner, keine Datei einer Kamera</translation>
+    </message>
+    <message>
+        <source>is too large for a file of a camera</source>
+        <translation>ist zu groß für die Datei einer Kamera</translation>
+    </message>
+    <message>
+        <source>the lens is for pictures of %1 x %2 pixels, this one has %3 x %4</source>
+        <translation>das Objektiv gilt für Bilder mit %1 x %2 Pixeln, dieses hat %3 x %4</translation>
+    </message>
+    <message>
+        <source>the picture is too long: up to %1 pixels a side are undistorted</source>
+        <translation>das Bild ist zu lang: entzerrt werden bis zu %1 Pixel je Seite</translation>
+    </message>
+    <message>
+        <source>a list of numbers</source>
+        <translation>eine Liste von Zahlen</translation>
+    </message>
+    <message>
+        <source>&quot;square&quot; or &quot;all&quot;</source>
+        <translation>„square“ oder „all“</translation>
+    </message>
+    <message>
+        <source>the lens maps nothing to the click at %1,%2</source>
+        <translation>das Objektiv bildet nichts auf den Klick bei %1,%2 ab</translation>
+    </message>
+    <message>
+        <source>this build has no OpenCV, which undistorts pictures</source>
+        <translation>diese Fassung hat kein OpenCV, das Bilder entzerrt</translation>
+    </message>
+    <message>
+        <source>this build has no OpenCV, which reads files of lenses</source>
+        <translation>diese Fassung hat kein OpenCV, das Dateien von Objektiven liest</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

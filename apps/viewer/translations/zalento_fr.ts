@@ -1650,6 +1650,110 @@
         <source>&quot;measure&quot;, &quot;ends&quot; or &quot;full&quot;</source>
         <translation>&quot;measure&quot;, &quot;ends&quot; ou &quot;full&quot;</translation>
     </message>
+    <message>
+        <source>expected fx, 0, cx, 0, fy, cy, 0, 0, 1, row by row</source>
+        <translation>fx, 0, cx, 0, fy, cy, 0, 0, 1 attendus, ligne par ligne</translation>
+    </message>
+    <message>
+        <source>expected focal lengths above 0 and up to %1 pixels, found %2 and %3</source>
+        <translation>des distances focales au-dessus de 0 et jusqu’à %1 pixels attendues, %2 et %3 trouvées</translation>
+    </message>
+    <message>
+        <source>expected 4, 5 or 8 numbers, found %1</source>
+        <translation>4, 5 ou 8 nombres attendus, %1 trouvés</translation>
+    </message>
+    <message>
+        <source>expected finite numbers up to %1</source>
+        <translation>des nombres finis jusqu’à %1 attendus</translation>
+    </message>
+    <message>
+        <source>expected a width and a height in pixels</source>
+        <translation>une largeur et une hauteur en pixels attendues</translation>
+    </message>
+    <message>
+        <source>the picture of this lens would have a field of view of %1 degrees, expected %2 to %3</source>
+        <translation>l’image de cet objectif aurait un champ de vision de %1 degrés, %2 à %3 attendus</translation>
+    </message>
+    <message>
+        <source>expected a number from 0 to %1</source>
+        <translation>un nombre de 0 à %1 attendu</translation>
+    </message>
+    <message>
+        <source>estimated from joints</source>
+        <translation>estimé d’après les joints</translation>
+    </message>
+    <message>
+        <source>the joints need more clicks to tell the lens</source>
+        <translation>il faut plus de clics sur les joints pour connaître l’objectif</translation>
+    </message>
+    <message>
+        <source>no lens with one coefficient fits the joints</source>
+        <translation>aucun objectif à un coefficient ne convient aux joints</translation>
+    </message>
+    <message>
+        <source>the joints do not tell the lens</source>
+        <translation>les joints ne révèlent pas l’objectif</translation>
+    </message>
+    <message>
+        <source>the picture has a lens already</source>
+        <translation>l’image a déjà un objectif</translation>
+    </message>
+    <message>
+        <source>expected %1 joints with three clicks or more, found %2</source>
+        <translation>%1 joints d’au moins trois clics attendus, %2 trouvés</translation>
+    </message>
+    <message>
+        <source>the joints do not tell the lens from a straight one: k1 is %1 with a standard uncertainty of %2</source>
+        <translation>les joints ne distinguent pas l’objectif d’un objectif droit : k1 vaut %1 avec une incertitude-type de %2</translation>
+    </message>
+    <message>
+        <source>expected plumb_bob or rational_polynomial, found %1</source>
+        <translation>plumb_bob ou rational_polynomial attendu, %1 trouvé</translation>
+    </message>
+    <message>
+        <source>a list of 9 numbers, row by row</source>
+        <translation>une liste de 9 nombres, ligne par ligne</translation>
+    </message>
+    <message>
+        <source>is no file of a camera: expected OpenCV&apos;s YAML or JSON</source>
+        <translation>n’est pas un fichier de caméra : YAML ou JSON d’OpenCV attendu</translation>
+    </message>
+    <message>
+        <source>is a folder, not a file of a camera</source>
+        <translation>est un dossier, pas un fichier de caméra</translation>
+    </message>
+    <message>
+        <source>is too large for a file of a camera</source>
+        <translation>est trop grand pour un fichier de caméra</translation>
+    </message>
+    <message>
+        <source>the lens is for pictures of %1 x %2 pixels, this one has %3 x %4</source>
+        <translation>l’objectif vaut pour des images de %1 x %2 pixels, celle-ci en a %3 x %4</translation>
+    </message>
+    <message>
+        <source>the picture is too long: up to %1 pixels a side are undistorted</source>
+        <translation>l’image est trop longue : jusqu’à %1 pixels par côté sont redressés</translation>
+    </message>
+    <message>
+        <source>a list of numbers</source>
+        <translation>une liste de nombres</translation>
+    </message>
+    <message>
+        <source>&quot;square&quot; or &quot;all&quot;</source>
+        <translation>« square » ou « all »</translation>
+    </message>
+    <message>
+        <source>the lens maps nothing to the click at %1,%2</source>
+        <translation>l’objectif ne projette rien sur le clic en %1,%2</translation>
+    </message>
+    <message>
+        <source>this build has no OpenCV, which undistorts pictures</source>
+        <translation>cette version n’a pas OpenCV, qui redresse les images</translation>
+    </message>
+    <message>
+        <source>this build has no OpenCV, which reads files of lenses</source>
+        <translation>cette version n’a pas OpenCV, qui lit les fichiers d’objectifs</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>
