@@ -4,6 +4,7 @@
 #include "measuring/Kind.h"
 #include "measuring/SessionFile.h"
 #include "measuring/SessionFit.h"
+#include "measuring/SessionLens.h"
 
 #include <QFileInfo>
 
@@ -34,6 +35,14 @@ Measuring::Outcome otherFile(const QString &path)
         return {};
     }
     return Measuring::Problem{shortName(path), picture.problem().textAfter(path)};
+}
+
+// A lens holds for pictures of its size.
+void dropForeignLens(Session &session)
+{
+    if (session.lens && session.lens->size != session.picture.size) {
+        session.lens.reset();
+    }
 }
 
 } // namespace
@@ -177,6 +186,7 @@ void DocumentList::show(int index)
     if (m_picture) {
         startSession(document, fresh);
     }
+    showPicture();
     Q_EMIT currentChanged();
     Q_EMIT dataChanged(this->index(m_index), this->index(m_index));
 }
@@ -188,10 +198,6 @@ void DocumentList::loadPicture(Document &document)
     document.problem = picture ? QString() : picture.problem().textAfter(document.picturePath);
     if (picture) {
         m_picture = *picture;
-    }
-    ++m_pictureNumber;
-    if (m_provider) {
-        m_provider->setPicture(this->picture());
     }
     if (!m_picture) {
         m_guidance.notice(Guidance::Error, pictureProblem());
@@ -207,11 +213,39 @@ void DocumentList::loadPicture(Document &document)
     m_preferences.setFolder(QFileInfo(document.picturePath).absolutePath());
 }
 
+// Another lens makes another picture.
+void DocumentList::showPicture()
+{
+    m_shownPicture = m_picture ? m_picture->image : QImage();
+    m_shownLens = m_picture ? current()->session->lens : std::nullopt;
+    if (m_shownLens) {
+        const auto shown = Measuring::shownPicture(*current()->session, m_shownPicture);
+        if (shown) {
+            m_shownPicture = *shown;
+        } else {
+            m_guidance.notice(Guidance::Error, shown.problem().text());
+        }
+    }
+    ++m_pictureNumber;
+    if (m_provider) {
+        m_provider->setPicture(m_shownPicture);
+    }
+    Q_EMIT pictureChanged();
+}
+
+void DocumentList::showLens()
+{
+    if (m_picture && current()->session->lens != m_shownLens) {
+        showPicture();
+    }
+}
+
 void DocumentList::startSession(Document &document, const Session &fresh)
 {
     if (!document.session) {
         document.session = fresh;
         document.session->picture = m_picture->identity;
+        dropForeignLens(*document.session);
         loadSession(document);
     } else {
         takeOverPicture(document);
@@ -254,6 +288,7 @@ void DocumentList::takeOverPicture(Document &document)
             tr("Careful, %1. Nothing is overwritten until you confirm it.").arg(*difference));
     }
     session.picture = m_picture->identity;
+    dropForeignLens(session);
 }
 
 // The same clicks give the same alignment; a file that was written by hand gets it here.
@@ -289,6 +324,7 @@ Session DocumentList::newSession() const
         fresh.unit = last.unit;
         fresh.diameterMM = last.diameterMM;
         fresh.fovYDEG = last.fovYDEG;
+        fresh.lens = last.lens;
         fresh.calibrationText = last.calibrationText;
         return fresh;
     }

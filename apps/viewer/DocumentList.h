@@ -35,9 +35,10 @@ class DocumentList : public QAbstractListModel
     /** Index of the picture on view, -1 for none. The picture's properties change with it. */
     Q_PROPERTY(int currentIndex READ currentIndex NOTIFY currentChanged)
     Q_PROPERTY(bool hasPicture READ hasPicture NOTIFY currentChanged)
-    Q_PROPERTY(QImage picture READ picture NOTIFY currentChanged)
+    /** As it is shown: without the distortion of the session's lens. */
+    Q_PROPERTY(QImage picture READ picture NOTIFY pictureChanged)
     Q_PROPERTY(QSize pictureSize READ pictureSize NOTIFY currentChanged)
-    Q_PROPERTY(QString pictureSource READ pictureSource NOTIFY currentChanged)
+    Q_PROPERTY(QString pictureSource READ pictureSource NOTIFY pictureChanged)
     Q_PROPERTY(QString pictureName READ pictureName NOTIFY currentChanged)
     Q_PROPERTY(QString pictureProblem READ pictureProblem NOTIFY currentChanged)
 
@@ -54,8 +55,8 @@ public:
     int unsavedCount() const { return m_unsavedCount; }
     int currentIndex() const { return m_index; }
     bool hasPicture() const { return m_picture.has_value(); }
-    QImage picture() const { return m_picture ? m_picture->image : QImage(); }
-    QSize pictureSize() const { return picture().size(); }
+    QImage picture() const { return m_shownPicture; }
+    QSize pictureSize() const { return m_shownPicture.size(); }
     QString pictureSource() const;
     QString pictureName() const;
     QString pictureProblem() const;
@@ -76,6 +77,9 @@ public:
     Q_INVOKABLE void showNext() { show(m_index + 1); }
     Q_INVOKABLE void showPrevious() { show(m_index - 1); }
 
+    /** To be called when the session on view has changed: its lens may be another one. */
+    void showLens();
+
     /** To be called when a document was changed or saved. */
     void noteModified();
 
@@ -89,11 +93,13 @@ Q_SIGNALS:
     /** Another picture is about to be shown: what is under way ends. */
     void currentAboutToChange();
     void currentChanged();
+    void pictureChanged();
 
 private:
     Measuring::Result<int> append(const QString &path);
     int indexOf(const QString &picturePath) const;
     void loadPicture(Document &document);
+    void showPicture();
     void startSession(Document &document, const Measuring::Session &fresh);
     void loadSession(Document &document);
     void takeOverPicture(Document &document);
@@ -107,6 +113,8 @@ private:
     int m_index = -1;
     int m_unsavedCount = 0;
     std::optional<Measuring::Picture> m_picture;
+    QImage m_shownPicture;
+    std::optional<Measuring::Lens> m_shownLens;
     int m_pictureNumber = 0;
 };
 

@@ -2,6 +2,7 @@
 #include "MeasurementEditor.h"
 
 #include "measuring/SessionFit.h"
+#include "measuring/SessionLens.h"
 #include "measuring/Snap.h"
 
 #include <QLocale>
@@ -317,6 +318,10 @@ void MeasurementEditor::alignAsBefore()
     }
     const Session &other = *m_documents.at(before).session;
     Session session = sessionCopy();
+    if (const auto problem = Measuring::takeLens(session, other.lens)) {
+        m_guidance.notice(Guidance::Warning, problem->text());
+        return;
+    }
     Measuring::setAlignment(session, Measuring::alignmentOf(other));
     session.rings.clear();
     session.lines.clear();

@@ -137,6 +137,7 @@ void MeasurementEditor::show(Session session)
 {
     fit(session);
     m_documents.current()->session = session;
+    m_documents.showLens();
     if (isReady()) {
         Measuring::showSession(session, *m_item);
     }

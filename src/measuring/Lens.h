@@ -52,6 +52,10 @@ struct Lens
 };
 
 ZALENTO_MEASURING_EXPORT bool operator==(const Lens &a, const Lens &b);
+inline bool operator!=(const Lens &a, const Lens &b)
+{
+    return !(a == b);
+}
 
 /** How a pinhole camera's picture lies to the one that was taken through a lens. */
 class LensMapping

@@ -223,33 +223,8 @@ QJsonArray arrayOf(const double *begin, const double *end)
     return array;
 }
 
-QByteArray lensToJson(const Lens &lens)
+Lens lensFromObject(const QJsonObject &object, Outcome &problem)
 {
-    OrderedJson json;
-    json.add(QStringLiteral("name"), lens.name);
-    json.add(QStringLiteral("size"), QJsonArray{lens.size.width(), lens.size.height()});
-    json.add(
-        QStringLiteral("cameraMatrix"),
-        arrayOf(lens.cameraMatrix.data(), lens.cameraMatrix.data() + lens.cameraMatrix.size()));
-    json.add(QStringLiteral("distortion"), arrayOf(lens.distortion.begin(), lens.distortion.end()));
-    if (lens.view != LensView::Square) {
-        json.add(QStringLiteral("view"), lensViewName(lens.view));
-    }
-    if (lens.focalLengthSDPX) {
-        json.add(QStringLiteral("focalLengthSDPX"), *lens.focalLengthSDPX);
-    }
-    json.addAll(lens.unknownFields);
-    return json.toLine();
-}
-
-// The field of view is the lens's where the file names none.
-void readLens(FieldReader &reader, Session &session, Outcome &problem)
-{
-    const QJsonValue value = reader.take("lens");
-    if (!reader.expect("lens", value, value.isObject(), QT_TRANSLATE_NOOP("Text", "an object"))) {
-        return;
-    }
-    const QJsonObject object = value.toObject();
     Lens lens;
     FieldReader fields(object, QStringLiteral("lens."), problem);
     fields.read("name", lens.name);
@@ -263,8 +238,18 @@ void readLens(FieldReader &reader, Session &session, Outcome &problem)
                       QT_TRANSLATE_NOOP("Text", "\"square\" or \"all\""));
     fields.read("focalLengthSDPX", lens.focalLengthSDPX);
     lens.unknownFields = fields.rest();
-    session.lens = lens;
-    if (const Result<LensMapping> mapping = LensMapping::of(lens)) {
+    return lens;
+}
+
+// The field of view is the lens's where the file names none.
+void readLens(FieldReader &reader, Session &session, Outcome &problem)
+{
+    const QJsonValue value = reader.take("lens");
+    if (!reader.expect("lens", value, value.isObject(), QT_TRANSLATE_NOOP("Text", "an object"))) {
+        return;
+    }
+    session.lens = lensFromObject(value.toObject(), problem);
+    if (const Result<LensMapping> mapping = LensMapping::of(*session.lens)) {
         session.fovYDEG = mapping->fovYDEG();
     }
 }
@@ -585,6 +570,35 @@ Problem parseProblem(const QByteArray &json, const QJsonParseError &error)
 }
 
 } // namespace
+
+QByteArray lensToJson(const Lens &lens)
+{
+    OrderedJson json;
+    json.add(QStringLiteral("name"), lens.name);
+    json.add(QStringLiteral("size"), QJsonArray{lens.size.width(), lens.size.height()});
+    json.add(
+        QStringLiteral("cameraMatrix"),
+        arrayOf(lens.cameraMatrix.data(), lens.cameraMatrix.data() + lens.cameraMatrix.size()));
+    json.add(QStringLiteral("distortion"), arrayOf(lens.distortion.begin(), lens.distortion.end()));
+    if (lens.view != LensView::Square) {
+        json.add(QStringLiteral("view"), lensViewName(lens.view));
+    }
+    if (lens.focalLengthSDPX) {
+        json.add(QStringLiteral("focalLengthSDPX"), *lens.focalLengthSDPX);
+    }
+    json.addAll(lens.unknownFields);
+    return json.toLine();
+}
+
+Result<Lens> lensFromJson(const QByteArray &json)
+{
+    Outcome problem;
+    const Lens lens = lensFromObject(QJsonDocument::fromJson(json).object(), problem);
+    if (!problem) {
+        problem = checkLens(lens);
+    }
+    return problem ? Result<Lens>(*problem) : Result<Lens>(lens);
+}
 
 QByteArray sessionToJson(const Session &session)
 {

@@ -19,4 +19,8 @@ ZALENTO_MEASURING_EXPORT QByteArray sessionToJson(const Session &session);
  */
 ZALENTO_MEASURING_EXPORT Result<Session> sessionFromJson(const QByteArray &json);
 
+/** A lens alone, as it stands in a session; and back. */
+ZALENTO_MEASURING_EXPORT QByteArray lensToJson(const Lens &lens);
+ZALENTO_MEASURING_EXPORT Result<Lens> lensFromJson(const QByteArray &json);
+
 } // namespace Drevon::Zalento::Measuring

@@ -6,6 +6,7 @@ Column {
     id: panel
 
     required property var commands
+    signal cameraRequested()
 
     spacing: 6
 
@@ -108,8 +109,8 @@ Column {
             width: helpRow.keyWidth
             font.pixelSize: Theme.small
             text: qsTr("Camera")
-            hint: qsTr("Keep the field of view under a name, or take one that was kept")
-            onClicked: cameraDialog.open()
+            hint: qsTr("Lens and field of view: load, keep under a name, or take one that was kept")
+            onClicked: panel.cameraRequested()
         }
         ToolKey {
             objectName: "lockKey"
@@ -138,9 +139,5 @@ Column {
         choices: [qsTr("all"), qsTr("ends"), qsTr("none")]
         current: 2 - Viewer.editor.viewStyle
         onChosen: Viewer.editor.viewStyle = 2 - index
-    }
-    CameraDialog {
-        id: cameraDialog
-        objectName: "cameraDialog"
     }
 }

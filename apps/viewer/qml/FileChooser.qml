@@ -17,6 +17,10 @@ Item {
         ask(qsTr("Load a camera calibration"), ["*.ini", "*.txt", "*.csv", "*.cal"], "",
             paths => Viewer.editor.loadCalibration(paths[0]), Platform.FileDialog.OpenFile)
     }
+    function openLens() {
+        ask(qsTr("Load a lens"), ["*.yaml", "*.yml", "*.json", "*.xml"], "",
+            paths => Viewer.cameras.loadLens(paths[0]), Platform.FileDialog.OpenFile)
+    }
     function openRecord() {
         ask(qsTr("Load a pipe record"), ["*.json"], "",
             paths => Viewer.records.load(paths[0]), Platform.FileDialog.OpenFile)

@@ -54,6 +54,7 @@ ApplicationWindow {
         commands: commands
         onExportRequested: fileChooser.exportTo(what)
         onRecordRequested: recordDialog.open()
+        onCameraRequested: cameraDialog.open()
     }
     // What the bars and the side panel leave.
     Item {
@@ -65,7 +66,7 @@ ApplicationWindow {
         id: stage
         anchors { left: work.left; right: wallPanel.left; top: work.top; bottom: work.bottom }
         commands: commands
-        isBehindDialog: fileChooser.isOpen || [recordDialog, keyList, saveDialog, unsavedDialog]
+        isBehindDialog: fileChooser.isOpen || [recordDialog, cameraDialog, keyList, saveDialog, unsavedDialog]
                                               .some(dialog => dialog.visible)
     }
     WallPanel {
@@ -103,6 +104,7 @@ ApplicationWindow {
         commands: commands
         onCalibrationRequested: fileChooser.openCalibration()
         onRecordRequested: recordDialog.open()
+        onCameraRequested: cameraDialog.open()
     }
 
     DropArea {
@@ -124,6 +126,11 @@ ApplicationWindow {
         id: recordDialog
         objectName: "recordDialog"
         onFileRequested: fileChooser.openRecord()
+    }
+    CameraDialog {
+        id: cameraDialog
+        objectName: "cameraDialog"
+        onFileRequested: fileChooser.openLens()
     }
     KeyList {
         id: keyList

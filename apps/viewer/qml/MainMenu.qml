@@ -8,6 +8,7 @@ ViewerMenu {
 
     required property var commands
     signal recordRequested()
+    signal cameraRequested()
 
     width: 300
 
@@ -27,6 +28,11 @@ ViewerMenu {
         text: qsTr("Pipe record")
         enabled: Viewer.documents.hasPicture
         onTriggered: menu.recordRequested()
+    }
+    ViewerMenuItem {
+        text: qsTr("Camera and lens")
+        enabled: Viewer.documents.hasPicture
+        onTriggered: menu.cameraRequested()
     }
     ViewerMenuItem { action: menu.commands.map }
     ViewerMenuItem { action: menu.commands.wall }

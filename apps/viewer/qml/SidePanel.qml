@@ -13,6 +13,7 @@ Rectangle {
     required property var commands
     signal calibrationRequested()
     signal recordRequested()
+    signal cameraRequested()
 
     readonly property real columnWidth: isUpright ? width / 2 : width
     // What an upright panel needs.
@@ -110,6 +111,7 @@ Rectangle {
                 width: parent.width
                 commands: panel.commands
                 visible: Viewer.editor.hasModel
+                onCameraRequested: panel.cameraRequested()
             }
         }
     }

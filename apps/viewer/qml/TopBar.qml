@@ -10,6 +10,7 @@ Rectangle {
     required property var commands
     signal exportRequested(string what)
     signal recordRequested()
+    signal cameraRequested()
 
     readonly property bool isNarrow: width < 1000
     // On a low screen the keys of the zoom stand behind ours.
@@ -99,6 +100,7 @@ Rectangle {
                 y: parent.height + 4
                 commands: bar.commands
                 onRecordRequested: bar.recordRequested()
+                onCameraRequested: bar.cameraRequested()
             }
         }
     }

@@ -76,10 +76,6 @@
         <translation>Kamera</translation>
     </message>
     <message>
-        <source>Keep the field of view under a name, or take one that was kept</source>
-        <translation>Den Bildwinkel unter einem Namen merken oder einen gemerkten nehmen</translation>
-    </message>
-    <message>
         <source>Lock</source>
         <translation>Sperren</translation>
     </message>
@@ -103,6 +99,10 @@
         <source>none</source>
         <translation>keine</translation>
     </message>
+    <message>
+        <source>Lens and field of view: load, keep under a name, or take one that was kept</source>
+        <translation>Objektiv und Sichtfeld: laden, unter einem Namen behalten oder ein behaltenes nehmen</translation>
+    </message>
 </context>
 <context>
     <name>AssessmentPanel</name>
@@ -117,10 +117,6 @@
 </context>
 <context>
     <name>CameraDialog</name>
-    <message>
-        <source>Cameras of pictures of this size</source>
-        <translation>Kameras für Bilder dieser Größe</translation>
-    </message>
     <message>
         <source>Take the field of view of %1</source>
         <translation>Den Bildwinkel von %1 nehmen</translation>
@@ -142,12 +138,68 @@
         <translation>Merken</translation>
     </message>
     <message>
-        <source>Keep the field of view under this name</source>
-        <translation>Den Bildwinkel unter diesem Namen merken</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Camera and lens</source>
+        <translation>Kamera und Objektiv</translation>
+    </message>
+    <message>
+        <source>Lens: %1. The picture is shown without its distortion.</source>
+        <translation>Objektiv: %1. Das Bild wird ohne seine Verzeichnung gezeigt.</translation>
+    </message>
+    <message>
+        <source>No lens: the picture is shown as it was taken.</source>
+        <translation>Kein Objektiv: Das Bild wird so gezeigt, wie es aufgenommen wurde.</translation>
+    </message>
+    <message>
+        <source>Load lens…</source>
+        <translation>Objektiv laden…</translation>
+    </message>
+    <message>
+        <source>Load a file of OpenCV&apos;s form, as calibration programs write it</source>
+        <translation>Eine Datei in der Form von OpenCV laden, wie Kalibrierprogramme sie schreiben</translation>
+    </message>
+    <message>
+        <source>From joints</source>
+        <translation>Aus Fugen</translation>
+    </message>
+    <message>
+        <source>Estimate the lens from three clicked joints</source>
+        <translation>Das Objektiv aus drei angeklickten Fugen schätzen</translation>
+    </message>
+    <message>
+        <source>Remove lens</source>
+        <translation>Ohne Objektiv</translation>
+    </message>
+    <message>
+        <source>Show the picture as it was taken</source>
+        <translation>Das Bild so zeigen, wie es aufgenommen wurde</translation>
+    </message>
+    <message>
+        <source>Shown</source>
+        <translation>Gezeigt</translation>
+    </message>
+    <message>
+        <source>full square</source>
+        <translation>volles Quadrat</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alles</translation>
+    </message>
+    <message>
+        <source>Kept for pictures of this size</source>
+        <translation>Behalten für Bilder dieser Größe</translation>
+    </message>
+    <message>
+        <source>Take the lens of %1</source>
+        <translation>Das Objektiv von %1 nehmen</translation>
+    </message>
+    <message>
+        <source>Keep lens or field of view under this name</source>
+        <translation>Objektiv oder Sichtfeld unter diesem Namen behalten</translation>
     </message>
 </context>
 <context>
@@ -554,6 +606,38 @@
     <message>
         <source>Camera %1</source>
         <translation>Kamera %1</translation>
+    </message>
+    <message>
+        <source>Kept: %1, with its lens.</source>
+        <translation>Behalten: %1, mit Objektiv.</translation>
+    </message>
+    <message>
+        <source>without a name</source>
+        <translation>ohne Namen</translation>
+    </message>
+    <message>
+        <source>View of the lens</source>
+        <translation>Ausschnitt des Objektivs</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objektiv</translation>
+    </message>
+    <message>
+        <source>The picture is shown without the distortion of %1.</source>
+        <translation>Das Bild wird ohne die Verzeichnung von %1 gezeigt.</translation>
+    </message>
+    <message>
+        <source>Lens from joints</source>
+        <translation>Objektiv aus Fugen</translation>
+    </message>
+    <message>
+        <source>The lens was estimated from the joints: k1 is %1, with a standard uncertainty of %2.</source>
+        <translation>Das Objektiv wurde aus den Fugen geschätzt: k1 ist %1, mit einer Standardunsicherheit von %2.</translation>
+    </message>
+    <message>
+        <source>Without a lens</source>
+        <translation>Ohne Objektiv</translation>
     </message>
 </context>
 <context>
@@ -1061,6 +1145,10 @@
         <source>Save as</source>
         <translation>Sichern unter</translation>
     </message>
+    <message>
+        <source>Load a lens</source>
+        <translation>Ein Objektiv laden</translation>
+    </message>
 </context>
 <context>
     <name>FilePicker</name>
@@ -1293,6 +1381,10 @@
     <message>
         <source>As the system&apos;s</source>
         <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>Camera and lens</source>
+        <translation>Kamera und Objektiv</translation>
     </message>
 </context>
 <context>

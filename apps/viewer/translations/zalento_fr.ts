@@ -76,10 +76,6 @@
         <translation>Caméra</translation>
     </message>
     <message>
-        <source>Keep the field of view under a name, or take one that was kept</source>
-        <translation>Garder l&apos;angle de vue sous un nom, ou en reprendre un</translation>
-    </message>
-    <message>
         <source>Lock</source>
         <translation>Bloquer</translation>
     </message>
@@ -103,6 +99,10 @@
         <source>none</source>
         <translation>aucun</translation>
     </message>
+    <message>
+        <source>Lens and field of view: load, keep under a name, or take one that was kept</source>
+        <translation>Objectif et champ de vision : charger, garder sous un nom ou reprendre</translation>
+    </message>
 </context>
 <context>
     <name>AssessmentPanel</name>
@@ -117,10 +117,6 @@
 </context>
 <context>
     <name>CameraDialog</name>
-    <message>
-        <source>Cameras of pictures of this size</source>
-        <translation>Caméras des images de cette taille</translation>
-    </message>
     <message>
         <source>Take the field of view of %1</source>
         <translation>Prendre l&apos;angle de vue de %1</translation>
@@ -142,12 +138,68 @@
         <translation>Garder</translation>
     </message>
     <message>
-        <source>Keep the field of view under this name</source>
-        <translation>Garder l&apos;angle de vue sous ce nom</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Camera and lens</source>
+        <translation>Caméra et objectif</translation>
+    </message>
+    <message>
+        <source>Lens: %1. The picture is shown without its distortion.</source>
+        <translation>Objectif : %1. L’image est montrée sans sa distorsion.</translation>
+    </message>
+    <message>
+        <source>No lens: the picture is shown as it was taken.</source>
+        <translation>Pas d’objectif : l’image est montrée telle qu’elle a été prise.</translation>
+    </message>
+    <message>
+        <source>Load lens…</source>
+        <translation>Charger…</translation>
+    </message>
+    <message>
+        <source>Load a file of OpenCV&apos;s form, as calibration programs write it</source>
+        <translation>Charger un fichier au format d’OpenCV, tel que l’écrivent les programmes d’étalonnage</translation>
+    </message>
+    <message>
+        <source>From joints</source>
+        <translation>D’après les joints</translation>
+    </message>
+    <message>
+        <source>Estimate the lens from three clicked joints</source>
+        <translation>Estimer l’objectif d’après trois joints cliqués</translation>
+    </message>
+    <message>
+        <source>Remove lens</source>
+        <translation>Sans objectif</translation>
+    </message>
+    <message>
+        <source>Show the picture as it was taken</source>
+        <translation>Montrer l’image telle qu’elle a été prise</translation>
+    </message>
+    <message>
+        <source>Shown</source>
+        <translation>Montré</translation>
+    </message>
+    <message>
+        <source>full square</source>
+        <translation>carré plein</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>tout</translation>
+    </message>
+    <message>
+        <source>Kept for pictures of this size</source>
+        <translation>Gardées pour les images de cette taille</translation>
+    </message>
+    <message>
+        <source>Take the lens of %1</source>
+        <translation>Prendre l’objectif de %1</translation>
+    </message>
+    <message>
+        <source>Keep lens or field of view under this name</source>
+        <translation>Garder l’objectif ou le champ de vision sous ce nom</translation>
     </message>
 </context>
 <context>
@@ -554,6 +606,38 @@
     <message>
         <source>Camera %1</source>
         <translation>Caméra %1</translation>
+    </message>
+    <message>
+        <source>Kept: %1, with its lens.</source>
+        <translation>Gardée : %1, avec son objectif.</translation>
+    </message>
+    <message>
+        <source>without a name</source>
+        <translation>sans nom</translation>
+    </message>
+    <message>
+        <source>View of the lens</source>
+        <translation>Vue de l’objectif</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objectif</translation>
+    </message>
+    <message>
+        <source>The picture is shown without the distortion of %1.</source>
+        <translation>L’image est montrée sans la distorsion de %1.</translation>
+    </message>
+    <message>
+        <source>Lens from joints</source>
+        <translation>Objectif d’après les joints</translation>
+    </message>
+    <message>
+        <source>The lens was estimated from the joints: k1 is %1, with a standard uncertainty of %2.</source>
+        <translation>L’objectif a été estimé d’après les joints : k1 vaut %1, avec une incertitude-type de %2.</translation>
+    </message>
+    <message>
+        <source>Without a lens</source>
+        <translation>Sans objectif</translation>
     </message>
 </context>
 <context>
@@ -1061,6 +1145,10 @@
         <source>Save as</source>
         <translation>Enregistrer sous</translation>
     </message>
+    <message>
+        <source>Load a lens</source>
+        <translation>Charger un objectif</translation>
+    </message>
 </context>
 <context>
     <name>FilePicker</name>
@@ -1293,6 +1381,10 @@
     <message>
         <source>As the system&apos;s</source>
         <translation>Celle du système</translation>
+    </message>
+    <message>
+        <source>Camera and lens</source>
+        <translation>Caméra et objectif</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 
 #include "measuring/SessionFile.h"
 #include "measuring/SessionFit.h"
+#include "support/PictureFiles.h"
 #include "support/TestCase.h"
 
 #include <QAccessible>
@@ -94,6 +95,7 @@ private slots:
     void jointsAlignTheModel();
     void jointClicksAreTakenByKeys();
     void nextPictureTakesTheCamera();
+    void lensIsTakenOutOfThePicture();
     void valuesAreAssessed();
 };
 
@@ -921,6 +923,57 @@ void TestViewer::nextPictureTakesTheCamera()
     d.find("resetKey")->forceActiveFocus(); // which scrolls it into sight
     d.clickItem("resetKey");
     QVERIFY(d.editor.session()->rings.isEmpty());
+}
+
+void TestViewer::lensIsTakenOutOfThePicture()
+{
+    ViewerDriver d;
+    CameraProfiles *cameras = d.viewer.cameras();
+    d.documents.openPaths({d.copySample("dimension.jpg"), d.copySample("water.jpg")});
+    const QString file = d.folder.filePath("wide.yaml");
+    QVERIFY(writeBytes(file, "camera_name: wide\nimage_width: 768\nimage_height: 576\n"
+                             "camera_matrix: [700, 0, 383.5, 0, 700, 287.5, 0, 0, 1]\n"
+                             "distortion_coefficients: [-0.2, 0.02, 0, 0]\n"));
+    d.click(300, 200);
+    const Session asTaken = *d.editor.session();
+    const QImage taken = d.documents.picture();
+
+    cameras->loadLens(file);
+    if (!Measuring::loadLens(file)) {
+        QVERIFY(d.guidance.text().contains("no OpenCV"));
+        return;
+    }
+    const Session straight = *d.editor.session();
+    QCOMPARE(cameras->lensName(), QStringLiteral("wide"));
+    QVERIFY(d.documents.picture() != taken);
+    QVERIFY(straight.fovYDEG != asTaken.fovYDEG);
+    QVERIFY(straight.points.first().pixel != asTaken.points.first().pixel);
+    cameras->setShowsAll(true);
+    QVERIFY(d.editor.session()->fovYDEG > straight.fovYDEG);
+    d.editor.undo();
+    QVERIFY(*d.editor.session() == straight);
+    cameras->keep("pole");
+    QVERIFY(cameras->hasLens("pole"));
+
+    d.editor.undo();
+    QVERIFY(*d.editor.session() == asTaken);
+    QCOMPARE(d.documents.picture(), taken);
+    d.editor.redo();
+    d.documents.showNext(); // a picture of the same camera
+    QCOMPARE(cameras->lensName(), QStringLiteral("wide"));
+    cameras->removeLens();
+    QCOMPARE(
+        d.documents.picture(),
+        QImage(d.folder.filePath("water.jpg")).convertToFormat(d.documents.picture().format()));
+    cameras->apply("pole");
+    QCOMPARE(cameras->lensName(), QStringLiteral("pole"));
+
+    cameras->removeLens();
+    cameras->estimateLens();
+    QVERIFY2(d.guidance.text().contains("expected 3 joints"), qPrintable(d.guidance.text()));
+    cameras->loadLens(d.folder.filePath("none.yaml"));
+    QVERIFY2(d.guidance.text().contains("none.yaml"), qPrintable(d.guidance.text()));
+    cameras->remove("pole");
 }
 
 } // namespace Drevon::Zalento::Test
