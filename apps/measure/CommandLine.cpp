@@ -354,6 +354,12 @@ QString contradiction(const QCommandLineParser &parser, const CommandLine &comma
     return {};
 }
 
+QString kindProblem(const SessionOptions &options)
+{
+    const Outcome problem = options.kind ? options.misfit(infoOf(*options.kind)) : Outcome();
+    return problem ? problem->text() : QString();
+}
+
 QString readCommand(const QCommandLineParser &parser, CommandLine &command)
 {
     QString problem = readVerb(parser.positionalArguments(), command);
@@ -385,6 +391,9 @@ QString readCommand(const QCommandLineParser &parser, CommandLine &command)
     }
     command.session = *session;
     problem = readUnroll(parser, command);
+    if (problem.isEmpty()) {
+        problem = kindProblem(command.session);
+    }
     return problem.isEmpty() ? contradiction(parser, command) : problem;
 }
 

@@ -581,9 +581,6 @@ Result<SessionOptions> readSessionOptions(const QCommandLineParser &parser)
     readAlignmentClicks(parser, reader, options);
     readUncertainties(reader, options);
     reader.value("calibration");
-    if (options.kind) {
-        reader.note(options.misfit(infoOf(*options.kind)));
-    }
     return reader.problem() ? Result<SessionOptions>(*reader.problem())
                             : Result<SessionOptions>(options);
 }

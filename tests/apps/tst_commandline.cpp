@@ -85,7 +85,17 @@ void TestCommandLine::refusesWrongUsage_data()
     row("nothing to write", "measure --output out a", "--output needs something to write");
     row("no job", "measure --jobs 0 a", "--jobs: expected a whole number from 1 to 256");
     row("kinds of a picture", "kinds a.png", "kinds takes no pictures");
-    row("mouth too small", "measure --mouth 4.9 a", "--mouth: expected a number from 5 to 400");
+    row("lens and field of view", "measure --lens l.yaml --fov 60 a",
+        "both give the field of view");
+    row("lens twice", "measure --lens l.yaml --fit-lens a", "both give the lens");
+    row("view of a lens", "measure --lens-view half a", "--lens-view: expected square or all");
+    row("board of one number", "lens --board 9 --square 25 --output c a",
+        "--board: expected inner");
+    row("board without a size", "lens --board 9x6 --output c a", "--square: expected the side");
+    row("lens to nowhere", "lens --board 9x6 --square 25 a", "--output is missing");
+    row("lens of a kind", "lens --kind CrackWidth --board 9x6 --square 25 --output c a",
+        "lens takes no --kind");
+    row("board of a picture", "measure --board 9x6 a", "--board belongs to lens");
     row("crack that fits the view", "measure --kind CrackWidth --fit-fov a", "takes no --fit-fov");
     const auto clicks = [](const char *name, const char *option, const char *value,
                            const char *expected) {

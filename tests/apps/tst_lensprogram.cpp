@@ -272,8 +272,6 @@ void TestLensProgram::lensesAreTakenOut()
         ExitCode code;
         const char *message;
     } refusals[] = {
-        {{"--lens", "camera.yaml", "--fov", "60"}, WrongUsage, "both give the field of view"},
-        {{"--lens", "camera.yaml", "--fit-lens"}, WrongUsage, "both give the lens"},
         {{"--lens", "none.yaml"}, CannotReadOrWrite, "none.yaml: cannot be read"},
         {{"--fit-lens", "--no-session"}, SomeNotMeasured, "expected 3 joints with three clicks"},
     };

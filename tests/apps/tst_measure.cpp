@@ -168,6 +168,10 @@ void TestMeasure::answers_data()
         "nobody has set what the overlay shows");
     row("level clicked", "measure --click 12,24 w.png", AllMeasured, "waterLevel 50 %", "");
     row("limit", "measure --limit \">=90%\" w.png", AllMeasured, "%): below", "");
+    row("wall to its own scale",
+        "unroll --kind PipeDimension --diameter 300 --mm-per-pixel 5 --from 100 --to 300 --force "
+        "a.png",
+        AllMeasured, "", "wrote ");
     row("limit of another unit", "measure --limit \"<2 mm\" w.png", AllMeasured, "13 %",
         "the limit \"<2 mm\" is of another unit");
     row("level clicked beside the pipe", "measure --offset 2000 --click 9,24 w.png",
