@@ -5,7 +5,9 @@
 #include "measuring/Editing.h"
 #include "measuring/LensEstimate.h"
 #include "measuring/Limit.h"
+#include "measuring/Measurands.h"
 #include "measuring/Measurement.h"
+#include "measuring/OtherOverlays.h"
 #include "measuring/OverlayExport.h"
 #include "measuring/Picture.h"
 #include "measuring/PipeView.h"
@@ -60,12 +62,20 @@ QVector<QPointF> clicksOf(const Session &session, const SessionOptions &options)
     if (session.kind == Kind::WaterLevel) {
         clicks += options.clicks.value_or(QVector<QPointF>());
     }
-    for (const SessionPoint &point : session.points) {
-        if (!point.position) {
-            clicks += point.pixel;
+    for (const Measurand &measurand : measurandsOf(session)) {
+        for (const SessionPoint &point : measurand.points) {
+            if (!point.position) {
+                clicks += point.pixel;
+            }
         }
     }
     return clicks;
+}
+
+// What is said of one of several measurements begins with its name.
+QString namedText(const Session &session, const QString &text)
+{
+    return Problem{session.name, text}.text();
 }
 
 // What gives the value of a kind that is set by eye.
@@ -80,17 +90,30 @@ Problem missedWall(const QPointF &click)
     return {{}, QStringLiteral("the point %1 meets no wall of the pipe").arg(pointText(click))};
 }
 
+Problem unknownMeasurement(const Session &session, const QString &name)
+{
+    QStringList names;
+    for (const Measurand &measurand : measurandsOf(session)) {
+        names += QLatin1Char('"') + measurand.name + QLatin1Char('"');
+    }
+    const QString found = session.name.isEmpty() ? QStringLiteral("one without a name")
+                                                 : names.join(QStringLiteral(", "));
+    return {QStringLiteral("--measurement"),
+            QStringLiteral("there is no \"%1\" but %2; --kind adds one").arg(name, found)};
+}
+
 QStringList farPoint(const Session &session, const QString &name, const Vec3 &position)
 {
     const double depth = depthInDiameters(session, position);
     if (depth <= Cylinder::lengthInDiameters) {
         return {};
     }
-    return {QStringLiteral("%1 lies %2 diameters down the pipe, beyond the modelled %3: its ray "
-                           "hardly meets the wall")
-                .arg(name)
-                .arg(depth, 0, 'f', 1)
-                .arg(Cylinder::lengthInDiameters)};
+    return {namedText(session,
+                      QStringLiteral("%1 lies %2 diameters down the pipe, beyond the modelled %3: "
+                                     "its ray hardly meets the wall")
+                          .arg(name)
+                          .arg(depth, 0, 'f', 1)
+                          .arg(Cylinder::lengthInDiameters))};
 }
 
 // What is measured and written is what is drawn.
@@ -101,18 +124,19 @@ QStringList takeDrawnAngle(Session &session)
         return {};
     }
     session.angleDEG = drawnAngleDEG(session);
-    return {
-        QStringLiteral("an angle of %1 degrees is drawn as %2").arg(asked).arg(session.angleDEG)};
+    return {namedText(
+        session,
+        QStringLiteral("an angle of %1 degrees is drawn as %2").arg(asked).arg(session.angleDEG))};
 }
 
 // A session's points move with the plane on which they lie.
-void movePlane(const Session *start, const SessionOptions &options, Session &session)
+void movePlane(const Measurand &start, const SessionOptions &options, Session &session)
 {
-    if (!start || options.clicks || session.percentage == start->percentage) {
+    if (options.clicks || session.percentage == start.percentage) {
         return;
     }
     const double percentage = session.percentage;
-    session.percentage = start->percentage;
+    session.percentage = start.percentage;
     changePercentage(session, percentage);
 }
 
@@ -138,6 +162,22 @@ QStringList overriddenOptions(const AlignmentFit &fit, const SessionOptions &opt
                                "effect")
                     .arg(name);
         }
+    }
+    return warnings;
+}
+
+// Of points that were just placed. @param asked how many they were
+QStringList pointWarnings(const Session &session, int asked)
+{
+    QStringList warnings;
+    if (session.points.size() != asked) {
+        warnings += namedText(
+            session,
+            QStringLiteral("a point closed the outline, and a later one started a new outline"));
+    }
+    for (const int index : pointsBeyondModel(session)) {
+        warnings += farPoint(session, QStringLiteral("point %1").arg(index + 1),
+                             *session.points[index].position);
     }
     return warnings;
 }
@@ -168,9 +208,10 @@ QStringList lackingTrust(const QVector<Value> &values, const Session &session)
     QStringList warnings;
     for (const Value &value : values) {
         if (!value.uncertainty) {
-            warnings += QStringLiteral("%1 is so near to what cannot be measured that its "
-                                       "uncertainty has no number")
-                            .arg(value.name);
+            warnings += namedText(
+                session, QStringLiteral("%1 is so near to what cannot be measured that its "
+                                        "uncertainty has no number")
+                             .arg(value.name));
         }
     }
     const Result<Limit> limit = limitFromText(session.limit);
@@ -178,8 +219,9 @@ QStringList lackingTrust(const QVector<Value> &values, const Session &session)
         return v.unit == limit->unit;
     });
     if (!isHeld && !values.isEmpty()) {
-        warnings += QStringLiteral("the limit \"%1\" is of another unit than what is measured")
-                        .arg(session.limit);
+        warnings += namedText(
+            session, QStringLiteral("the limit \"%1\" is of another unit than what is measured")
+                         .arg(session.limit));
     }
     return warnings;
 }
@@ -225,7 +267,9 @@ struct Batch::Work
     bool isOtherPicture = false; // than the one of the session
     bool isMeasured = false;
     QVector<DrawnFile> drawn;
-    std::shared_ptr<ZaItem> item; // made and destroyed on the thread that runs the jobs
+    // Made and destroyed on the thread that runs the jobs.
+    std::shared_ptr<ZaItem> item;
+    std::shared_ptr<OtherOverlays> others;
 };
 
 Batch::Batch(const CommandLine &command, const std::optional<Session> &session, OrderedJobs &jobs)
@@ -359,19 +403,56 @@ Outcome Batch::measureSession(const Session *start, Work &work) const
 
 void Batch::tellValues(Work &work) const
 {
-    PictureValues &values = work.result.values;
-    values = pictureValues(values.picture, work.session, work.fit,
-                           m_command.drawsValues ? UncertaintyEffort::MonteCarlo
-                                                 : UncertaintyEffort::Checked);
+    PictureResult &result = work.result;
+    const bool isOne = !m_command.measurement.isEmpty();
+    const int atHand = measurandAtHand(work.session);
+    const int count = measurandsOf(work.session).size();
+    for (int number = isOne ? atHand : 0; number < (isOne ? atHand + 1 : count); ++number) {
+        const PictureValues values = valuesOf(withMeasurand(work.session, number), work);
+        if (number == atHand) {
+            result.values = values;
+        } else {
+            (number < atHand ? result.valuesBefore : result.valuesBehind) += values;
+        }
+    }
+}
+
+PictureValues Batch::valuesOf(const Session &session, Work &work) const
+{
+    PictureValues values = pictureValues(work.result.values.picture, session, work.fit,
+                                         m_command.drawsValues ? UncertaintyEffort::MonteCarlo
+                                                               : UncertaintyEffort::Checked);
     values.snap = work.snap;
     if (work.estimate) {
         values.lens->k1 = work.estimate->k1;
         values.lens->standardUncertainty = work.estimate->standardUncertainty;
     }
-    work.result.warnings += lackingTrust(values.values, work.session);
+    work.result.warnings += lackingTrust(values.values, session);
     if (values.status == Status::NotSet) {
-        values.message = neededOption(infoOf(work.session.kind));
+        values.message = neededOption(infoOf(session.kind));
     }
+    return values;
+}
+
+// One that is not there yet begins with its kind.
+Outcome Batch::takeMeasurement(Session &session, bool isFresh) const
+{
+    const QString &name = m_command.measurement;
+    if (name.isEmpty()) {
+        return {};
+    }
+    if (const std::optional<int> number = measurandNamed(session, name)) {
+        takeMeasurand(session, *number);
+        return {};
+    }
+    const std::optional<Kind> kind = m_command.session.kind;
+    if (!kind) {
+        return unknownMeasurement(session, name);
+    }
+    if (!isFresh) {
+        addMeasurand(session, *kind);
+    }
+    return renameMeasurand(session, measurandAtHand(session), name);
 }
 
 Outcome Batch::mergeSession(const Session *start, Work &work) const
@@ -383,9 +464,13 @@ Outcome Batch::mergeSession(const Session *start, Work &work) const
     if (const Outcome problem = options.takeLensFor(session)) {
         return problem;
     }
+    if (const Outcome problem = takeMeasurement(session, !start)) {
+        return problem;
+    }
+    const Measurand before = session;
     options.applyTo(session);
     if (work.isOtherPicture) {
-        session.repeats.clear();
+        forEachMeasurand(session, [](Session &measured) { measured.repeats.clear(); });
     }
     if (start) {
         session.picture.unknownFields = start->picture.unknownFields;
@@ -403,8 +488,9 @@ Outcome Batch::mergeSession(const Session *start, Work &work) const
             return problem;
         }
     }
-    work.result.warnings += takeDrawnAngle(session);
-    movePlane(start, options, session);
+    forEachMeasurand(
+        session, [&work](Session &measured) { work.result.warnings += takeDrawnAngle(measured); });
+    movePlane(before, options, session);
     return {};
 }
 
@@ -508,20 +594,17 @@ Outcome Batch::takeLaserScale(Work &work) const
 
 Outcome Batch::placeClicks(Work &work) const
 {
-    const int pointCount = work.session.points.size();
-    const QVector<QPointF> missed = placePoints(work.session);
-    if (!missed.isEmpty()) {
-        return missedWall(missed.first());
-    }
-    if (work.session.points.size() != pointCount) {
-        work.result.warnings +=
-            QStringLiteral("a point closed the outline, and a later one started a new outline");
-    }
-    for (const int index : pointsBeyondModel(work.session)) {
-        work.result.warnings += farPoint(work.session, QStringLiteral("point %1").arg(index + 1),
-                                         *work.session.points[index].position);
-    }
-    return {};
+    Outcome problem;
+    forEachMeasurand(work.session, [&](Session &session) {
+        const int pointCount = session.points.size();
+        const QVector<QPointF> missed = placePoints(session);
+        if (missed.isEmpty()) {
+            work.result.warnings += pointWarnings(session, pointCount);
+        } else if (!problem) {
+            problem = missedWall(missed.first()).in(session.name);
+        }
+    });
+    return problem;
 }
 
 Outcome Batch::takeWaterLevel(Work &work) const
@@ -556,7 +639,10 @@ void Batch::drawFiles(Work &work) const
 // for itself, away from the GUI thread, as they do for the scene graph.
 void Batch::drawOverlay(Work &work) const
 {
-    m_jobs.onCallersThread([&work] {
+    m_jobs.onCallersThread([&work, this] {
+        if (m_command.overlaysAll) {
+            work.others = std::make_shared<OtherOverlays>(work.session);
+        }
         work.item = std::make_shared<ZaItem>();
         showSession(work.session, *work.item);
     });
@@ -567,11 +653,11 @@ void Batch::drawOverlay(Work &work) const
     const QString &picture = work.result.values.picture;
     if (m_command.writesPng) {
         work.drawn.append({overlayPathOf(picture, m_command.outputFolder, QStringLiteral("png")),
-                           overlayPng(*work.item, work.picture.image)});
+                           overlayPng(*work.item, work.picture.image, work.others.get())});
     }
     if (m_command.writesSvg) {
         work.drawn.append({overlayPathOf(picture, m_command.outputFolder, QStringLiteral("svg")),
-                           overlaySvg(*work.item, work.picture.image.size())});
+                           overlaySvg(*work.item, work.picture.image.size(), work.others.get())});
     }
 }
 

@@ -22,9 +22,17 @@ namespace Drevon::Zalento::Apps {
 /** What came of one picture. */
 struct PictureResult
 {
-    PictureValues values;
+    PictureValues values;                ///< of the measurement at hand
+    QVector<PictureValues> valuesBefore; ///< of the session's others, where they are asked for
+    QVector<PictureValues> valuesBehind;
     QStringList warnings;          ///< for people
     QVector<Problem> fileProblems; ///< files that could not be read or written, beside the picture
+
+    /** Of every measurement that was asked for, in the session's order. */
+    QVector<PictureValues> all() const
+    {
+        return valuesBefore + QVector<PictureValues>{values} + valuesBehind;
+    }
 };
 
 /**
@@ -59,6 +67,7 @@ private:
     Outcome mergeSession(const Session *start, Work &work) const;
     Outcome takeEstimatedLens(Work &work) const;
     Outcome undistortPicture(Work &work) const;
+    Outcome takeMeasurement(Session &session, bool isFresh) const;
     Outcome fitToClicks(Work &work) const;
     Outcome fitAlignment(const Session *start, Work &work) const;
     void snap(Work &work) const;
@@ -66,6 +75,7 @@ private:
     Outcome placeClicks(Work &work) const;
     Outcome takeWaterLevel(Work &work) const;
     void tellValues(Work &work) const;
+    PictureValues valuesOf(const Session &session, Work &work) const;
     void drawFiles(Work &work) const;
     void drawOverlay(Work &work) const;
     void drawMap(Work &work) const;

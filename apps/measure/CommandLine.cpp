@@ -35,10 +35,17 @@ void addOptions(QCommandLineParser &parser)
     addFlag(parser, "no-session", "Does not read the session beside a picture.");
     addFlag(parser, "save-session",
             "Writes <picture>.zalento.json beside the picture or into the output folder.");
+    addValue(
+        parser, "measurement",
+        "Of several measurements of a session the one to measure; with --kind it is added when "
+        "there is none of that name.",
+        "NAME");
     addFlag(parser, "recursive", "Takes all pictures in folders and their folders.");
     addValue(parser, "format", "Of the values: text (default), json, jsonl or csv.", "NAME");
     addValue(parser, "overlay", "Writes <stem>.overlay.png, <stem>.overlay.svg: png, svg or both.",
              "NAME");
+    addFlag(parser, "overlay-all",
+            "The overlay shows every measurement of a session, each with its name.");
     addValue(parser, "map",
              "Writes <stem>.map.png, what a pixel is worth on the wall: scale or uncertainty.",
              "NAME");
@@ -197,8 +204,8 @@ QString readJobs(const QCommandLineParser &parser, CommandLine &command)
 // Every value option but --click means one thing.
 QString repeatedOption(const QCommandLineParser &parser)
 {
-    for (const char *name : {"session", "format", "overlay", "map", "from", "to", "board", "square",
-                             "name", "output", "jobs"}) {
+    for (const char *name : {"session", "measurement", "format", "overlay", "map", "from", "to",
+                             "board", "square", "name", "output", "jobs"}) {
         if (parser.values(QLatin1String(name)).size() > 1) {
             return QStringLiteral("--%1 is given more than once").arg(QLatin1String(name));
         }
@@ -215,6 +222,8 @@ void readFlagsAndFiles(const QCommandLineParser &parser, CommandLine &command)
     command.drawsValues = parser.isSet(QStringLiteral("monte-carlo"));
     command.overwrites = parser.isSet(QStringLiteral("force"));
     command.sessionFile = parser.value(QStringLiteral("session"));
+    command.measurement = parser.value(QStringLiteral("measurement"));
+    command.overlaysAll = parser.isSet(QStringLiteral("overlay-all"));
     command.calibrationFile = parser.value(QStringLiteral("calibration"));
     command.lensFile = parser.value(QStringLiteral("lens"));
     command.outputFolder = parser.value(QStringLiteral("output"));
@@ -312,7 +321,7 @@ QString readLensCommand(const QCommandLineParser &parser, CommandLine &command)
 
 QString emptyValue(const QCommandLineParser &parser)
 {
-    for (const char *name : {"session", "calibration", "lens", "output"}) {
+    for (const char *name : {"session", "measurement", "calibration", "lens", "output"}) {
         if (parser.isSet(QLatin1String(name)) && parser.value(QLatin1String(name)).isEmpty()) {
             return QStringLiteral("--%1 is empty").arg(QLatin1String(name));
         }
@@ -344,6 +353,9 @@ QString contradiction(const QCommandLineParser &parser, const CommandLine &comma
         return QStringLiteral("%1 prints no values: it takes no --format")
             .arg(command.verb == Verb::Render ? QStringLiteral("render")
                                               : QStringLiteral("unroll"));
+    }
+    if (command.overlaysAll && !command.writesPng && !command.writesSvg) {
+        return QStringLiteral("--overlay-all needs --overlay");
     }
     const bool writes = command.verb == Verb::Unroll || command.writesPng || command.writesSvg ||
                         command.map || command.savesSession;

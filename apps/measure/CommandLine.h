@@ -38,6 +38,8 @@ struct CommandLine
     bool recursive = false;
     QString sessionFile;          ///< for every picture; empty: the session beside each
     bool ignoresSessions = false; ///< also those beside the pictures
+    QString
+        measurement; ///< name of the one that is meant; empty: all, and options change the chosen
     QString calibrationFile;
     QString lensFile;
     SessionOptions session;
@@ -46,6 +48,7 @@ struct CommandLine
     bool drawsValues = false; ///< Monte Carlo for every uncertainty
     bool writesPng = false;
     bool writesSvg = false;
+    bool overlaysAll = false; ///< every measurement, with its name
     std::optional<MapQuantity> map;
     std::optional<double> unrollMMPerPixel; ///< of the flat picture
     std::optional<double> unrollFromMM;

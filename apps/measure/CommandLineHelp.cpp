@@ -27,6 +27,8 @@ Pictures:
   A PICTURE is measured with the session beside it (<picture>.zalento.json) when there is one; the
   options change what the session says. A SESSION names its picture. A FOLDER needs --recursive.
   With - the names stand on the standard input, one a line.
+  A session can hold several measurements, each with its name: all are measured, --measurement takes
+  one. Options of a measurement change that one, else the one that was chosen last in the session.
 
 )";
 

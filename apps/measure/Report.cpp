@@ -11,23 +11,29 @@ QString decisionOf(const Value &value)
                      : QString();
 }
 
+QByteArray alignmentLine(const PictureValues &result)
+{
+    if (!result.alignment || !result.alignment->fit) {
+        return {};
+    }
+    return QStringLiteral("%1: alignment %2\n")
+        .arg(result.picture, fitText(*result.alignment))
+        .toUtf8();
+}
+
 QByteArray textLines(const PictureValues &result)
 {
-    QByteArray lines;
-    if (result.alignment && result.alignment->fit) {
-        lines += QStringLiteral("%1: alignment %2\n")
-                     .arg(result.picture, fitText(*result.alignment))
-                     .toUtf8();
-    }
+    const QString place = result.place();
     if (result.values.isEmpty()) {
-        return lines + QStringLiteral("%1: %2: %3\n")
-                           .arg(result.picture, statusName(result.status), result.message)
-                           .toUtf8();
+        return QStringLiteral("%1: %2: %3\n")
+            .arg(place, statusName(result.status), result.message)
+            .toUtf8();
     }
+    QByteArray lines;
     for (const Value &value : result.values) {
         lines += QStringLiteral("%1: %2 %3 (%4 %5)%6\n")
-                     .arg(result.picture, value.name, value.fullText(), numberText(value.number),
-                          value.unit, decisionOf(value))
+                     .arg(place, value.name, value.fullText(), numberText(value.number), value.unit,
+                          decisionOf(value))
                      .toUtf8();
     }
     return lines;
@@ -47,11 +53,20 @@ QByteArray Report::start() const
     }
 }
 
-QByteArray Report::result(const PictureValues &result, int number) const
+QByteArray Report::result(const QVector<PictureValues> &results, int number) const
+{
+    QByteArray text = m_format == Format::Text ? alignmentLine(results.first()) : QByteArray();
+    for (int i = 0; i < results.size(); ++i) {
+        text += measurement(results[i], number == 0 && i == 0);
+    }
+    return text;
+}
+
+QByteArray Report::measurement(const PictureValues &result, bool isFirst) const
 {
     switch (m_format) {
     case Format::Json:
-        return (number == 0 ? "\n  " : ",\n  ") + valuesJson(result).toLines("  ");
+        return (isFirst ? "\n  " : ",\n  ") + valuesJson(result).toLines("  ");
     case Format::JsonLines:
         return valuesJson(result).toLine() + "\n";
     case Format::Csv:

@@ -9,8 +9,8 @@
 namespace Drevon::Zalento::Apps {
 
 /**
- * Turns results into UTF-8 text of a format. A document is start(), then result() for each with a
- * running number from 0, then end().
+ * Turns results into UTF-8 text of a format. A document is start(), then result() for each picture
+ * with a running number from 0, then end().
  */
 class Report
 {
@@ -20,10 +20,13 @@ public:
     {}
 
     QByteArray start() const;
-    QByteArray result(const PictureValues &result, int number) const;
+    /** @param results of the picture's measurements, at least one */
+    QByteArray result(const QVector<PictureValues> &results, int number) const;
     QByteArray end(int count) const;
 
 private:
+    QByteArray measurement(const PictureValues &result, bool isFirst) const;
+
     Format m_format;
 };
 

@@ -170,31 +170,44 @@ void warnWithoutFonts(const CommandLine &command, Console &console)
     }
 }
 
-void tell(const PictureResult &result, bool isRender, Console &console)
+void tellFiles(const PictureResult &result, Console &console)
 {
-    const PictureValues &values = result.values;
     for (const QString &warning : result.warnings) {
-        console.say(QStringLiteral("%1: warning: %2").arg(values.picture, warning));
+        console.say(QStringLiteral("%1: warning: %2").arg(result.values.picture, warning));
     }
-    for (const QString &path : values.written) {
+    for (const QString &path : result.values.written) {
         console.say(QStringLiteral("wrote %1").arg(path));
     }
-    bool isTold = false;
     for (const Problem &problem : result.fileProblems) {
         console.fail(CannotReadOrWrite, problem.text());
-        isTold |= problem.textAfter(values.picture) == values.message;
     }
+}
+
+void tellMeasurement(const PictureValues &values, const PictureResult &result, bool isRender,
+                     Console &console)
+{
     const bool isDrawn =
         isRender && values.status != Status::Failed && values.status != Status::NotMeasured;
-    const bool isDone = values.status == Status::Measured || isDrawn;
-    if (isDone) {
+    if (values.status == Status::Measured || isDrawn) {
         const bool isRefused = values.snap && !values.snap->reason.isEmpty();
         console.note(isRefused ? SomeNotMeasured : AllMeasured);
         return;
     }
     console.note(SomeNotMeasured);
-    if (!isTold) {
-        console.say(Problem{values.picture, values.message}.text());
+    const auto tellsIt = [&values](const Problem &problem) {
+        return problem.textAfter(values.picture) == values.message;
+    };
+    const QVector<Problem> &told = result.fileProblems;
+    if (std::none_of(told.begin(), told.end(), tellsIt)) {
+        console.say(Problem{values.place(), values.message}.text());
+    }
+}
+
+void tell(const PictureResult &result, bool isRender, Console &console)
+{
+    tellFiles(result, console);
+    for (const PictureValues &values : result.all()) {
+        tellMeasurement(values, result, isRender, console);
     }
 }
 
@@ -212,7 +225,7 @@ void measureAll(const CommandLine &command, const std::optional<Session> &sessio
         const PictureResult result = batch.finish(std::move(works[number]));
         tell(result, isRender, console);
         if (!isRender) {
-            console.print(report.result(result.values, number));
+            console.print(report.result(result.all(), number));
         }
         console.showProgress(number + 1, count);
     };

@@ -1,5 +1,6 @@
 #include "measuring/Editing.h"
 
+#include "measuring/Measurands.h"
 #include "measuring/PipeView.h"
 #include "measuring/Text.h"
 
@@ -55,6 +56,24 @@ ClickResult clickOn(PipeView &view, Session &session, const QPointF &pixel)
     }
     session.points.append({pixel, pipe.hitPoints.back().position, {}});
     return isRestarted ? ClickResult::Restarted : ClickResult::Added;
+}
+
+void pickPointsAtHand(Session &session)
+{
+    const bool isClosed = isClosedOutline(session);
+    const PipeView view(session);
+    for (SessionPoint &point : session.points) {
+        // A point of a file that tells its position alone was clicked nowhere.
+        const std::optional<Vec3> position =
+            point.pixel.isNull() ? std::nullopt : view.pick(point.pixel);
+        if (position) {
+            point.position = position;
+        }
+    }
+    if (isClosed) {
+        session.points.last().pixel = session.points.first().pixel;
+        session.points.last().position = session.points.first().position;
+    }
 }
 
 // The pipe with the scale that the session's calibration text has for its diameter.
@@ -192,20 +211,7 @@ bool movePoint(Session &session, int index, const QPointF &pixel)
 
 void pickPointsAnew(Session &session)
 {
-    const bool isClosed = isClosedOutline(session);
-    const PipeView view(session);
-    for (SessionPoint &point : session.points) {
-        // A point of a file that tells its position alone was clicked nowhere.
-        const std::optional<Vec3> position =
-            point.pixel.isNull() ? std::nullopt : view.pick(point.pixel);
-        if (position) {
-            point.position = position;
-        }
-    }
-    if (isClosed) {
-        session.points.last().pixel = session.points.first().pixel;
-        session.points.last().position = session.points.first().position;
-    }
+    forEachMeasurand(session, pickPointsAtHand);
 }
 
 void changePercentage(Session &session, double percent)

@@ -11,8 +11,8 @@
 
 /**
  * @file
- * What an operator does to a session: functions of the session alone, without an item. Pixels are
- * those of the upright picture, whose size the session has to know.
+ * What an operator does to the measurand at hand of a session: functions of the session alone,
+ * without an item. Pixels are those of the upright picture, whose size the session has to know.
  */
 namespace Drevon::Zalento::Measuring {
 
@@ -70,8 +70,8 @@ ZALENTO_MEASURING_EXPORT double depthInDiameters(const Session &session, const V
 ZALENTO_MEASURING_EXPORT bool movePoint(Session &session, int index, const QPointF &pixel);
 
 /**
- * Looks the points up where they were clicked, for a session whose alignment has changed. One that
- * meets nothing there keeps its place on the model.
+ * Looks the points of all measurands up where they were clicked, for a session whose alignment has
+ * changed. One that meets nothing there keeps its place on the model.
  */
 ZALENTO_MEASURING_EXPORT void pickPointsAnew(Session &session);
 

@@ -60,6 +60,15 @@ void paintLegend(QPainter &painter, const QSize &picture, MapQuantity quantity)
     }
 }
 
+void paintOverlays(QPainter &painter, ZaItem &item, const OtherOverlays *others)
+{
+    if (others) {
+        others->paint(painter);
+    }
+    painter.translate(item.position());
+    item.paint(&painter);
+}
+
 } // namespace
 
 QString overlayPathOf(const QString &picturePath, const QString &folder, const QString &suffix)
@@ -84,24 +93,23 @@ QByteArray mapPng(const QImage &map, MapQuantity quantity, const QImage &picture
     return pngBytes(image);
 }
 
-QImage pictureWithOverlay(ZaItem &item, const QImage &picture)
+QImage pictureWithOverlay(ZaItem &item, const QImage &picture, const OtherOverlays *others)
 {
     QImage image = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(1.0);
     QPainter painter(&image);
-    painter.translate(item.position());
-    item.paint(&painter);
+    paintOverlays(painter, item, others);
     return image;
 }
 
-QByteArray overlayPng(ZaItem &item, const QImage &picture)
+QByteArray overlayPng(ZaItem &item, const QImage &picture, const OtherOverlays *others)
 {
-    const QImage image = pictureWithOverlay(item, picture);
+    const QImage image = pictureWithOverlay(item, picture, others);
     return pngBytes(picture.hasAlphaChannel() ? image
                                               : image.convertToFormat(QImage::Format_RGB32));
 }
 
-QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize)
+QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize, const OtherOverlays *others)
 {
     QBuffer buffer;
     QSvgGenerator generator;
@@ -111,8 +119,7 @@ QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize)
     generator.setSize(pictureSize);
     generator.setViewBox(QRect(QPoint(), pictureSize));
     QPainter painter(&generator);
-    painter.translate(item.position());
-    item.paint(&painter);
+    paintOverlays(painter, item, others);
     painter.end();
     return buffer.data();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "measuring/Export.h"
+#include "measuring/OtherOverlays.h"
 #include "measuring/OutputFile.h"
 #include "measuring/PlaceUncertainty.h"
 
@@ -24,13 +25,19 @@ ZALENTO_MEASURING_EXPORT QString mapPathOf(const QString &picturePath, const QSt
 ZALENTO_MEASURING_EXPORT QByteArray mapPng(const QImage &map, MapQuantity quantity,
                                            const QImage &picture);
 
-/** The picture with the item's overlay over it, pixel for pixel. */
-ZALENTO_MEASURING_EXPORT QImage pictureWithOverlay(ZaItem &item, const QImage &picture);
+/**
+ * The picture with the item's overlay over it, pixel for pixel.
+ * @param others below it; may be null
+ */
+ZALENTO_MEASURING_EXPORT QImage pictureWithOverlay(ZaItem &item, const QImage &picture,
+                                                   const OtherOverlays *others = nullptr);
 
 /** The same as a PNG file's bytes. */
-ZALENTO_MEASURING_EXPORT QByteArray overlayPng(ZaItem &item, const QImage &picture);
+ZALENTO_MEASURING_EXPORT QByteArray overlayPng(ZaItem &item, const QImage &picture,
+                                               const OtherOverlays *others = nullptr);
 
 /** The overlay alone, as vectors, in an SVG document of the picture's size. */
-ZALENTO_MEASURING_EXPORT QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize);
+ZALENTO_MEASURING_EXPORT QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize,
+                                               const OtherOverlays *others = nullptr);
 
 } // namespace Drevon::Zalento::Measuring

@@ -1,6 +1,7 @@
 #include "measuring/Session.h"
 
 #include "measuring/Limit.h"
+#include "measuring/Measurands.h"
 #include "measuring/Text.h"
 
 #include <algorithm>
@@ -17,6 +18,29 @@ constexpr double largestDiameterMM = 1e5;
 // Of gesture units: many diameters away from the picture.
 constexpr double largestShift = 1e5;
 constexpr double largestRollDEG = 3600.0;
+// Some lines of text.
+constexpr int largestNameLength = 100;
+
+struct MeasurandNumber
+{
+    const char *name;
+    double Measurand::*member;
+    double smallest;
+    double largest;
+};
+
+constexpr MeasurandNumber measurandNumbers[] = {
+    {"percentage", &Measurand::percentage, 0.0, 100.0},
+    {"angleDEG", &Measurand::angleDEG, 0.0, 180.0},
+};
+
+QVector<SessionNumber> withMeasurandNumbers(QVector<SessionNumber> numbers)
+{
+    for (const MeasurandNumber &number : measurandNumbers) {
+        numbers.append({number.name, number.member, number.smallest, number.largest});
+    }
+    return numbers;
+}
 
 template <typename Value>
 struct Choice
@@ -89,9 +113,14 @@ bool sameLines(const QVector<LineClicks> &a, const QVector<LineClicks> &b)
 
 auto choicesOf(const Session &s)
 {
-    return std::tie(s.kind, s.unit, s.rearCircleActive, s.clockDEG, s.viewDownstream, s.jointShown,
-                    s.isSet, s.viewStyle, s.calibrationText, s.mmPerPixel, s.fitsFov, s.limit,
-                    s.repeats, s.lens, s.schemaMinor);
+    return std::tie(s.unit, s.rearCircleActive, s.viewStyle, s.calibrationText, s.mmPerPixel,
+                    s.fitsFov, s.lens, s.schemaMinor);
+}
+
+auto fieldsOf(const Measurand &m)
+{
+    return std::tie(m.name, m.kind, m.percentage, m.angleDEG, m.clockDEG, m.viewDownstream,
+                    m.jointShown, m.isSet, m.repeats, m.limit, m.points, m.unknownMembers);
 }
 
 Outcome checkClicks(const QString &place, const QVector<QPointF> &points)
@@ -118,14 +147,13 @@ Outcome checkRing(const RingClicks &ring, int index)
     return checkClicks(place, ring.points);
 }
 
-Outcome checkPoint(const SessionPoint &point, int index)
+Outcome checkPoint(const SessionPoint &point, const QString &place)
 {
     const Vec3 position = point.position.value_or(Vec3());
     const double numbers[] = {point.pixel.x(), point.pixel.y(), position.x, position.y, position.z};
     for (const double number : numbers) {
         if (!std::isfinite(number)) {
-            return Problem{QStringLiteral("points[%1]").arg(index),
-                           Text::tr("expected finite numbers")};
+            return Problem{place, Text::tr("expected finite numbers")};
         }
     }
     return {};
@@ -157,10 +185,73 @@ Outcome checkSessionLens(const Lens &lens, const QSize &picture)
     return checkLens(lens);
 }
 
-Outcome checkLimit(const QString &text)
+Outcome checkLimit(const QString &text, const QString &prefix)
 {
     const Result<Limit> limit = text.isEmpty() ? Limit() : limitFromText(text);
-    return limit ? Outcome() : Outcome(limit.problem());
+    return limit ? Outcome()
+                 : Outcome(Problem{prefix + limit.problem().place, limit.problem().what});
+}
+
+// A name stands in lines and in cells of tables.
+Outcome checkName(const QString &name, bool mayBeEmpty, const QString &prefix)
+{
+    const bool isPrintable =
+        std::all_of(name.begin(), name.end(), [](QChar c) { return c.isPrint(); });
+    if (isPrintable && name.trimmed() == name && name.size() <= largestNameLength &&
+        (mayBeEmpty || !name.isEmpty())) {
+        return {};
+    }
+    return Problem{prefix + QStringLiteral("name"),
+                   Text::tr("expected a name of one line and at most %1 characters, found \"%2\"")
+                       .arg(largestNameLength)
+                       .arg(name)};
+}
+
+Outcome checkMeasurand(const Measurand &measurand, const QString &prefix)
+{
+    for (const MeasurandNumber &number : measurandNumbers) {
+        if (const Outcome problem =
+                checkNumber(prefix + QLatin1String(number.name), measurand.*number.member,
+                            number.smallest, number.largest)) {
+            return problem;
+        }
+    }
+    if (const Outcome problem = checkNumber(prefix + QStringLiteral("clockDEG"), measurand.clockDEG,
+                                            -largestClockDEG, largestClockDEG)) {
+        return problem;
+    }
+    if (const Outcome problem = checkLimit(measurand.limit, prefix)) {
+        return problem;
+    }
+    for (int i = 0; i < measurand.points.size(); ++i) {
+        if (const Outcome problem =
+                checkPoint(measurand.points[i], prefix + QStringLiteral("points[%1]").arg(i))) {
+            return problem;
+        }
+    }
+    return {};
+}
+
+// The first one's fields stand beside those of the picture.
+Outcome checkMeasurands(const QVector<Measurand> &measurands)
+{
+    QStringList names;
+    for (int i = 0; i < measurands.size(); ++i) {
+        const Measurand &measurand = measurands[i];
+        const QString prefix = i == 0 ? QString() : QStringLiteral("measurements[%1].").arg(i - 1);
+        if (const Outcome problem = checkMeasurand(measurand, prefix)) {
+            return problem;
+        }
+        if (const Outcome problem = checkName(measurand.name, measurands.size() == 1, prefix)) {
+            return problem;
+        }
+        if (names.contains(measurand.name)) {
+            return Problem{prefix + QStringLiteral("name"),
+                           Text::tr("another measurement is named \"%1\"").arg(measurand.name)};
+        }
+        names += measurand.name;
+    }
+    return {};
 }
 
 } // namespace
@@ -177,6 +268,11 @@ bool operator==(const SessionPoint &a, const SessionPoint &b)
            a.unknownFields == b.unknownFields;
 }
 
+bool operator==(const Measurand &a, const Measurand &b)
+{
+    return fieldsOf(a) == fieldsOf(b);
+}
+
 bool operator==(const Session &a, const Session &b)
 {
     for (const SessionNumber &number : sessionNumbers()) {
@@ -184,7 +280,8 @@ bool operator==(const Session &a, const Session &b)
             return false;
         }
     }
-    return choicesOf(a) == choicesOf(b) && a.picture == b.picture && a.points == b.points &&
+    return choicesOf(a) == choicesOf(b) && a.picture == b.picture && fieldsOf(a) == fieldsOf(b) &&
+           a.measurandsBefore == b.measurandsBefore && a.measurandsBehind == b.measurandsBehind &&
            sameRings(a.rings, b.rings) && sameLines(a.lines, b.lines) &&
            samePoints(a.laserSpots, b.laserSpots) &&
            a.standardUncertainties == b.standardUncertainties && a.unknownFields == b.unknownFields;
@@ -192,7 +289,7 @@ bool operator==(const Session &a, const Session &b)
 
 const QVector<SessionNumber> &sessionNumbers()
 {
-    static const QVector<SessionNumber> numbers{
+    static const QVector<SessionNumber> numbers = withMeasurandNumbers({
         {"diameterMM", &Session::diameterMM, smallestDiameterMM, largestDiameterMM},
         {"offset", &Session::offset, -largestShift, largestShift},
         {"rollDEG", &Session::rollDEG, -largestRollDEG, largestRollDEG},
@@ -201,9 +298,7 @@ const QVector<SessionNumber> &sessionNumbers()
         {"rearCircleX", &Session::rearCircleX, -largestShift, largestShift},
         {"rearCircleY", &Session::rearCircleY, -largestShift, largestShift},
         {"mouthPercent", &Session::mouthPercent, smallestMouthPercent, largestMouthPercent},
-        {"percentage", &Session::percentage, 0.0, 100.0},
-        {"angleDEG", &Session::angleDEG, 0.0, 180.0},
-    };
+    });
     return numbers;
 }
 
@@ -256,10 +351,6 @@ Outcome checkSession(const Session &session)
             return problem;
         }
     }
-    if (const Outcome problem = checkNumber(QStringLiteral("clockDEG"), session.clockDEG,
-                                            -largestClockDEG, largestClockDEG)) {
-        return problem;
-    }
     if (session.mmPerPixel) {
         if (const Outcome problem = checkNumber(QStringLiteral("mmPerPixel"), *session.mmPerPixel,
                                                 smallestMMPerPixel, largestMMPerPixel)) {
@@ -267,9 +358,6 @@ Outcome checkSession(const Session &session)
         }
     }
     if (const Outcome problem = checkStandardUncertainties(session.standardUncertainties)) {
-        return problem;
-    }
-    if (const Outcome problem = checkLimit(session.limit)) {
         return problem;
     }
     if (session.lens) {
@@ -293,12 +381,7 @@ Outcome checkSession(const Session &session)
             return problem;
         }
     }
-    for (int i = 0; i < session.points.size(); ++i) {
-        if (const Outcome problem = checkPoint(session.points[i], i)) {
-            return problem;
-        }
-    }
-    return {};
+    return checkMeasurands(measurandsOf(session));
 }
 
 } // namespace Drevon::Zalento::Measuring

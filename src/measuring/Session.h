@@ -53,19 +53,42 @@ struct SessionPoint
 
 ZALENTO_MEASURING_EXPORT bool operator==(const SessionPoint &a, const SessionPoint &b);
 
+/** What is to be measured: everything of a session that belongs to one measurement alone. */
+struct Measurand
+{
+    QString name; ///< for people, such as "crack A"; only that of a single one may be empty
+    Kind kind = Kind::PipeDimension;
+    double percentage = 0.0; ///< KindInfo::percentage says of what
+    double angleDEG = 90.0;  ///< of a branch, a bend or a joint
+    int clockDEG = 0;        ///< where a branch, a bend or a joint points, clockwise from the top
+    bool viewDownstream = true; ///< a bend is seen from the straight pipe
+    bool jointShown = false;    ///< in the kind BendAngle: a joint instead of a bend
+    /** Of a kind that is set by eye: the operator has set or confirmed its value. */
+    bool isSet = true;
+    /** Results of the same measurement that were kept before it was done again: numbers by the
+       names of the values. */
+    QVector<QMap<QString, double>> repeats;
+    QString limit; ///< that values are held against, such as "< 0.5 mm"; may be empty
+    QVector<SessionPoint> points;
+    QJsonObject unknownMembers; ///< of its object in a file's list of measurements; kept
+};
+
+ZALENTO_MEASURING_EXPORT bool operator==(const Measurand &a, const Measurand &b);
+
 /**
- * Everything that a measurement on a picture needs. A value: cheap to copy, so that a copy serves
- * as an undo step.
+ * Everything that measuring on a picture needs: the picture, how the pipe lies in it, and what is
+ * measured. The session is the measurand at hand, to which all that measures, draws or edits keeps;
+ * the others stand before and behind it, see Measurands.h. A value: cheap to copy, so that a copy
+ * serves as an undo step.
  *
  * Percentages are in percent (0 to 100), as ZaItem's setters take them; gesture units are those of
  * ZaItem::move(): 576 are one diameter.
  */
-struct Session
+struct Session : Measurand
 {
     PictureIdentity picture;
     /** Was taken out of the picture that is shown: all pixels here are of the undistorted one. */
     std::optional<Lens> lens;
-    Kind kind = Kind::PipeDimension;
     MeasureUnit unit = MeasureUnit::Metric; ///< of the texts; numbers stay metric
     double diameterMM = 300.0;              ///< nominal
     double offset = 0.0;                    ///< of the model to the left, in gesture units
@@ -78,14 +101,7 @@ struct Session
     double mouthPercent = 100.0; ///< drawing area over the picture's largest centred square
     QVector<RingClicks> rings;   ///< clicks that the alignment is fitted to
     QVector<LineClicks> lines;
-    bool fitsFov = false;    ///< the field of view is fitted, too, where the clicks give it
-    double percentage = 0.0; ///< KindInfo::percentage says of what
-    double angleDEG = 90.0;  ///< of a branch, a bend or a joint
-    int clockDEG = 0;        ///< where a branch, a bend or a joint points, clockwise from the top
-    bool viewDownstream = true; ///< a bend is seen from the straight pipe
-    bool jointShown = false;    ///< in the kind BendAngle: a joint instead of a bend
-    /** Of a kind that is set by eye: the operator has set or confirmed its value. */
-    bool isSet = true;
+    bool fitsFov = false; ///< the field of view is fitted, too, where the clicks give it
     ViewStyle viewStyle = ViewStyle::Full;
     QString calibrationText = QStringLiteral("LASER;;;50"); ///< see Pipe::parseIniFile()
     /** Millimetres per picture pixel; wins over what the calibration text gives. */
@@ -94,11 +110,8 @@ struct Session
      */
     QVector<QPointF> laserSpots;
     StandardUncertainties standardUncertainties;
-    /** Results of the same measurement that were kept before it was done again: numbers by the
-       names of the values. */
-    QVector<QMap<QString, double>> repeats;
-    QString limit; ///< that values are held against, such as "< 0.5 mm"; may be empty
-    QVector<SessionPoint> points;
+    QVector<Measurand> measurandsBefore; ///< the one at hand, in their order
+    QVector<Measurand> measurandsBehind;
     QJsonObject unknownFields; ///< of a file written by a later version; kept
     /** Minor version of the file that it goes into: ours, or the later one of the file it is from.
      */
@@ -120,7 +133,7 @@ struct SessionNumber
     double largest;
 };
 
-/** Every number that a session always has. */
+/** Every number that a session always has, the measurand's last. */
 ZALENTO_MEASURING_EXPORT const QVector<SessionNumber> &sessionNumbers();
 
 /** Limits of Session::mmPerPixel. */

@@ -1,5 +1,6 @@
 #include "measuring/SessionJson.h"
 
+#include "measuring/Measurands.h"
 #include "measuring/OrderedJson.h"
 #include "measuring/Text.h"
 
@@ -136,11 +137,14 @@ public:
         }
         if (!isExpected && !m_problem) {
             m_problem =
-                Problem{m_prefix + QLatin1String(name),
+                Problem{placeOf(name),
                         Text::tr("expected %1, found %2").arg(Text::tr(expected), typeName(value))};
         }
         return isExpected;
     }
+
+    /** The field with the place of its object, for problems. */
+    QString placeOf(const char *name) const { return m_prefix + QLatin1String(name); }
 
     QJsonValue take(const char *name) { return m_rest.take(QLatin1String(name)); }
 
@@ -289,28 +293,13 @@ SessionPoint pointFromJson(const QJsonObject &object, const QString &prefix, Out
     return point;
 }
 
-QByteArray pointsToJson(const QVector<SessionPoint> &points)
+QByteArray pointsToJson(const QVector<SessionPoint> &points, const QByteArray &indent)
 {
     QVector<QByteArray> lines;
     for (const SessionPoint &point : points) {
         lines += pointToJson(point);
     }
-    return jsonLines(lines, "  ");
-}
-
-QVector<SessionPoint> pointsFromJson(const QJsonArray &list, Outcome &problem)
-{
-    QVector<SessionPoint> points;
-    for (int i = 0; i < list.size() && !problem; ++i) {
-        const QString name = QStringLiteral("points[%1]").arg(i);
-        if (list[i].isObject()) {
-            points += pointFromJson(list[i].toObject(), name, problem);
-        } else {
-            problem =
-                Problem{name, Text::tr("expected an object, found %1").arg(typeName(list[i]))};
-        }
-    }
-    return points;
+    return jsonLines(lines, indent);
 }
 
 // Rings and lines
@@ -401,7 +390,7 @@ void readObjects(FieldReader &reader, const char *name, QVector<Element> &lists,
     }
     const QJsonArray list = value.toArray();
     for (int i = 0; i < list.size() && !problem; ++i) {
-        const QString place = QStringLiteral("%1[%2]").arg(QLatin1String(name)).arg(i);
+        const QString place = QStringLiteral("%1[%2]").arg(reader.placeOf(name)).arg(i);
         if (list[i].isObject()) {
             lists += read(list[i].toObject(), place, problem);
         } else {
@@ -437,7 +426,7 @@ void readStandardUncertainties(FieldReader &reader, Session &session, Outcome &p
     }
 }
 
-QByteArray repeatsToJson(const QVector<QMap<QString, double>> &repeats)
+QByteArray repeatsToJson(const QVector<QMap<QString, double>> &repeats, const QByteArray &indent)
 {
     QVector<QByteArray> texts;
     for (const QMap<QString, double> &result : repeats) {
@@ -447,7 +436,7 @@ QByteArray repeatsToJson(const QVector<QMap<QString, double>> &repeats)
         }
         texts += json.toLine();
     }
-    return jsonLines(texts, "  ");
+    return jsonLines(texts, indent);
 }
 
 QMap<QString, double> repeatFromJson(const QJsonObject &object, const QString &place,
@@ -496,27 +485,103 @@ void readSchema(FieldReader &reader, Session &session, Outcome &problem)
     session.schemaMinor = std::max(match.captured(2).toInt(), sessionSchemaMinor);
 }
 
+// Measurands
+
+const char *const measurandsName = "measurements";
+const char *const atHandName = "chosen";
+const QByteArray memberIndent("  ");
+const QByteArray measurandIndent("    "); // in the list
+const QByteArray measurandMemberIndent("      ");
+
+void readMeasurand(FieldReader &reader, Measurand &measurand, Outcome &problem)
+{
+    const QByteArray expectedKind =
+        Text::tr("one of %1").arg(kindNames().join(QStringLiteral(", "))).toUtf8();
+    reader.read("name", measurand.name);
+    reader.readChoice("kind", measurand.kind, kindNamed, expectedKind.constData());
+    reader.read("percentage", measurand.percentage);
+    reader.read("angleDEG", measurand.angleDEG);
+    reader.read("clockDEG", measurand.clockDEG);
+    reader.readChoice("direction", measurand.viewDownstream, directionNamed,
+                      QT_TRANSLATE_NOOP("Text", "\"downstream\" or \"upstream\""));
+    reader.read("jointShown", measurand.jointShown);
+    reader.read("isSet", measurand.isSet);
+    reader.read("limit", measurand.limit);
+    readObjects(reader, "repeats", measurand.repeats, repeatFromJson, problem);
+    readObjects(reader, "points", measurand.points, pointFromJson, problem);
+}
+
+Measurand measurandFromJson(const QJsonObject &object, const QString &place, Outcome &problem)
+{
+    Measurand measurand;
+    FieldReader reader(object, place + QLatin1Char('.'), problem);
+    readMeasurand(reader, measurand, problem);
+    measurand.unknownMembers = reader.rest();
+    return measurand;
+}
+
+QByteArray measurandToJson(const Measurand &measurand)
+{
+    OrderedJson json;
+    json.add(QStringLiteral("name"), measurand.name);
+    json.add(QStringLiteral("kind"), infoOf(measurand.kind).nameText());
+    json.add(QStringLiteral("percentage"), measurand.percentage);
+    json.add(QStringLiteral("angleDEG"), measurand.angleDEG);
+    json.add(QStringLiteral("clockDEG"), measurand.clockDEG);
+    json.add(QStringLiteral("direction"), directionName(measurand.viewDownstream));
+    json.add(QStringLiteral("jointShown"), measurand.jointShown);
+    json.add(QStringLiteral("isSet"), measurand.isSet);
+    json.add(QStringLiteral("limit"), measurand.limit);
+    json.add(QStringLiteral("repeats"), repeatsToJson(measurand.repeats, measurandMemberIndent));
+    json.add(QStringLiteral("points"), pointsToJson(measurand.points, measurandMemberIndent));
+    json.addAll(measurand.unknownMembers);
+    return json.toLines(measurandIndent);
+}
+
+// The first one's fields are the session's own, where programs find them that know but one.
+void readMeasurands(FieldReader &reader, Session &session, Outcome &problem)
+{
+    readMeasurand(reader, session, problem);
+    readObjects(reader, measurandsName, session.measurandsBehind, measurandFromJson, problem);
+    const QJsonValue chosen = reader.take(atHandName);
+    const std::optional<int> number = measurandNamed(session, chosen.toString());
+    if (reader.expect(atHandName, chosen, chosen.isString() && number,
+                      QT_TRANSLATE_NOOP("Text", "the name of a measurement"))) {
+        takeMeasurand(session, *number);
+    }
+}
+
+// A session of one is written as it was when there was but one.
+void addFurtherMeasurands(OrderedJson &json, const Session &session)
+{
+    const QVector<Measurand> measurands = measurandsOf(session);
+    if (!measurands.first().name.isEmpty()) {
+        json.add(QStringLiteral("name"), measurands.first().name);
+    }
+    if (measurandAtHand(session) > 0) {
+        json.add(QLatin1String(atHandName), session.name);
+    }
+    QVector<QByteArray> texts;
+    for (const Measurand &measurand : measurands.mid(1)) {
+        texts += measurandToJson(measurand);
+    }
+    if (!texts.isEmpty()) {
+        json.add(QLatin1String(measurandsName), jsonLines(texts, memberIndent));
+    }
+}
+
 // The rest
 
 void readChoices(FieldReader &reader, Session &session)
 {
-    const QByteArray expectedKind =
-        Text::tr("one of %1").arg(kindNames().join(QStringLiteral(", "))).toUtf8();
-    reader.readChoice("kind", session.kind, kindNamed, expectedKind.constData());
     reader.readChoice("unit", session.unit, unitNamed,
                       QT_TRANSLATE_NOOP("Text", "\"metric\" or \"imperial\""));
     reader.read("rearCircleActive", session.rearCircleActive);
-    reader.read("clockDEG", session.clockDEG);
-    reader.readChoice("direction", session.viewDownstream, directionNamed,
-                      QT_TRANSLATE_NOOP("Text", "\"downstream\" or \"upstream\""));
-    reader.read("jointShown", session.jointShown);
-    reader.read("isSet", session.isSet);
     reader.read("fitsFov", session.fitsFov);
     reader.readChoice("viewStyle", session.viewStyle, viewStyleNamed,
                       QT_TRANSLATE_NOOP("Text", "\"measure\", \"ends\" or \"full\""));
     reader.read("calibration", session.calibrationText);
     reader.read("mmPerPixel", session.mmPerPixel);
-    reader.read("limit", session.limit);
 }
 
 void addChoices(OrderedJson &json, const Session &session)
@@ -551,15 +616,11 @@ void readFields(FieldReader &reader, Session &session, Outcome &problem)
     for (const SessionNumber &number : sessionNumbers()) {
         reader.read(number.name, session.*number.member);
     }
-    const QJsonValue points = reader.take("points");
-    if (reader.expect("points", points, points.isArray(), QT_TRANSLATE_NOOP("Text", "a list"))) {
-        session.points = pointsFromJson(points.toArray(), problem);
-    }
     readObjects(reader, "rings", session.rings, ringFromJson, problem);
     readObjects(reader, "lines", session.lines, lineFromJson, problem);
     session.laserSpots = clicksFromJson(reader, "laserSpots", QString(), problem);
     readStandardUncertainties(reader, session, problem);
-    readObjects(reader, "repeats", session.repeats, repeatFromJson, problem);
+    readMeasurands(reader, session, problem);
     session.unknownFields = reader.rest();
 }
 
@@ -602,23 +663,25 @@ Result<Lens> lensFromJson(const QByteArray &json)
 
 QByteArray sessionToJson(const Session &session)
 {
+    const Session first = withMeasurand(session, 0);
     OrderedJson json;
     json.add(QStringLiteral("schema"), schemaText(session.schemaMinor));
     json.add(QStringLiteral("picture"), pictureToJson(session.picture));
     if (session.lens) {
         json.add(QStringLiteral("lens"), lensToJson(*session.lens));
     }
-    addChoices(json, session);
+    addChoices(json, first);
     for (const SessionNumber &number : sessionNumbers()) {
-        json.add(QLatin1String(number.name), session.*number.member);
+        json.add(QLatin1String(number.name), first.*number.member);
     }
     json.add(QStringLiteral("rings"), ringsToJson(session.rings));
     json.add(QStringLiteral("lines"), linesToJson(session.lines));
     json.add(QStringLiteral("fitsFov"), session.fitsFov);
     json.add(QStringLiteral("standardUncertainties"),
              standardUncertaintiesToJson(session.standardUncertainties));
-    json.add(QStringLiteral("repeats"), repeatsToJson(session.repeats));
-    json.add(QStringLiteral("points"), pointsToJson(session.points));
+    json.add(QStringLiteral("repeats"), repeatsToJson(first.repeats, memberIndent));
+    json.add(QStringLiteral("points"), pointsToJson(first.points, memberIndent));
+    addFurtherMeasurands(json, session);
     json.addAll(session.unknownFields);
     return json.toLines("") + "\n";
 }

@@ -40,6 +40,24 @@ Result<std::optional<LensMapping>> mappingOf(const std::optional<Lens> &lens)
                    : Result<std::optional<LensMapping>>(mapping.problem());
 }
 
+// Of all measurands.
+QVector<QPointF *> pointsOf(Session &session)
+{
+    QVector<Measurand *> measurands{&session};
+    for (QVector<Measurand> *others : {&session.measurandsBefore, &session.measurandsBehind}) {
+        for (Measurand &other : *others) {
+            measurands += &other;
+        }
+    }
+    QVector<QPointF *> pixels;
+    for (Measurand *measurand : measurands) {
+        for (SessionPoint &point : measurand->points) {
+            pixels += &point.pixel;
+        }
+    }
+    return pixels;
+}
+
 // Every place of the session in its picture.
 QVector<QPointF *> clicksOf(Session &session)
 {
@@ -54,13 +72,10 @@ QVector<QPointF *> clicksOf(Session &session)
             clicks += &point;
         }
     }
-    for (SessionPoint &point : session.points) {
-        clicks += &point.pixel;
-    }
     for (QPointF &spot : session.laserSpots) {
         clicks += &spot;
     }
-    return clicks;
+    return clicks + pointsOf(session);
 }
 
 Outcome moveClicks(Session &session, const PictureChange &change)

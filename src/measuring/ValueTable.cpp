@@ -1,6 +1,7 @@
 #include "measuring/ValueTable.h"
 
 #include "measuring/Editing.h"
+#include "measuring/Measurands.h"
 
 #include <QJsonArray>
 #include <QLocale>
@@ -240,6 +241,11 @@ QString statusName(Status status)
     return QStringLiteral("failed");
 }
 
+QString PictureValues::place() const
+{
+    return measurement.isEmpty() ? picture : Problem{picture, measurement}.text();
+}
+
 AlignmentSummary alignmentSummary(const Session &session, const std::optional<AlignmentFit> &fit)
 {
     return {alignmentOf(session), session.rings.size(), session.lines.size(), fit};
@@ -252,6 +258,7 @@ PictureValues pictureValues(const QString &picture, const Session &session,
     PictureValues result;
     result.picture = picture;
     result.identity = session.picture;
+    result.measurement = session.name;
     result.kind = session.kind;
     result.status = statusOf(measurement.state);
     result.values = measurement.values;
@@ -262,6 +269,18 @@ PictureValues pictureValues(const QString &picture, const Session &session,
     }
     result.message = measurement.note;
     return result;
+}
+
+QVector<PictureValues> allPictureValues(const QString &picture, const Session &session,
+                                        const std::optional<AlignmentFit> &fit,
+                                        UncertaintyEffort effort)
+{
+    QVector<PictureValues> all;
+    Session measured = session;
+    forEachMeasurand(measured, [&](const Session &atHand) {
+        all += pictureValues(picture, atHand, fit, effort);
+    });
+    return all;
 }
 
 QString fitText(const AlignmentSummary &summary)
@@ -302,7 +321,7 @@ QByteArray csvHeader()
 {
     return "picture,kind,status,name,number,unit,text,message,standardUncertainty,"
            "expandedUncertainty,coverageFactor,method,intervalLow,intervalHigh,"
-           "textWithUncertainty,decision,diameterMM,fovYDEG,mmPerPixel\r\n";
+           "textWithUncertainty,decision,diameterMM,fovYDEG,mmPerPixel,measurement\r\n";
 }
 
 QByteArray csvRecords(const PictureValues &picture)
@@ -310,14 +329,16 @@ QByteArray csvRecords(const PictureValues &picture)
     const QStringList common{picture.picture, kindName(picture), statusName(picture.status)};
     if (picture.values.isEmpty()) {
         return csvRecord(common + QStringList{{}, {}, {}, {}, picture.message} +
-                         uncertaintyFields(Value(), picture.inputs));
+                         uncertaintyFields(Value(), picture.inputs) +
+                         QStringList{picture.measurement});
     }
     QByteArray records;
     for (const Value &value : picture.values) {
-        records += csvRecord(common +
-                             QStringList{value.name, numberText(value.number), value.unit,
-                                         value.text, picture.message} +
-                             uncertaintyFields(value, picture.inputs));
+        records +=
+            csvRecord(common +
+                      QStringList{value.name, numberText(value.number), value.unit, value.text,
+                                  picture.message} +
+                      uncertaintyFields(value, picture.inputs) + QStringList{picture.measurement});
     }
     return records;
 }
@@ -330,6 +351,9 @@ OrderedJson valuesJson(const PictureValues &picture)
         json.add(QStringLiteral("size"),
                  QJsonArray{picture.identity.size.width(), picture.identity.size.height()});
         json.add(QStringLiteral("sha256"), QString::fromLatin1(picture.identity.sha256));
+    }
+    if (!picture.measurement.isEmpty()) {
+        json.add(QStringLiteral("measurement"), picture.measurement);
     }
     json.add(QStringLiteral("kind"), kindName(picture));
     json.add(QStringLiteral("status"), statusName(picture.status));
@@ -348,11 +372,11 @@ OrderedJson valuesJson(const PictureValues &picture)
     return json;
 }
 
-QByteArray jsonDocument(const QVector<PictureValues> &pictures)
+QByteArray jsonDocument(const QVector<PictureValues> &measurements)
 {
     QVector<QByteArray> objects;
-    for (const PictureValues &picture : pictures) {
-        objects += valuesJson(picture).toLines("  ");
+    for (const PictureValues &measurement : measurements) {
+        objects += valuesJson(measurement).toLines("  ");
     }
     return jsonLines(objects, "") + "\n";
 }

@@ -72,11 +72,12 @@ struct ValueInputs
     std::optional<double> mmPerPixel;
 };
 
-/** The values measured on one picture. */
+/** The values of one measurement on a picture. */
 struct PictureValues
 {
     QString picture; ///< its path as given
     PictureIdentity identity;
+    QString measurement;      ///< Measurand::name
     std::optional<Kind> kind; ///< nothing before it is known
     Status status = Status::Failed;
     QVector<Value> values;
@@ -86,16 +87,25 @@ struct PictureValues
     std::optional<SnapSummary> snap;           ///< nothing where nobody asked for it
     QString message;                           ///< why there is no value; else empty
     QStringList written;                       ///< files
+
+    /** "picture: measurement", or the picture alone where the measurement has no name. */
+    ZALENTO_MEASURING_EXPORT QString place() const;
 };
 
 /**
- * A session's values with everything that is told beside them.
+ * The values of a session's measurand at hand with everything that is told beside them.
  * @param picture its path as given
  * @param fit of the session's alignment, if it has one
  */
 ZALENTO_MEASURING_EXPORT PictureValues pictureValues(
     const QString &picture, const Session &session, const std::optional<AlignmentFit> &fit,
     UncertaintyEffort effort = UncertaintyEffort::Checked);
+
+/** The same for each of its measurands, in their order. */
+ZALENTO_MEASURING_EXPORT QVector<PictureValues>
+allPictureValues(const QString &picture, const Session &session,
+                 const std::optional<AlignmentFit> &fit,
+                 UncertaintyEffort effort = UncertaintyEffort::Checked);
 
 /** The first record of a table, with the names of its columns. */
 ZALENTO_MEASURING_EXPORT QByteArray csvHeader();
@@ -104,10 +114,10 @@ ZALENTO_MEASURING_EXPORT QByteArray csvRecords(const PictureValues &picture);
 /** One record of comma-separated values after RFC 4180: quoted where needed, ends with CR LF. */
 ZALENTO_MEASURING_EXPORT QByteArray csvRecord(const QStringList &fields);
 
-/** A picture's object in a JSON document of values. */
+/** The object of a measurement in a JSON document of values. */
 ZALENTO_MEASURING_EXPORT OrderedJson valuesJson(const PictureValues &picture);
-/** A whole document: an array with an object for each picture. */
-ZALENTO_MEASURING_EXPORT QByteArray jsonDocument(const QVector<PictureValues> &pictures);
+/** A whole document: an array with an object for each measurement. */
+ZALENTO_MEASURING_EXPORT QByteArray jsonDocument(const QVector<PictureValues> &measurements);
 
 /** The shortest text that reads back as the same number. */
 ZALENTO_MEASURING_EXPORT QString numberText(double number);

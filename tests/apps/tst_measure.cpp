@@ -1,6 +1,7 @@
 #include "RunProgram.h"
 #include "support/PictureFiles.h"
 
+#include "measuring/Measurands.h"
 #include "measuring/Measurement.h"
 #include "measuring/SessionFile.h"
 #include "measuring/ValueTable.h"
@@ -38,6 +39,23 @@ QByteArray withoutNumbers(const QByteArray &output)
     text.replace(value.fullText(), "TEXT");
     text.replace(QRegularExpression("\\[\\{\"source[^\\]]*\\]"), "BUDGET");
     return text.toUtf8();
+}
+
+// Two water levels, and a branch that nobody has set.
+Session threeMeasurands()
+{
+    Session session;
+    session.picture.path = QStringLiteral("three.png");
+    session.kind = Kind::WaterLevel;
+    session.name = QStringLiteral("low");
+    session.percentage = 20.0;
+    addMeasurand(session, Kind::BranchAngle);
+    const Outcome isRefused = renameMeasurand(session, 1, QStringLiteral("branch"));
+    addMeasurand(session, Kind::WaterLevel);
+    session.name = QStringLiteral("deep");
+    session.percentage = 80.0;
+    session.isSet = true;
+    return isRefused ? Session() : session;
 }
 
 } // namespace
@@ -92,10 +110,10 @@ void TestMeasure::printsEveryFormat_data()
         << "csv"
         << QByteArray("picture,kind,status,name,number,unit,text,message,standardUncertainty,"
                       "expandedUncertainty,coverageFactor,method,intervalLow,intervalHigh,"
-                      "textWithUncertainty,decision,diameterMM,fovYDEG,mmPerPixel\r\n"
+                      "textWithUncertainty,decision,diameterMM,fovYDEG,mmPerPixel,measurement\r\n"
                       "a.png,WaterLevel,measured,waterLevel,12.5,%,13 %,,SD,U2,2,first-order,,,"
-                      "TEXT,,300,37.5,\r\n"
-                      "none.png,,failed,,,,,there is no such file,,,,,,,,,,,\r\n");
+                      "TEXT,,300,37.5,,\r\n"
+                      "none.png,,failed,,,,,there is no such file,,,,,,,,,,,,\r\n");
     QTest::newRow("jsonl")
         << "jsonl"
         << QByteArray(
@@ -153,6 +171,19 @@ void TestMeasure::answers_data()
     row("session of all", "measure --session w.png.zalento.json a.png", AllMeasured, "13 %", "");
     row("overlay forced", "measure --overlay png --force w.png", AllMeasured, "13 %", "wrote ");
 
+    row("one of several", "measure --measurement deep three.zalento.json", AllMeasured,
+        "three.png: deep: waterLevel 80 %", "");
+    row("several", "measure --format csv three.zalento.json", SomeNotMeasured, ",80 %,",
+        "three.png: branch: needs --angle");
+    row("unknown measurement", "measure --measurement x three.zalento.json", SomeNotMeasured,
+        "failed", "there is no \"x\" but \"low\", \"branch\", \"deep\"; --kind adds one");
+    row("measurement added",
+        "measure --measurement x --kind WaterLevel --percentage 33 three.zalento.json", AllMeasured,
+        "three.png: x: waterLevel 33 %", "");
+
+    row("options change the chosen one", "measure --percentage 70 three.zalento.json",
+        SomeNotMeasured, "three.png: deep: waterLevel 70 %", "branch");
+
     row("session ignored", "measure --no-session w.png", SomeNotMeasured,
         "not measured: there is no session", "--kind is missing");
     row("nothing to draw", "render --no-session w.png", SomeNotMeasured, "", "--kind is missing");
@@ -194,6 +225,8 @@ void TestMeasure::answers_data()
     row("folder", "measure .", SomeNotMeasured, "failed", "is a folder: use --recursive");
     row("empty list", "measure -", SomeNotMeasured, "", "the list holds no picture");
 
+    row("overlay of all, of none", "measure --overlay-all w.png", WrongUsage, "",
+        "--overlay-all needs --overlay");
     row("wrong usage", "measure --save-session --output new --fov x w.png", WrongUsage, "",
         "--fov: expected a number");
 
@@ -227,6 +260,8 @@ void TestMeasure::answers()
     QVERIFY(!saveSession(session, path("w.png.zalento.json"), Overwrite::Refuse));
     session.rings = {{{}, {{1, 1}}}};
     QVERIFY(!saveSession(session, path("stray.zalento.json"), Overwrite::Refuse));
+    QVERIFY(!saveSession(threeMeasurands(), path("three.zalento.json"), Overwrite::Refuse));
+    QVERIFY(addPicture("three.png"));
     QVERIFY(addPicture("w.png") && addPicture("w.bmp", QSize(10, 10)));
     QVERIFY(writeBytes(path("bad.zalento.json"), "bad"));
     QVERIFY(writeBytes(path("w.overlay.png"), "mine"));
@@ -256,6 +291,14 @@ void TestMeasure::writesOverlays()
     QCOMPARE(overlay.pixelColor(0, 0), original.pixelColor(0, 0)); // the model leaves the corners
     QVERIFY(readBytes(path("out/x/a.overlay.svg")).contains("viewBox=\"0 0 64 48\""));
     QCOMPARE(readBytes(path("a.png")), before);
+
+    QVERIFY(addPicture("three.png"));
+    QVERIFY(!saveSession(threeMeasurands(), path("three.zalento.json"), Overwrite::Refuse));
+    const QStringList render{"render", "--overlay", "svg", "--force", "three.zalento.json"};
+    QCOMPARE(runProgram(render).code, int(AllMeasured));
+    QVERIFY(!readBytes(path("three.overlay.svg")).contains("low"));
+    QCOMPARE(runProgram(render + QStringList{"--overlay-all"}).code, int(AllMeasured));
+    QVERIFY(readBytes(path("three.overlay.svg")).contains("low"));
 }
 
 void TestMeasure::anotherPictureIsNotOverwritten()

@@ -18,15 +18,19 @@ namespace {
 
 const QSize smallPicture(48, 48);
 
-// Every field of the file is one that the program writes, or is kept as it is.
+// Every field of the file is one that the program writes, or is kept as it is. What says nothing is
+// left out: no laser spots, no name, no further measurement, the first one chosen.
 void checkNothingIsLost(const QJsonObject &read, const QJsonObject &written)
 {
     static const QJsonObject known = QJsonDocument::fromJson(sessionToJson(Session())).object();
+    static const QStringList leftOut{QStringLiteral("laserSpots"), QStringLiteral("name"),
+                                     QStringLiteral("measurements"), QStringLiteral("chosen")};
     for (auto field = read.begin(); field != read.end(); ++field) {
         const bool isOwn =
             known.contains(field.key()) || field.key() == QLatin1String("mmPerPixel");
-        FUZZ_VERIFY(isOwn ? written.contains(field.key())
-                          : written.value(field.key()) == field.value());
+        FUZZ_VERIFY(
+            leftOut.contains(field.key()) ||
+            (isOwn ? written.contains(field.key()) : written.value(field.key()) == field.value()));
     }
 }
 

@@ -60,6 +60,15 @@ Session fullSession()
     session.points = {
         {QPointF(1.0 / 7.0, 1e15 + 0.5), Vec3(-1.0 / 3.0, 5e-324, 1.7976931348623157e308), {}},
         {QPointF(12, 34), {}, {{QStringLiteral("label"), QJsonArray{1, 2}}}}};
+    session.name = QStringLiteral("crack \"Ä\"");
+    Measurand first;
+    first.name = QStringLiteral("water");
+    first.kind = Kind::WaterLevel;
+    Measurand last = session;
+    last.name = QStringLiteral("crack B");
+    last.unknownMembers = {{QStringLiteral("colour"), QStringLiteral("red")}};
+    session.measurandsBefore = {first};
+    session.measurandsBehind = {last};
     session.unknownFields = {{QStringLiteral("remark"), QJsonObject{{QStringLiteral("a"), 0.1}}}};
     session.schemaMinor = 7;
     return session;
@@ -81,6 +90,7 @@ private slots:
     void readsBackBitForBit();
     void refusesMalformed_data();
     void refusesMalformed();
+    void firstStandsWhereOneDid();
     void savesBesideThePicture();
     void refusedSaveKeepsTheOldFile();
     void readsCalibrationFiles_data();
@@ -165,6 +175,19 @@ void TestSession::refusesMalformed_data()
     row("point as a list", minimal("\"points\": [[1, 2]]"), "points[0]: expected an object");
     row("second point without x", minimal("\"points\": [{\"pixel\": [1, 2]}, {\"pixel\": [2]}]"),
         "points[1].pixel: expected a list of x and y");
+    row("measurement without a name", minimal("\"name\": \"a\", \"measurements\": [{}]"),
+        "measurements[0].name: expected a name of one line");
+    row("two of one name", minimal("\"name\": \"a\", \"measurements\": [{\"name\": \"a\"}]"),
+        "measurements[0].name: another measurement is named \"a\"");
+    row("point of the second that is nowhere",
+        minimal("\"name\": \"a\", \"measurements\": [{\"name\": \"b\", \"points\": [{}]}]"),
+        "measurements[0].points[0]: expected a pixel");
+    row("clock of the second",
+        minimal("\"name\": \"a\", \"measurements\": [{\"name\": \"b\", "
+                "\"clockDEG\": 4000}]"),
+        "measurements[0].clockDEG: expected a number from");
+    row("nobody chosen", minimal("\"name\": \"a\", \"chosen\": \"b\""),
+        "chosen: expected the name of a measurement, found the text \"b\"");
     row("point that is nowhere", minimal("\"points\": [{}]"), "points[0]: expected a pixel");
 }
 
@@ -175,6 +198,16 @@ void TestSession::refusesMalformed()
     const auto read = sessionFromJson(json);
     QVERIFY(!read);
     QVERIFY2(read.problem().text().contains(expected), qPrintable(read.problem().text()));
+}
+
+// A program that knows but one measurement shows the first, and keeps the others.
+void TestSession::firstStandsWhereOneDid()
+{
+    const QJsonObject file = QJsonDocument::fromJson(sessionToJson(fullSession())).object();
+    QCOMPARE(file.value("kind").toString(), "WaterLevel");
+    QVERIFY(file.value("points").toArray().isEmpty());
+    const QByteArray one = sessionToJson(Session());
+    QVERIFY(!one.contains("name") && !one.contains("chosen") && !one.contains("measurements"));
 }
 
 void TestSession::savesBesideThePicture()

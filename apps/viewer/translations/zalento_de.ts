@@ -1846,6 +1846,18 @@
         <source>this build has no OpenCV, which reads files of lenses</source>
         <translation>diese Fassung hat kein OpenCV, das Dateien von Objektiven liest</translation>
     </message>
+    <message>
+        <source>expected a name of one line and at most %1 characters, found &quot;%2&quot;</source>
+        <translation>erwartet wird ein Name aus einer Zeile und höchstens %1 Zeichen, gefunden wurde &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>another measurement is named &quot;%1&quot;</source>
+        <translation>eine andere Messung heißt &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the name of a measurement</source>
+        <translation>der Name einer Messung</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

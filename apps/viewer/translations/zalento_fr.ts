@@ -1846,6 +1846,18 @@
         <source>this build has no OpenCV, which reads files of lenses</source>
         <translation>cette version n’a pas OpenCV, qui lit les fichiers d’objectifs</translation>
     </message>
+    <message>
+        <source>expected a name of one line and at most %1 characters, found &quot;%2&quot;</source>
+        <translation>attendu : un nom d’une ligne et d’au plus %1 caractères, trouvé : &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>another measurement is named &quot;%1&quot;</source>
+        <translation>une autre mesure s’appelle &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the name of a measurement</source>
+        <translation>le nom d’une mesure</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

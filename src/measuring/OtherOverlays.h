@@ -1,0 +1,44 @@
+#pragma once
+
+#include "measuring/Export.h"
+#include "measuring/Session.h"
+
+#include "zalento/item/ZaItem.h"
+
+#include <QPainter>
+#include <QPointF>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace Drevon::Zalento::Measuring {
+
+/**
+ * What a session measures beside the measurand at hand, to be painted below its overlay; and the
+ * names of all. The pipe, which is common to all, is drawn by the one at hand alone.
+ */
+class ZALENTO_MEASURING_EXPORT OtherOverlays
+{
+public:
+    /** On the GUI thread. */
+    explicit OtherOverlays(const Session &session);
+
+    /** In picture pixels and the painter's font, which it gets back as it was. In any thread. */
+    void paint(QPainter &painter) const;
+
+private:
+    struct Name
+    {
+        QPointF pixel; ///< the middle of what it names
+        QString text;
+    };
+
+    static Name nameOf(const Session &session);
+    void paintName(QPainter &painter, const Name &name) const;
+
+    std::vector<std::unique_ptr<ZaItem>> m_items;
+    QVector<Name> m_names;
+};
+
+} // namespace Drevon::Zalento::Measuring
