@@ -2,6 +2,7 @@
 
 #include "measuring/Editing.h"
 #include "measuring/Kind.h"
+#include "measuring/Measurands.h"
 #include "measuring/SessionFile.h"
 #include "measuring/SessionFit.h"
 #include "measuring/SessionLens.h"
@@ -305,7 +306,10 @@ void DocumentList::fitAlignment(Document &document)
 
 void DocumentList::placePoints(Document &document)
 {
-    const int missed = Measuring::placePoints(*document.session).size();
+    int missed = 0;
+    Measuring::forEachMeasurand(*document.session, [&missed](Session &session) {
+        missed += Measuring::placePoints(session).size();
+    });
     if (missed > 0) {
         m_guidance.notice(
             Guidance::Warning,

@@ -44,10 +44,11 @@ Measuring::Result<Measuring::Session> savedSession(const Document &document)
 }
 
 // A picture that was only looked at, or not yet, has what is saved beside it, if anything is.
-Measuring::PictureValues valuesOf(const Document &document)
+QVector<Measuring::PictureValues> valuesOf(const Document &document)
 {
     const auto valuesOfSession = [&document](const Measuring::Session &measured) {
-        return Measuring::pictureValues(document.picturePath, measured, Measuring::fitOf(measured));
+        return Measuring::allPictureValues(document.picturePath, measured,
+                                           Measuring::fitOf(measured));
     };
     const bool isBegun = document.isModified() || document.sessionStamp.isValid();
     if (document.session && isBegun) {
@@ -66,32 +67,34 @@ Measuring::PictureValues valuesOf(const Document &document)
     } else {
         values.message = document.problem;
     }
-    return values;
+    return {values};
 }
 
 QVector<Measuring::PictureValues> valuesOfAll(DocumentList &documents)
 {
-    QVector<Measuring::PictureValues> pictures;
+    QVector<Measuring::PictureValues> values;
     for (int i = 0; i < documents.count(); ++i) {
-        pictures.append(valuesOf(documents.at(i)));
+        values += valuesOf(documents.at(i));
     }
-    return pictures;
+    return values;
 }
 
-QByteArray valuesAsCsv(const QVector<Measuring::PictureValues> &pictures)
+QByteArray valuesAsCsv(const QVector<Measuring::PictureValues> &measurements)
 {
     QByteArray table = Measuring::csvHeader();
-    for (const Measuring::PictureValues &picture : pictures) {
-        table += Measuring::csvRecords(picture);
+    for (const Measuring::PictureValues &measurement : measurements) {
+        table += Measuring::csvRecords(measurement);
     }
     return table;
 }
 
 } // namespace
 
-Exporter::Exporter(DocumentList &documents, MeasurementEditor &editor, Guidance &guidance)
+Exporter::Exporter(DocumentList &documents, MeasurementEditor &editor,
+                   const MeasurementModel &measurements, Guidance &guidance)
     : m_documents(documents)
     , m_editor(editor)
+    , m_measurements(measurements)
     , m_guidance(guidance)
 {}
 
@@ -250,10 +253,12 @@ bool Exporter::exportWall(const QString &path)
 QByteArray Exporter::exported(const QString &what) const
 {
     if (what == png) {
-        return Measuring::overlayPng(*m_editor.item(), m_documents.picture());
+        return Measuring::overlayPng(*m_editor.item(), m_documents.picture(),
+                                     m_measurements.others());
     }
     if (what == svg) {
-        return Measuring::overlaySvg(*m_editor.item(), m_documents.pictureSize());
+        return Measuring::overlaySvg(*m_editor.item(), m_documents.pictureSize(),
+                                     m_measurements.others());
     }
     const auto values = valuesOfAll(m_documents);
     return what == csv ? valuesAsCsv(values) : Measuring::jsonDocument(values);

@@ -2,6 +2,7 @@
 
 #include "DocumentList.h"
 #include "MeasurementEditor.h"
+#include "MeasurementModel.h"
 
 #include <QObject>
 #include <QString>
@@ -14,7 +15,8 @@ class Exporter : public QObject
     Q_OBJECT
 
 public:
-    Exporter(DocumentList &documents, MeasurementEditor &editor, Guidance &guidance);
+    Exporter(DocumentList &documents, MeasurementEditor &editor,
+             const MeasurementModel &measurements, Guidance &guidance);
 
     /** Saves beside the picture; sends confirmationNeeded() first where something may be lost. */
     Q_INVOKABLE bool save();
@@ -44,6 +46,7 @@ private:
 
     DocumentList &m_documents;
     MeasurementEditor &m_editor;
+    const MeasurementModel &m_measurements;
     Guidance &m_guidance;
 };
 

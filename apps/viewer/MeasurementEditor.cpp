@@ -3,6 +3,7 @@
 
 #include "measuring/CalibrationFile.h"
 #include "measuring/Editing.h"
+#include "measuring/Measurands.h"
 #include "measuring/PipeView.h"
 #include "measuring/Repeats.h"
 #include "measuring/Replay.h"
@@ -136,6 +137,9 @@ void MeasurementEditor::showCurrent()
 void MeasurementEditor::show(Session session)
 {
     fit(session);
+    if (session.name != sessionCopy().name) {
+        selectPoint(-1);
+    }
     m_documents.current()->session = session;
     m_documents.showLens();
     if (isReady()) {
@@ -338,6 +342,12 @@ void MeasurementEditor::change(const QString &name, const Session &session, Move
     finishGesture(name, mergeNumber);
 }
 
+void MeasurementEditor::changeMeasurement(const QString &name, const Session &session)
+{
+    expectLaserSpots(0, {});
+    change(name, session, Moves::Nothing);
+}
+
 // The host's active record has changed.
 void MeasurementEditor::takeItemDiameter()
 {
@@ -356,10 +366,9 @@ void MeasurementEditor::chooseKind(const QString &name)
     if (!isReady() || !kind || session()->kind == *kind) {
         return;
     }
-    expectLaserSpots(0, {});
     Session session = sessionCopy();
-    Measuring::startKind(session, *kind);
-    change(Measuring::translated(infoOf(*kind).title), session, Moves::Nothing);
+    Measuring::changeKind(session, *kind);
+    changeMeasurement(Measuring::translated(infoOf(*kind).title), session);
 }
 
 void MeasurementEditor::chooseKindAt(int row)

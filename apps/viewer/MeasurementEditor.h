@@ -175,6 +175,7 @@ public:
 
     /** @name Steps */
     /** @{ */
+    /** Measures another kind; what is measured already stays beside it. */
     Q_INVOKABLE void chooseKind(const QString &kind);
     /** The kind of this row of the list of kinds. */
     Q_INVOKABLE void chooseKindAt(int row);
@@ -205,6 +206,9 @@ public:
     /** @return what is wrong with the distance; empty when it was taken */
     Q_INVOKABLE QString setFeatureDistance(int row, const QString &mm);
     /** @} */
+
+    /** Makes a session with another measurement at hand, or another name, the one on view. */
+    void changeMeasurement(const QString &name, const Measuring::Session &session);
 
     /** Whether points have to be looked up anew. */
     enum class Moves { Nothing, Model };

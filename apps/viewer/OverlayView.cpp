@@ -31,6 +31,17 @@ void OverlayView::setItem(ZaItem *item)
     Q_EMIT itemChanged();
 }
 
+void OverlayView::setMeasurements(MeasurementModel *measurements)
+{
+    if (measurements == m_measurements) {
+        return;
+    }
+    m_measurements = measurements;
+    connect(measurements, &MeasurementModel::othersChanged, this, [this] { update(); });
+    update();
+    Q_EMIT measurementsChanged();
+}
+
 void OverlayView::setOrigin(const QPointF &origin)
 {
     if (origin == m_origin) {
@@ -82,14 +93,22 @@ void OverlayView::paint(QPainter *painter)
     paintPicture(*painter);
     if (m_item && m_isOverlayShown) {
         painter->save();
-        QFont font = painter->font();
-        font.setPixelSize(std::max(1, static_cast<int>(std::lround(m_labelPx / contentsScale()))));
-        painter->setFont(font);
-        painter->translate(m_item->position());
-        m_item->paint(painter);
+        paintOverlays(*painter);
         painter->restore();
     }
     paintMarks(*painter);
+}
+
+void OverlayView::paintOverlays(QPainter &painter) const
+{
+    QFont font = painter.font();
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(m_labelPx / contentsScale()))));
+    painter.setFont(font);
+    if (m_measurements && m_measurements->others()) {
+        m_measurements->others()->paint(painter);
+    }
+    painter.translate(m_item->position());
+    m_item->paint(&painter);
 }
 
 void OverlayView::paintPicture(QPainter &painter) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MeasurementModel.h"
+
 #include <zalento/item/ZaItem.h>
 
 #include <QImage>
@@ -23,6 +25,9 @@ class OverlayView : public QQuickPaintedItem
 
     /** The item whose overlay is shown; it may be invisible. */
     Q_PROPERTY(Drevon::Zalento::ZaItem *item READ item WRITE setItem NOTIFY itemChanged)
+    /** What the overlays of the other measurements are taken from; may be null. */
+    Q_PROPERTY(Drevon::Zalento::MeasurementModel *measurements READ measurements WRITE
+                   setMeasurements NOTIFY measurementsChanged)
     /** Picture point at the view's top-left corner, in picture pixels. */
     Q_PROPERTY(QPointF origin READ origin WRITE setOrigin NOTIFY originChanged)
     /** Painted under the overlay, every picture pixel a square; a null image paints nothing. */
@@ -40,6 +45,8 @@ public:
 
     ZaItem *item() const { return m_item; }
     void setItem(ZaItem *item);
+    MeasurementModel *measurements() const { return m_measurements; }
+    void setMeasurements(MeasurementModel *measurements);
     QPointF origin() const { return m_origin; }
     void setOrigin(const QPointF &origin);
     QImage picture() const { return m_picture; }
@@ -55,6 +62,7 @@ public:
 
 Q_SIGNALS:
     void itemChanged();
+    void measurementsChanged();
     void originChanged();
     void pictureChanged();
     void marksChanged();
@@ -63,9 +71,11 @@ Q_SIGNALS:
 
 private:
     void paintPicture(QPainter &painter) const;
+    void paintOverlays(QPainter &painter) const;
     void paintMarks(QPainter &painter) const;
 
     QPointer<ZaItem> m_item;
+    QPointer<MeasurementModel> m_measurements;
     QPointF m_origin;
     QImage m_picture;
     QVariantList m_marks;

@@ -9,6 +9,7 @@
 #include "Guidance.h"
 #include "KindModel.h"
 #include "MeasurementEditor.h"
+#include "MeasurementModel.h"
 #include "PipeRecord.h"
 #include "Preferences.h"
 
@@ -26,6 +27,7 @@ class Viewer : public QObject
     Q_PROPERTY(Drevon::Zalento::Guidance *guidance READ guidance CONSTANT)
     Q_PROPERTY(Drevon::Zalento::DocumentList *documents READ documents CONSTANT)
     Q_PROPERTY(Drevon::Zalento::MeasurementEditor *editor READ editor CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::MeasurementModel *measurements READ measurements CONSTANT)
     Q_PROPERTY(Drevon::Zalento::Assessment *assessment READ assessment CONSTANT)
     Q_PROPERTY(Drevon::Zalento::FlatWall *wall READ wall CONSTANT)
     Q_PROPERTY(Drevon::Zalento::KindModel *kinds READ kinds CONSTANT)
@@ -44,6 +46,7 @@ public:
     Guidance *guidance() { return &m_guidance; }
     DocumentList *documents() { return &m_documents; }
     MeasurementEditor *editor() { return &m_editor; }
+    MeasurementModel *measurements() { return &m_measurements; }
     Assessment *assessment() { return &m_assessment; }
     FlatWall *wall() { return &m_wall; }
     KindModel *kinds() { return &m_kinds; }
@@ -72,13 +75,14 @@ private:
     Guidance m_guidance;
     DocumentList m_documents{m_preferences, m_guidance};
     MeasurementEditor m_editor{m_documents, m_preferences, m_guidance};
+    MeasurementModel m_measurements{m_documents, m_editor};
     Assessment m_assessment{m_editor};
     FlatWall m_wall{m_documents, m_editor};
     KindModel m_kinds;
     FieldModel m_kindFields;
     FieldModel m_alignmentFields;
     CameraProfiles m_cameras{m_documents, m_editor, m_guidance};
-    Exporter m_exporter{m_documents, m_editor, m_guidance};
+    Exporter m_exporter{m_documents, m_editor, m_measurements, m_guidance};
     PipeRecords m_records{m_guidance};
 };
 

@@ -67,6 +67,7 @@ void prepareScene()
     qmlRegisterUncreatableType<Guidance>(module, 1, 0, "Guidance", reason);
     qmlRegisterUncreatableType<DocumentList>(module, 1, 0, "DocumentList", reason);
     qmlRegisterUncreatableType<MeasurementEditor>(module, 1, 0, "MeasurementEditor", reason);
+    qmlRegisterUncreatableType<MeasurementModel>(module, 1, 0, "MeasurementModel", reason);
     qmlRegisterUncreatableType<Assessment>(module, 1, 0, "Assessment", reason);
     qmlRegisterUncreatableType<FlatWall>(module, 1, 0, "FlatWall", reason);
     qmlRegisterUncreatableType<FeatureModel>(module, 1, 0, "FeatureModel", reason);

@@ -19,14 +19,25 @@ namespace {
 constexpr double mPerMM = 0.001;
 constexpr double fractionPerPercent = 0.01;
 
-// Lines of text above what a name names: the item's own labels take two.
-constexpr double linesAbove = 2.0;
+// From the middle of what it names to the middle of a name, in lines of text upwards: above the two
+// lines of the item's own label, on the line beside it, and on the rim.
+constexpr double linesAboveLabel = 2.5;
+constexpr double linesAboveWater = 0.6;
 const QColor background(0, 0, 0, 180); // as that of the item's labels
 const QColor ink(Qt::white);
 
+// What nobody has set is no measurement.
 bool hasNothingToShow(const Session &session)
 {
-    return infoOf(session.kind).has(Uses::Points) && session.points.isEmpty();
+    return infoOf(session.kind).has(Uses::Points) ? session.points.isEmpty() : !session.isSet;
+}
+
+double linesAbove(const Session &session)
+{
+    if (infoOf(session.kind).has(Uses::Points)) {
+        return linesAboveLabel;
+    }
+    return session.kind == Kind::WaterLevel ? linesAboveWater : 0.0;
 }
 
 // A branch or a bend is nothing but a pipe: its first and last rings have to do.
@@ -81,7 +92,7 @@ OtherOverlays::OtherOverlays(const Session &session)
 // The item writes no angle beside a branch or a bend.
 OtherOverlays::Name OtherOverlays::nameOf(const Session &session)
 {
-    Name name{middleOf(session), session.name};
+    Name name{middleOf(session), linesAbove(session), session.name};
     const Measurement measurement = measure(session);
     if (infoOf(session.kind).has(Uses::Angle) && !measurement.values.isEmpty()) {
         name.text += QStringLiteral(": ") + measurement.values.first().text;
@@ -108,7 +119,7 @@ void OtherOverlays::paintName(QPainter &painter, const Name &name) const
 {
     const QFontMetricsF metrics = painter.fontMetrics();
     QRectF box = metrics.boundingRect(QLatin1Char(' ') + name.text + QLatin1Char(' '));
-    box.moveCenter(name.pixel - QPointF(0, linesAbove * box.height()));
+    box.moveCenter(name.pixel - QPointF(0, name.linesAbove * box.height()));
     painter.fillRect(box, background);
     painter.setPen(ink);
     painter.drawText(box, Qt::AlignCenter, name.text);

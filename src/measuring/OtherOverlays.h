@@ -30,7 +30,8 @@ public:
 private:
     struct Name
     {
-        QPointF pixel; ///< the middle of what it names
+        QPointF pixel;           ///< the middle of what it names
+        double linesAbove = 0.0; ///< it stands so many lines of text above
         QString text;
     };
 

@@ -118,7 +118,8 @@ void TestMeasurands::modelMovesThePointsOfAll()
 void TestMeasurands::overlayOfAll()
 {
     const Session session = lengthAndCrack();
-    const QImage picture = greyPicture(pictureSize);
+    const QImage picture =
+        greyPicture(pictureSize).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     ZaItem item;
     showSession(session, item);
     const QImage alone = pictureWithOverlay(item, picture);

@@ -8,6 +8,7 @@ Item {
     required property var stage
     required property var side
     signal openRequested()
+    signal nameRequested()
     signal keysRequested()
 
     readonly property Command open: Command {
@@ -89,6 +90,41 @@ Item {
         shortcut: "R"
         enabled: Viewer.assessment.canMeasureAgain
         onTriggered: Viewer.editor.measureAgain()
+    }
+    readonly property Command another: Command {
+        text: qsTr("Another")
+        hint: qsTr("Another measurement on this picture")
+        shortcut: "N"
+        enabled: Viewer.documents.hasPicture
+        onTriggered: Viewer.measurements.add()
+    }
+    readonly property Command nextMeasurement: Command {
+        text: qsTr("Next")
+        hint: qsTr("Next measurement of this picture")
+        shortcut: "V"
+        enabled: Viewer.measurements.count > 1
+        onTriggered: Viewer.measurements.chooseNext()
+    }
+    readonly property Command rename: Command {
+        text: qsTr("Name…")
+        hint: qsTr("Name the measurement")
+        shortcut: "F2"
+        enabled: Viewer.documents.hasPicture
+        onTriggered: commands.nameRequested()
+    }
+    readonly property Command remove: Command {
+        text: qsTr("Remove")
+        hint: qsTr("Remove the measurement")
+        shortcut: "Ctrl+Del"
+        enabled: Viewer.measurements.count > 1
+        onTriggered: Viewer.measurements.remove()
+    }
+    readonly property Command showAll: Command {
+        text: qsTr("Show all")
+        hint: qsTr("Show all measurements with their names, in exports, too")
+        shortcut: "A"
+        enabled: Viewer.measurements.count > 1
+        onTriggered: Viewer.measurements.isAllShown = !Viewer.measurements.isAllShown
     }
     readonly property Command map: Command {
         text: qsTr("Map")
@@ -199,7 +235,8 @@ Item {
 
     // In the order of the list of keys; the kinds follow, under their numbers.
     readonly property var all: [open, save, copy, previous, next, undo, redo, giveUp, dropLastPoint,
-                                confirm, measureAgain, clickPoints, clickJoint, clickLine, snap, unit,
+                                confirm, measureAgain, another, nextMeasurement, rename, remove,
+                                showAll, clickPoints, clickJoint, clickLine, snap, unit,
                                 map, wall, zoomIn, zoomOut, fit, actualSize, showValue, showFields,
                                 showStage, keys]
     // What the list of keys says: [keys, text].

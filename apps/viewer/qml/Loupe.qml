@@ -32,6 +32,7 @@ Rectangle {
         id: lens
         objectName: "lens"
         anchors { fill: parent; margins: 4 }
+        measurements: Viewer.measurements
         picture: Viewer.documents.picture
         contentsScale: loupe.magnification
         origin: Qt.point(loupe.pixel.x - loupe.lensWidth / 2, loupe.pixel.y - loupe.lensHeight / 2)

@@ -66,7 +66,7 @@ ApplicationWindow {
         id: stage
         anchors { left: work.left; right: wallPanel.left; top: work.top; bottom: work.bottom }
         commands: commands
-        isBehindDialog: fileChooser.isOpen || [recordDialog, cameraDialog, keyList, saveDialog, unsavedDialog]
+        isBehindDialog: fileChooser.isOpen || [recordDialog, nameDialog, cameraDialog, keyList, saveDialog, unsavedDialog]
                                               .some(dialog => dialog.visible)
     }
     WallPanel {
@@ -132,6 +132,10 @@ ApplicationWindow {
         objectName: "cameraDialog"
         onFileRequested: fileChooser.openLens()
     }
+    NameDialog {
+        id: nameDialog
+        objectName: "nameDialog"
+    }
     KeyList {
         id: keyList
         objectName: "keyList"
@@ -174,6 +178,7 @@ ApplicationWindow {
         stage: stage
         side: side
         onOpenRequested: fileChooser.openPictures()
+        onNameRequested: nameDialog.open()
         onKeysRequested: keyList.open()
     }
 }

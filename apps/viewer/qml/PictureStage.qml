@@ -136,6 +136,7 @@ FocusScope {
         // Its lines grow with the picture: zoomed in, what lies below them shines through.
         opacity: Math.max(0.3, Math.min(1, 2 / stageView.scale))
         item: item
+        measurements: Viewer.measurements
         contentsScale: stageView.scale
         origin: stageView.origin
     }

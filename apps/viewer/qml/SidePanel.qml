@@ -96,6 +96,10 @@ Rectangle {
             y: 6
             width: parent.width - 2 * Theme.gap - 6
             spacing: 6
+            MeasurementPanel {
+                width: parent.width
+                commands: panel.commands
+            }
             AssessmentPanel {
                 width: parent.width
                 commands: panel.commands

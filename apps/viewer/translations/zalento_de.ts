@@ -452,6 +452,46 @@
         <source>Drop the last point, or the click that was taken</source>
         <translation>Den letzten Punkt entfernen, oder den gewählten Klick</translation>
     </message>
+    <message>
+        <source>Another</source>
+        <translation>Weitere</translation>
+    </message>
+    <message>
+        <source>Another measurement on this picture</source>
+        <translation>Eine weitere Messung auf diesem Bild</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nächste</translation>
+    </message>
+    <message>
+        <source>Next measurement of this picture</source>
+        <translation>Nächste Messung dieses Bildes</translation>
+    </message>
+    <message>
+        <source>Name…</source>
+        <translation>Name…</translation>
+    </message>
+    <message>
+        <source>Name the measurement</source>
+        <translation>Die Messung benennen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the measurement</source>
+        <translation>Die Messung entfernen</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message>
+        <source>Show all measurements with their names, in exports, too</source>
+        <translation>Alle Messungen mit ihren Namen zeigen, auch in Exporten</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1031,6 +1071,25 @@
     </message>
 </context>
 <context>
+    <name>Drevon::Zalento::MeasurementModel</name>
+    <message>
+        <source>Another measurement</source>
+        <translation>Weitere Messung</translation>
+    </message>
+    <message>
+        <source>Choose measurement</source>
+        <translation>Messung wählen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Remove measurement</source>
+        <translation>Messung entfernen</translation>
+    </message>
+</context>
+<context>
     <name>Drevon::Zalento::PipeRecords</name>
     <message>
         <source>cannot be read: %1</source>
@@ -1385,6 +1444,25 @@
     <message>
         <source>Camera and lens</source>
         <translation>Kamera und Objektiv</translation>
+    </message>
+</context>
+<context>
+    <name>NameDialog</name>
+    <message>
+        <source>Name of the measurement</source>
+        <translation>Name der Messung</translation>
+    </message>
+    <message>
+        <source>such as: crack A</source>
+        <translation>etwa: Riss A</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Use name</source>
+        <translation>Name übernehmen</translation>
     </message>
 </context>
 <context>

@@ -452,6 +452,46 @@
         <source>Drop the last point, or the click that was taken</source>
         <translation>Retirer le dernier point, ou le clic choisi</translation>
     </message>
+    <message>
+        <source>Another</source>
+        <translation>Une autre</translation>
+    </message>
+    <message>
+        <source>Another measurement on this picture</source>
+        <translation>Une autre mesure sur cette image</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivante</translation>
+    </message>
+    <message>
+        <source>Next measurement of this picture</source>
+        <translation>Mesure suivante de cette image</translation>
+    </message>
+    <message>
+        <source>Name…</source>
+        <translation>Nom…</translation>
+    </message>
+    <message>
+        <source>Name the measurement</source>
+        <translation>Nommer la mesure</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Enlever</translation>
+    </message>
+    <message>
+        <source>Remove the measurement</source>
+        <translation>Enlever la mesure</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Tout montrer</translation>
+    </message>
+    <message>
+        <source>Show all measurements with their names, in exports, too</source>
+        <translation>Montrer toutes les mesures avec leurs noms, aussi dans les exports</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1031,6 +1071,25 @@
     </message>
 </context>
 <context>
+    <name>Drevon::Zalento::MeasurementModel</name>
+    <message>
+        <source>Another measurement</source>
+        <translation>Autre mesure</translation>
+    </message>
+    <message>
+        <source>Choose measurement</source>
+        <translation>Choisir une mesure</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Remove measurement</source>
+        <translation>Enlever la mesure</translation>
+    </message>
+</context>
+<context>
     <name>Drevon::Zalento::PipeRecords</name>
     <message>
         <source>cannot be read: %1</source>
@@ -1385,6 +1444,25 @@
     <message>
         <source>Camera and lens</source>
         <translation>Caméra et objectif</translation>
+    </message>
+</context>
+<context>
+    <name>NameDialog</name>
+    <message>
+        <source>Name of the measurement</source>
+        <translation>Nom de la mesure</translation>
+    </message>
+    <message>
+        <source>such as: crack A</source>
+        <translation>par exemple : fissure A</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Use name</source>
+        <translation>Prendre le nom</translation>
     </message>
 </context>
 <context>

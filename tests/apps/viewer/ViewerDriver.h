@@ -38,6 +38,7 @@ public:
 
     Viewer viewer;
     MeasurementEditor &editor = *viewer.editor();
+    MeasurementModel &measurements = *viewer.measurements();
     DocumentList &documents = *viewer.documents();
     Exporter &exporter = *viewer.exporter();
     Guidance &guidance = *viewer.guidance();

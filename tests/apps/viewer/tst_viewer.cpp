@@ -72,6 +72,7 @@ class TestViewer : public TestCase
 private slots:
     void measures_data();
     void measures();
+    void severalMeasurements();
     void crackNeedsAScale();
     void pointsAreCorrected();
     void outlineClosesWhenItIsToldTo();
@@ -162,6 +163,60 @@ void TestViewer::measures()
         d.editor.redo();
     }
     QVERIFY(number(d) == measured);
+}
+
+// A length, a level and a second length; each stays when another one is measured.
+void TestViewer::severalMeasurements()
+{
+    ViewerDriver d;
+    const QString picture = d.openSample("dimension.jpg");
+    const Session opened = *d.editor.session();
+    const auto names = [&d] {
+        QStringList rows;
+        for (int i = 0; i < d.measurements.count(); ++i) {
+            rows += d.text(QStringLiteral("measurement.%1").arg(i)).section(':', 0, 0);
+        }
+        return rows.join(", ");
+    };
+    d.click(110, 288);
+    d.click(640, 300);
+    const double length = number(d);
+    d.key(Qt::Key_3);
+    d.click(150, 400);
+    d.key(Qt::Key_N);
+    QCOMPARE(d.editor.value(), QString());
+    d.key(Qt::Key_F2);
+    d.waitForDialog("nameDialog");
+    d.type("nameField", "Water level");
+    QVERIFY(d.hasItem("nameField"));
+    d.type("nameField", "after rain");
+    QCOMPARE(names(), QString("Pipe dimension, Water level, after rain"));
+    QCOMPARE(d.unfitControls(), QStringList());
+
+    // Another picture of the overlay: the names of all.
+    const QImage alone = d.screenshot("one-of-several");
+    d.key(Qt::Key_A);
+    QVERIFY(d.screenshot("several") != alone);
+    d.key(Qt::Key_V);
+    QCOMPARE(number(d), length);
+    QCOMPARE(d.editor.points()->count(), 2);
+    const QString table = d.folder.filePath("values.csv");
+    QVERIFY(d.exporter.exportTo("csv", table));
+    const QByteArrayList lines = contentOf(table).split('\n');
+    QVERIFY(lines[1].endsWith(",Pipe dimension\r") && lines[3].endsWith(",after rain\r"));
+
+    d.key(Qt::Key_S, Qt::ControlModifier);
+    ViewerDriver again;
+    again.documents.openPaths({picture});
+    QVERIFY(*again.editor.session() == *d.editor.session());
+    again.clickItem("measurement.2");
+    again.key(Qt::Key_Delete, Qt::ControlModifier);
+    QCOMPARE(again.measurements.count(), 2);
+    QCOMPARE(again.editor.kind(), QString("WaterLevel"));
+    while (d.editor.canUndo()) {
+        d.editor.undo();
+    }
+    QVERIFY(*d.editor.session() == opened);
 }
 
 void TestViewer::crackNeedsAScale()
