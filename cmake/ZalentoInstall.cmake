@@ -14,8 +14,9 @@ install(TARGETS ${installed_targets} EXPORT ZalentoTargets
 # Headers that only our own sources include stay at home.
 set(internal_headers CLocale.h CompletePicture.h FitCamera.h FitDrawing.h FitOutliers.h FitPlan.h
   FitProblem.h FitStart.h MarkerPens.h MatchedCurve.h MeasuringModel.h ModelPlace.h
-  ModelViewScope.h PainterPens.h PictureEdges.h RingSearch.h UncertaintyFactors.h clearVectorRegisters.h squaredDistance.h
-  truncatedRect.h)
+  ModelViewScope.h PainterPens.h PictureEdges.h ReportDocument.h ReportPages.h ReportPicture.h
+  ReportSection.h ReportText.h RingSearch.h UncertaintyFactors.h clearVectorRegisters.h roundStep.h
+  squaredDistance.h truncatedRect.h)
 list(TRANSFORM internal_headers REPLACE "(.+)" "PATTERN;\\1;EXCLUDE")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/zalento" "${PROJECT_SOURCE_DIR}/src/measuring"
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"

@@ -298,6 +298,7 @@ PictureResult Batch::finish(std::shared_ptr<Work> work)
         work = measure(work->request);
     }
     if (work->isMeasured) {
+        work->result.session = work->session;
         writeFiles(*work);
     }
     return work->result;

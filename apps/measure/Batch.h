@@ -25,8 +25,9 @@ struct PictureResult
     PictureValues values;                ///< of the measurement at hand
     QVector<PictureValues> valuesBefore; ///< of the session's others, where they are asked for
     QVector<PictureValues> valuesBehind;
-    QStringList warnings;          ///< for people
-    QVector<Problem> fileProblems; ///< files that could not be read or written, beside the picture
+    std::optional<Session> session; ///< nothing where it could not be measured
+    QStringList warnings;           ///< for people
+    QVector<Problem> fileProblems;  ///< files that could not be read or written, beside the picture
 
     /** Of every measurement that was asked for, in the session's order. */
     QVector<PictureValues> all() const

@@ -50,7 +50,13 @@ void addOptions(QCommandLineParser &parser)
              "Writes <stem>.map.png, what a pixel is worth on the wall: scale or uncertainty.",
              "NAME");
     addValue(parser, "output",
-             "Folder for written files, made when missing; of lens the file to write.", "PATH");
+             "Folder for written files, made when missing; of lens and report the file to write.",
+             "PATH");
+    addValue(
+        parser, "record",
+        "Of report: JSON object of what is told of the inspection: place, pipe, date, operator "
+        "and others.",
+        "FILE");
     addFlag(
         parser, "snap",
         "Finds the edge of each joint in the picture, from a rough alignment or three clicks, and "
@@ -104,6 +110,9 @@ std::optional<Verb> verbNamed(const QString &name)
     if (name == QLatin1String("lens")) {
         return Verb::Lens;
     }
+    if (name == QLatin1String("report")) {
+        return Verb::Report;
+    }
     if (name == QLatin1String("kinds")) {
         return Verb::Kinds;
     }
@@ -130,12 +139,12 @@ std::optional<Format> formatNamed(const QString &name)
 QString readVerb(const QStringList &positional, CommandLine &command)
 {
     if (positional.isEmpty()) {
-        return QStringLiteral("a verb is missing: measure, render, unroll, lens or kinds");
+        return QStringLiteral("a verb is missing: measure, render, unroll, lens, report or kinds");
     }
     const std::optional<Verb> verb = verbNamed(positional.first());
     if (!verb) {
-        return QStringLiteral("unknown verb \"%1\": expected measure, render, unroll, lens or "
-                              "kinds")
+        return QStringLiteral("unknown verb \"%1\": expected measure, render, unroll, lens, report "
+                              "or kinds")
             .arg(positional.first());
     }
     command.verb = *verb;
@@ -205,7 +214,7 @@ QString readJobs(const QCommandLineParser &parser, CommandLine &command)
 QString repeatedOption(const QCommandLineParser &parser)
 {
     for (const char *name : {"session", "measurement", "format", "overlay", "map", "from", "to",
-                             "board", "square", "name", "output", "jobs"}) {
+                             "board", "square", "name", "output", "record", "jobs"}) {
         if (parser.values(QLatin1String(name)).size() > 1) {
             return QStringLiteral("--%1 is given more than once").arg(QLatin1String(name));
         }
@@ -319,9 +328,29 @@ QString readLensCommand(const QCommandLineParser &parser, CommandLine &command)
     return readBoard(parser, command);
 }
 
+QString readReport(const QCommandLineParser &parser, CommandLine &command)
+{
+    if (command.verb != Verb::Report) {
+        return parser.isSet(QStringLiteral("record")) ? QStringLiteral("--record belongs to report")
+                                                      : QString();
+    }
+    for (const char *name : {"overlay", "map", "save-session"}) {
+        if (parser.isSet(QLatin1String(name))) {
+            return QStringLiteral("report writes one file: it takes no --%1")
+                .arg(QLatin1String(name));
+        }
+    }
+    command.recordFile = parser.value(QStringLiteral("record"));
+    // Any other name could be that of a picture, which --force would write over.
+    std::swap(command.outputFile, command.outputFolder);
+    return command.outputFile.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)
+               ? QString()
+               : QStringLiteral("report needs --output with a file that ends in .pdf");
+}
+
 QString emptyValue(const QCommandLineParser &parser)
 {
-    for (const char *name : {"session", "measurement", "calibration", "lens", "output"}) {
+    for (const char *name : {"session", "measurement", "calibration", "lens", "output", "record"}) {
         if (parser.isSet(QLatin1String(name)) && parser.value(QLatin1String(name)).isEmpty()) {
             return QStringLiteral("--%1 is empty").arg(QLatin1String(name));
         }
@@ -351,8 +380,7 @@ QString contradiction(const QCommandLineParser &parser, const CommandLine &comma
     const bool prints = command.verb == Verb::Measure;
     if (!prints && parser.isSet(QStringLiteral("format"))) {
         return QStringLiteral("%1 prints no values: it takes no --format")
-            .arg(command.verb == Verb::Render ? QStringLiteral("render")
-                                              : QStringLiteral("unroll"));
+            .arg(parser.positionalArguments().first());
     }
     if (command.overlaysAll && !command.writesPng && !command.writesSvg) {
         return QStringLiteral("--overlay-all needs --overlay");
@@ -402,7 +430,11 @@ QString readCommand(const QCommandLineParser &parser, CommandLine &command)
         return session.problem().text();
     }
     command.session = *session;
-    problem = readUnroll(parser, command);
+    for (const auto step : {readUnroll, readReport}) {
+        if (problem.isEmpty()) {
+            problem = step(parser, command);
+        }
+    }
     if (problem.isEmpty()) {
         problem = kindProblem(command.session);
     }

@@ -17,6 +17,7 @@ enum class Verb {
     Render,  ///< files only
     Unroll,  ///< the wall as a flat picture
     Lens,    ///< a camera's, from pictures of a chessboard
+    Report,  ///< all pictures in one document
     Kinds,   ///< lists what can be measured
 };
 
@@ -58,6 +59,7 @@ struct CommandLine
     bool savesSession = false;
     QString outputFolder; ///< empty: beside each picture
     QString outputFile;   ///< of a verb that writes one
+    QString recordFile;   ///< told in the report; may be empty
     bool overwrites = false;
     int jobs = 1; ///< pictures worked on at a time
 };

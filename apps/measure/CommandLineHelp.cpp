@@ -11,6 +11,7 @@ const char *const introduction = R"(Usage:
   zalento-measure render  [options] PICTURE|SESSION|FOLDER|- ...
   zalento-measure unroll  [options] PICTURE|SESSION|FOLDER|- ...
   zalento-measure lens    --board WxH --square MM --output FILE PICTURE|FOLDER|- ...
+  zalento-measure report  [options] PICTURE|SESSION|FOLDER|- ... --output FILE.pdf
   zalento-measure kinds   [--format NAME]
 
 Measures on pictures from inside pipes, without a display.
@@ -21,6 +22,9 @@ Verbs:
   unroll   Writes the pipe's wall as a flat picture to scale, <stem>.unrolled.png: --from and --to are
            distances from the mouth, --mm-per-pixel is its scale. Of the kind CrossSection the plane.
   lens     Calibrates a camera with its lens from pictures of a chessboard; --lens takes it.
+  report   Writes one PDF file: a table of all pictures, then a page for each with the picture, its
+           overlay, values, alignment and cross-section. --record names a file with place, pipe, date,
+           operator and whatever else is to be told.
   kinds    Lists what can be measured, and the options that each kind takes.
 
 Pictures:
@@ -48,7 +52,8 @@ Exit codes:
   0  everything was measured
   1  at least one picture failed or gave no value
   2  wrong usage; nothing was read or written
-  3  a session, a calibration, a lens or a list could not be read, or a file or value not be written
+  3  a session, a calibration, a lens, a record or a list could not be read, or a file or value not be
+     written
 
 Examples:
   zalento-measure measure --kind CrackWidth --laser 654,83 745,147 --click 695,106 --click 709,117 crack.jpg
@@ -58,6 +63,7 @@ Examples:
   zalento-measure measure --kind BendAngle --angle 30 --clock 90 --save-session bend.jpg
   zalento-measure measure --kind CrossSection --diameter 300 --percentage 10 --click 456,375 \
       --click 388,349 --click 277,419 --click 371,457 --click 490,419 --click 456,375 section.jpg
+  zalento-measure report --recursive inspections/ --record record.json --output inspections.pdf
 )";
 
 } // namespace

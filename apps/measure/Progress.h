@@ -18,6 +18,9 @@ public:
     /** The work begins now. @param messages where the line is shown if it is a terminal */
     explicit Progress(QIODevice &messages);
 
+    /** Other work begins now, whose end is estimated by itself. */
+    void restart() { m_sinceStart.start(); }
+
     /** Shows the line, now and then; once everything is done, none. */
     void show(int done, int count);
     /** Makes way for another line. */

@@ -8,11 +8,12 @@
 #include "measure/OrderedJobs.h"
 #include "measure/PictureList.h"
 #include "measure/Progress.h"
-#include "measure/Report.h"
+#include "measure/ValuePrinter.h"
 
 #include "measuring/CalibrationFile.h"
 #include "measuring/Lens.h"
 #include "measuring/OutputFile.h"
+#include "measuring/Report.h"
 #include "measuring/SessionFile.h"
 
 #include <QDir>
@@ -21,6 +22,7 @@
 #include <QFontMetrics>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -68,6 +70,8 @@ public:
 
     /** On a terminal, until another line or the end takes its place. */
     void showProgress(int done, int count) { m_progress.show(done, count); }
+
+    void restartProgress() { m_progress.restart(); }
 
     void note(ExitCode code) { m_exitCode = std::max(m_exitCode, code); }
     ExitCode exitCode() const { return m_exitCode; }
@@ -123,6 +127,20 @@ bool readSession(const CommandLine &command, std::optional<Session> &session, Co
     return true;
 }
 
+bool readRecord(const CommandLine &command, ReportRecord &record, Console &console)
+{
+    if (command.recordFile.isEmpty()) {
+        return true;
+    }
+    const Result<ReportRecord> loaded = loadReportRecord(command.recordFile);
+    if (!loaded) {
+        console.fail(CannotReadOrWrite, loaded.problem().text());
+        return false;
+    }
+    record = *loaded;
+    return true;
+}
+
 bool makeOutputFolder(const CommandLine &command, Console &console)
 {
     if (command.outputFolder.isEmpty() || QDir().mkpath(command.outputFolder)) {
@@ -165,8 +183,9 @@ QVector<PictureRequest> requestsOf(const CommandLine &command, const QStringList
 
 void warnWithoutFonts(const CommandLine &command, Console &console)
 {
-    if (command.writesPng && !QFontMetrics(QFont()).inFont(QLatin1Char('0'))) {
-        console.say(QStringLiteral("warning: there is no font: the overlays have no labels"));
+    const bool needsFont = command.writesPng || command.verb == Verb::Report;
+    if (needsFont && !QFontMetrics(QFont()).inFont(QLatin1Char('0'))) {
+        console.say(QStringLiteral("warning: there is no font: what is drawn has no labels"));
     }
 }
 
@@ -211,27 +230,81 @@ void tell(const PictureResult &result, bool isRender, Console &console)
     }
 }
 
+using TakeResult = std::function<void(PictureResult result, int number)>;
+
+// Takes one result after the other, in the order of the pictures.
 void measureAll(const CommandLine &command, const std::optional<Session> &session,
-                const QVector<PictureRequest> &requests, Console &console)
+                const QVector<PictureRequest> &requests, Console &console, const TakeResult &take)
 {
-    const bool isRender = command.verb != Verb::Measure;
-    const Report report(command.format);
+    const bool isRender = command.verb == Verb::Render || command.verb == Verb::Unroll;
     const int count = requests.size();
     OrderedJobs jobs(command.jobs);
     Batch batch(command, session, jobs);
     std::vector<std::shared_ptr<Batch::Work>> works(requests.size());
     const auto measure = [&](int number) { works[number] = batch.measure(requests[number]); };
     const auto finish = [&](int number) {
-        const PictureResult result = batch.finish(std::move(works[number]));
+        PictureResult result = batch.finish(std::move(works[number]));
         tell(result, isRender, console);
-        if (!isRender) {
-            console.print(report.result(result.all(), number));
-        }
+        take(std::move(result), number);
         console.showProgress(number + 1, count);
     };
-    console.print(isRender ? QByteArray() : report.start());
     jobs.run(count, measure, finish);
-    console.print(isRender ? QByteArray() : report.end(count));
+}
+
+void printAll(const CommandLine &command, const std::optional<Session> &session,
+              const QVector<PictureRequest> &requests, Console &console)
+{
+    const ValuePrinter printer(command.format);
+    console.print(printer.start());
+    measureAll(command, session, requests, console, [&](const PictureResult &result, int number) {
+        console.print(printer.result(result.all(), number));
+    });
+    console.print(printer.end(requests.size()));
+}
+
+void reportAll(const CommandLine &command, const std::optional<Session> &session,
+               const QVector<PictureRequest> &requests, Console &console)
+{
+    Report report;
+    if (!readRecord(command, report.record, console)) {
+        return;
+    }
+    ReportWriter writer;
+    const Overwrite overwrite = command.overwrites ? Overwrite::Allow : Overwrite::Refuse;
+    if (const Outcome problem = writer.open(command.outputFile, overwrite)) {
+        console.fail(CannotReadOrWrite, problem->text());
+        return;
+    }
+    measureAll(command, session, requests, console, [&report](const PictureResult &result, int) {
+        report.pictures.append(
+            {result.values.picture, reportMeasurements(result.all(), result.session)});
+    });
+    console.restartProgress();
+    writer.addOverview(report);
+    for (int i = 0; i < report.pictures.size(); ++i) {
+        writer.addPage(report, i);
+        console.showProgress(i + 1, report.pictures.size());
+    }
+    if (const Outcome problem = writer.finish()) {
+        console.fail(CannotReadOrWrite, problem->text());
+        return;
+    }
+    console.say(QStringLiteral("wrote %1").arg(command.outputFile));
+}
+
+void runVerb(const CommandLine &command, const std::optional<Session> &session,
+             const QVector<PictureRequest> &requests, Console &console)
+{
+    switch (command.verb) {
+    case Verb::Measure:
+        printAll(command, session, requests, console);
+        return;
+    case Verb::Report:
+        reportAll(command, session, requests, console);
+        return;
+    default:
+        measureAll(command, session, requests, console, [](const PictureResult &, int) {});
+    }
 }
 
 // One picture a line: what was found on it, or why it was left out.
@@ -314,7 +387,7 @@ ExitCode run(const QStringList &arguments, QIODevice &input, QIODevice &output, 
         console.fail(SomeNotMeasured, QStringLiteral("the list holds no picture"));
     }
     warnWithoutFonts(command, console);
-    measureAll(command, session, requests, console);
+    runVerb(command, session, requests, console);
     return console.exitCode();
 }
 

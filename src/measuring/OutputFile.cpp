@@ -5,25 +5,43 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace Drevon::Zalento::Measuring {
 
-Outcome writeFile(const QString &path, const QByteArray &content, Overwrite overwrite)
+namespace {
+
+Problem notWritten(const QSaveFile &file)
 {
-    const QFileInfo existing(path);
+    return {file.fileName(), Text::tr("cannot be written: %1").arg(file.errorString())};
+}
+
+} // namespace
+
+Outcome openForReplacing(QSaveFile &file, Overwrite overwrite)
+{
+    const QFileInfo existing(file.fileName());
     // A symbolic link that leads nowhere is something of the user's, too.
     if (overwrite == Overwrite::Refuse && (existing.exists() || existing.isSymLink())) {
-        return Problem{path, Text::tr("exists already and was left as it is")};
+        return Problem{file.fileName(), Text::tr("exists already and was left as it is")};
     }
-    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) ? Outcome() : notWritten(file);
+}
+
+Outcome replaceWith(QSaveFile &file)
+{
     // What flush() reports of a full disk, commit() would not: it would replace the old file by
-    // what fitted.
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
-        !file.flush() || !file.commit()) {
-        return Problem{path, Text::tr("cannot be written: %1").arg(file.errorString())};
+    // what fitted. And it forgets why something was not written before.
+    const bool isWhole = file.error() == QFileDevice::NoError && file.flush();
+    return isWhole && file.commit() ? Outcome() : notWritten(file);
+}
+
+Outcome writeFile(const QString &path, const QByteArray &content, Overwrite overwrite)
+{
+    QSaveFile file(path);
+    if (const Outcome problem = openForReplacing(file, overwrite)) {
+        return problem;
     }
-    return {};
+    return file.write(content) == content.size() ? replaceWith(file) : notWritten(file);
 }
 
 QString pathBeside(const QString &picturePath, const QString &folder, const QString &end)

@@ -1,6 +1,7 @@
 #include "measuring/UnrollExport.h"
 
 #include "measuring/OutputFile.h"
+#include "measuring/roundStep.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -29,18 +30,6 @@ const QColor blurred(128, 128, 128);
 
 const QColor paper(250, 250, 250);
 const QColor ink(20, 20, 20);
-
-// The smallest of 1, 2, 5, 10, 20, ... that is not smaller.
-double roundStep(double smallest)
-{
-    const double power = std::pow(10.0, std::floor(std::log10(smallest)));
-    for (const double factor : {1.0, 2.0, 5.0}) {
-        if (factor * power >= smallest) {
-            return factor * power;
-        }
-    }
-    return 10.0 * power;
-}
 
 class AxesPainter
 {

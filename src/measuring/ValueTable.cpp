@@ -2,6 +2,7 @@
 
 #include "measuring/Editing.h"
 #include "measuring/Measurands.h"
+#include "measuring/Text.h"
 
 #include <QJsonArray>
 #include <QLocale>
@@ -206,9 +207,19 @@ QByteArray lensJson(const LensSummary &lens)
     return json.toLine();
 }
 
-QString counted(int count, const char *one, const char *many)
+// What the alignment is fitted to.
+QString featuresText(const AlignmentSummary &summary)
 {
-    return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(count == 1 ? one : many));
+    QStringList features;
+    if (summary.rings > 0) {
+        features +=
+            summary.rings == 1 ? Text::tr("1 joint") : Text::tr("%1 joints").arg(summary.rings);
+    }
+    if (summary.lines > 0) {
+        features +=
+            summary.lines == 1 ? Text::tr("1 line") : Text::tr("%1 lines").arg(summary.lines);
+    }
+    return features.join(Text::tr(" and "));
 }
 
 QString csvField(QString field)
@@ -286,26 +297,19 @@ QVector<PictureValues> allPictureValues(const QString &picture, const Session &s
 QString fitText(const AlignmentSummary &summary)
 {
     if (!summary.fit) {
-        return QStringLiteral("not fitted");
-    }
-    QStringList features;
-    if (summary.rings > 0) {
-        features += counted(summary.rings, "joint", "joints");
-    }
-    if (summary.lines > 0) {
-        features += counted(summary.lines, "line", "lines");
+        return Text::tr("not fitted");
     }
     QStringList left;
     for (const AlignmentField field : summary.fit->undetermined) {
         left += alignmentFieldName(field);
     }
-    const QString text = QStringLiteral("fitted to %1, rms %2 px, largest %3 px")
-                             .arg(features.join(QStringLiteral(" and ")))
+    const QString text = Text::tr("fitted to %1, rms %2 px, largest %3 px")
+                             .arg(featuresText(summary))
                              .arg(summary.fit->rmsPX, 0, 'f', 2)
                              .arg(summary.fit->largestPX, 0, 'f', 2);
     return left.isEmpty()
                ? text
-               : text + QStringLiteral("; not determined: ") + left.join(QStringLiteral(", "));
+               : Text::tr("%1; not determined: %2").arg(text, left.join(QStringLiteral(", ")));
 }
 
 QByteArray csvRecord(const QStringList &fields)

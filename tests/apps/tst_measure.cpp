@@ -240,6 +240,14 @@ void TestMeasure::answers_data()
         CannotReadOrWrite, "", "holds no calibration");
     row("output is a file", "measure --overlay png --output bad.zalento.json w.png",
         CannotReadOrWrite, "", "cannot be made");
+    row("report of the user's", "report --output old.pdf w.png", CannotReadOrWrite, "",
+        "old.pdf: exists already");
+    row("report nowhere", "report --output none/a.pdf w.png", CannotReadOrWrite, "",
+        "none/a.pdf: cannot be written: No such");
+    row("no record", "report --output new.pdf --record none w.png", CannotReadOrWrite, "",
+        "none: cannot be read");
+    row("record of a list", "report --output new.pdf --record list.json w.png", CannotReadOrWrite,
+        "", "list.json: expected a JSON object");
     row("overlay of the user's", "measure --overlay png w.png", CannotReadOrWrite, "13 %",
         "w.overlay.png: exists already");
     row("two pictures of one name",
@@ -265,6 +273,8 @@ void TestMeasure::answers()
     QVERIFY(addPicture("w.png") && addPicture("w.bmp", QSize(10, 10)));
     QVERIFY(writeBytes(path("bad.zalento.json"), "bad"));
     QVERIFY(writeBytes(path("w.overlay.png"), "mine"));
+    QVERIFY(writeBytes(path("old.pdf"), "mine"));
+    QVERIFY(writeBytes(path("list.json"), "[1]"));
     const QByteArray before = folderState(m_dir->path());
     const Run outcome = runProgram(words(qPrintable(arguments)));
     QCOMPARE(outcome.code, code);

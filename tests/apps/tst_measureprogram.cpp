@@ -96,6 +96,7 @@ private slots:
     void noticesStreamsThatFail();
     void exitsAsToldByUsage();
     void showsProgressOnATerminalOnly();
+    void keepsAReportWhereTheDiskIsFull();
 };
 
 void TestMeasureProgram::noticesStreamsThatFail_data()
@@ -159,6 +160,25 @@ void TestMeasureProgram::showsProgressOnATerminalOnly()
     const Run file = start(arguments);
     QCOMPARE(file.code, 0);
     QCOMPARE(file.messages, QByteArray());
+}
+
+void TestMeasureProgram::keepsAReportWhereTheDiskIsFull()
+{
+    const QTemporaryDir dir;
+    const QString picture = dir.filePath(QStringLiteral("a.png"));
+    QVERIFY(greyPicture(QSize(640, 480)).save(picture));
+    const QString report = dir.filePath(QStringLiteral("a.pdf"));
+    QVERIFY(writeBytes(report, "an older one"));
+    const QByteArray before = folderState(dir.path());
+    // In the middle of a picture, and of the fonts behind it.
+    for (const rlim_t limit : {3000, 20000}) {
+        Fault fault;
+        fault.largestFile = limit;
+        const Run run = start({"report", "--force", "--output", report, picture}, {}, {}, fault);
+        QCOMPARE(run.code, 3);
+        QVERIFY2(run.messages.contains("cannot be written"), run.messages);
+        QCOMPARE(folderState(dir.path()), before);
+    }
 }
 
 QTEST_MAIN(TestMeasureProgram)

@@ -1935,6 +1935,284 @@
     <message>
         <source>the name of a measurement</source>
         <translation>der Name einer Messung</translation>
+        <source>The picture has changed since it was measured.</source>
+        <translation>Das Bild hat sich geändert, seit es vermessen wurde.</translation>
+    </message>
+    <message>
+        <source>Without its overlay: nobody has set what it shows.</source>
+        <translation>Ohne Überlagerung: niemand hat gesetzt, was sie zeigt.</translation>
+    </message>
+    <message>
+        <source>Inspection report</source>
+        <translation>Inspektionsbericht</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Pipe</source>
+        <translation>Rohr</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Bediener</translation>
+    </message>
+    <message>
+        <source>is too large for a record file</source>
+        <translation>ist zu groß für eine Datei mit Rohrdaten</translation>
+    </message>
+    <message>
+        <source>expected a JSON object: %1</source>
+        <translation>ein JSON-Objekt erwartet: %1</translation>
+    </message>
+    <message>
+        <source>expected a JSON object, found a list</source>
+        <translation>ein JSON-Objekt erwartet, eine Liste gefunden</translation>
+    </message>
+    <message>
+        <source>Scale 1 : %1, diameter %2 mm</source>
+        <translation>Maßstab 1 : %1, Durchmesser %2 mm</translation>
+    </message>
+    <message>
+        <source>measured</source>
+        <translation>gemessen</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>not measured</source>
+        <translation>nicht gemessen</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>gescheitert</translation>
+    </message>
+    <message>
+        <source>Crack width</source>
+        <translation>Rissbreite</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Water level</source>
+        <translation>Wasserstand</translation>
+    </message>
+    <message>
+        <source>Branch angle</source>
+        <translation>Abzweigwinkel</translation>
+    </message>
+    <message>
+        <source>Bend angle</source>
+        <translation>Bogenwinkel</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>Share of the section</source>
+        <translation>Anteil am Querschnitt</translation>
+    </message>
+    <message>
+        <source>Share of the diameter</source>
+        <translation>Anteil am Durchmesser</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>darunter</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>darüber</translation>
+    </message>
+    <message>
+        <source>cannot be decided at 95 %</source>
+        <translation>zu 95 % nicht zu entscheiden</translation>
+    </message>
+    <message>
+        <source>clicks</source>
+        <translation>Klicks</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>alignment</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>diameter</source>
+        <translation>Durchmesser</translation>
+    </message>
+    <message>
+        <source>field of view</source>
+        <translation>Bildwinkel</translation>
+    </message>
+    <message>
+        <source>laser</source>
+        <translation>Laser</translation>
+    </message>
+    <message>
+        <source>scale</source>
+        <translation>Maßstab</translation>
+    </message>
+    <message>
+        <source>set by eye</source>
+        <translation>nach Auge gesetzt</translation>
+    </message>
+    <message>
+        <source>the uncertainty has no number</source>
+        <translation>die Unsicherheit hat keine Zahl</translation>
+    </message>
+    <message>
+        <source>%1, %2 results: mean %3 %5, standard deviation %4 %5</source>
+        <translation>%1, %2 Ergebnisse: Mittel %3 %5, Standardabweichung %4 %5</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>Camera height, %</source>
+        <translation>Kamerahöhe, %</translation>
+    </message>
+    <message>
+        <source>Far end, left</source>
+        <translation>Fernes Ende, links</translation>
+    </message>
+    <message>
+        <source>Far end, down</source>
+        <translation>Fernes Ende, unten</translation>
+    </message>
+    <message>
+        <source>Mouth, %</source>
+        <translation>Mündung, %</translation>
+    </message>
+    <message>
+        <source>Field of view, °</source>
+        <translation>Bildwinkel, °</translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Diameter</source>
+        <translation>Durchmesser</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Maßstab</translation>
+    </message>
+    <message>
+        <source>%1 mm a pixel</source>
+        <translation>%1 mm je Pixel</translation>
+    </message>
+    <message>
+        <source>Lens taken out</source>
+        <translation>Objektiv herausgerechnet</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Rohrdaten</translation>
+    </message>
+    <message>
+        <source>Pictures: %1; measurements: %2</source>
+        <translation>Bilder: %1; Messungen: %2</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <source>Value, uncertainty (k = 2)</source>
+        <translation>Wert, Unsicherheit (k = 2)</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Grenze</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stand</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>with its uncertainty (k = 2)</source>
+        <translation>mit Unsicherheit (k = 2)</translation>
+    </message>
+    <message>
+        <source>uncertain by</source>
+        <translation>unsicher durch</translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Folder: %1</source>
+        <translation>Ordner: %1</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>1 joint</source>
+        <translation>1 Fuge</translation>
+    </message>
+    <message>
+        <source>%1 joints</source>
+        <translation>%1 Fugen</translation>
+    </message>
+    <message>
+        <source>1 line</source>
+        <translation>1 Linie</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 Linien</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation> und </translation>
+    </message>
+    <message>
+        <source>not fitted</source>
+        <translation>nicht angepasst</translation>
+    </message>
+    <message>
+        <source>fitted to %1, rms %2 px, largest %3 px</source>
+        <translation>angepasst an %1, quadratisches Mittel %2 px, größte Abweichung %3 px</translation>
+    </message>
+    <message>
+        <source>%1; not determined: %2</source>
+        <translation>%1; nicht bestimmt: %2</translation>
     </message>
 </context>
 <context>

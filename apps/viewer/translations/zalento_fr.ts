@@ -1935,6 +1935,284 @@
     <message>
         <source>the name of a measurement</source>
         <translation>le nom d’une mesure</translation>
+        <source>The picture has changed since it was measured.</source>
+        <translation>L&apos;image a changé depuis sa mesure.</translation>
+    </message>
+    <message>
+        <source>Without its overlay: nobody has set what it shows.</source>
+        <translation>Sans sa superposition : personne n&apos;a réglé ce qu&apos;elle montre.</translation>
+    </message>
+    <message>
+        <source>Inspection report</source>
+        <translation>Rapport d&apos;inspection</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lieu</translation>
+    </message>
+    <message>
+        <source>Pipe</source>
+        <translation>Tuyau</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Opérateur</translation>
+    </message>
+    <message>
+        <source>is too large for a record file</source>
+        <translation>est trop grand pour une fiche</translation>
+    </message>
+    <message>
+        <source>expected a JSON object: %1</source>
+        <translation>objet JSON attendu : %1</translation>
+    </message>
+    <message>
+        <source>expected a JSON object, found a list</source>
+        <translation>objet JSON attendu, liste trouvée</translation>
+    </message>
+    <message>
+        <source>Scale 1 : %1, diameter %2 mm</source>
+        <translation>Échelle 1 : %1, diamètre %2 mm</translation>
+    </message>
+    <message>
+        <source>measured</source>
+        <translation>mesuré</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>aucune valeur</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>non réglé</translation>
+    </message>
+    <message>
+        <source>not measured</source>
+        <translation>non mesuré</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>échec</translation>
+    </message>
+    <message>
+        <source>Crack width</source>
+        <translation>Largeur de fissure</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+    <message>
+        <source>Water level</source>
+        <translation>Niveau d&apos;eau</translation>
+    </message>
+    <message>
+        <source>Branch angle</source>
+        <translation>Angle de branchement</translation>
+    </message>
+    <message>
+        <source>Bend angle</source>
+        <translation>Angle de coude</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Aire</translation>
+    </message>
+    <message>
+        <source>Share of the section</source>
+        <translation>Part de la section</translation>
+    </message>
+    <message>
+        <source>Share of the diameter</source>
+        <translation>Part du diamètre</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>au-dessous</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>au-dessus</translation>
+    </message>
+    <message>
+        <source>cannot be decided at 95 %</source>
+        <translation>indécidable à 95 %</translation>
+    </message>
+    <message>
+        <source>clicks</source>
+        <translation>clics</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>alignment</source>
+        <translation>alignement</translation>
+    </message>
+    <message>
+        <source>diameter</source>
+        <translation>diamètre</translation>
+    </message>
+    <message>
+        <source>field of view</source>
+        <translation>angle de vue</translation>
+    </message>
+    <message>
+        <source>laser</source>
+        <translation>laser</translation>
+    </message>
+    <message>
+        <source>scale</source>
+        <translation>échelle</translation>
+    </message>
+    <message>
+        <source>set by eye</source>
+        <translation>réglé à l&apos;œil</translation>
+    </message>
+    <message>
+        <source>the uncertainty has no number</source>
+        <translation>l&apos;incertitude n&apos;a pas de nombre</translation>
+    </message>
+    <message>
+        <source>%1, %2 results: mean %3 %5, standard deviation %4 %5</source>
+        <translation>%1, %2 résultats : moyenne %3 %5, écart type %4 %5</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Décalage</translation>
+    </message>
+    <message>
+        <source>Camera height, %</source>
+        <translation>Hauteur de la caméra, %</translation>
+    </message>
+    <message>
+        <source>Far end, left</source>
+        <translation>Bout éloigné, à gauche</translation>
+    </message>
+    <message>
+        <source>Far end, down</source>
+        <translation>Bout éloigné, en bas</translation>
+    </message>
+    <message>
+        <source>Mouth, %</source>
+        <translation>Entrée, %</translation>
+    </message>
+    <message>
+        <source>Field of view, °</source>
+        <translation>Angle de vue, °</translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation>Alignement</translation>
+    </message>
+    <message>
+        <source>Diameter</source>
+        <translation>Diamètre</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>%1 mm a pixel</source>
+        <translation>%1 mm par pixel</translation>
+    </message>
+    <message>
+        <source>Lens taken out</source>
+        <translation>Objectif compensé</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Fiche</translation>
+    </message>
+    <message>
+        <source>Pictures: %1; measurements: %2</source>
+        <translation>Images : %1 ; mesures : %2</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Mesuré</translation>
+    </message>
+    <message>
+        <source>Value, uncertainty (k = 2)</source>
+        <translation>Valeur, incertitude (k = 2)</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>with its uncertainty (k = 2)</source>
+        <translation>avec son incertitude (k = 2)</translation>
+    </message>
+    <message>
+        <source>uncertain by</source>
+        <translation>incertain par</translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation>Vue d&apos;ensemble</translation>
+    </message>
+    <message>
+        <source>Folder: %1</source>
+        <translation>Dossier : %1</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 pixels</translation>
+    </message>
+    <message>
+        <source>1 joint</source>
+        <translation>1 joint</translation>
+    </message>
+    <message>
+        <source>%1 joints</source>
+        <translation>%1 joints</translation>
+    </message>
+    <message>
+        <source>1 line</source>
+        <translation>1 ligne</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 lignes</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation> et </translation>
+    </message>
+    <message>
+        <source>not fitted</source>
+        <translation>non ajusté</translation>
+    </message>
+    <message>
+        <source>fitted to %1, rms %2 px, largest %3 px</source>
+        <translation>ajusté sur %1, écart quadratique %2 px, le plus grand %3 px</translation>
+    </message>
+    <message>
+        <source>%1; not determined: %2</source>
+        <translation>%1 ; non déterminé : %2</translation>
     </message>
 </context>
 <context>

@@ -12,10 +12,10 @@ namespace Drevon::Zalento::Apps {
  * Turns results into UTF-8 text of a format. A document is start(), then result() for each picture
  * with a running number from 0, then end().
  */
-class Report
+class ValuePrinter
 {
 public:
-    explicit Report(Format format)
+    explicit ValuePrinter(Format format)
         : m_format(format)
     {}
 

@@ -1,4 +1,4 @@
-#include "measure/Report.h"
+#include "measure/ValuePrinter.h"
 
 namespace Drevon::Zalento::Apps {
 
@@ -41,7 +41,7 @@ QByteArray textLines(const PictureValues &result)
 
 } // namespace
 
-QByteArray Report::start() const
+QByteArray ValuePrinter::start() const
 {
     switch (m_format) {
     case Format::Json:
@@ -53,7 +53,7 @@ QByteArray Report::start() const
     }
 }
 
-QByteArray Report::result(const QVector<PictureValues> &results, int number) const
+QByteArray ValuePrinter::result(const QVector<PictureValues> &results, int number) const
 {
     QByteArray text = m_format == Format::Text ? alignmentLine(results.first()) : QByteArray();
     for (int i = 0; i < results.size(); ++i) {
@@ -62,7 +62,7 @@ QByteArray Report::result(const QVector<PictureValues> &results, int number) con
     return text;
 }
 
-QByteArray Report::measurement(const PictureValues &result, bool isFirst) const
+QByteArray ValuePrinter::measurement(const PictureValues &result, bool isFirst) const
 {
     switch (m_format) {
     case Format::Json:
@@ -77,7 +77,7 @@ QByteArray Report::measurement(const PictureValues &result, bool isFirst) const
     return textLines(result);
 }
 
-QByteArray Report::end(int count) const
+QByteArray ValuePrinter::end(int count) const
 {
     if (m_format != Format::Json) {
         return {};

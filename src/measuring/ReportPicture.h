@@ -1,0 +1,26 @@
+#pragma once
+
+#include "measuring/Session.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QRectF>
+
+namespace Drevon::Zalento::Measuring {
+
+/** The largest size of a picture's shape within @p room. */
+QSizeF sizeOnPaper(const QSize &picture, const QSizeF &room);
+
+/**
+ * Paints a picture no finer than paper shows.
+ * @param box in the painter's units, @p unitsPerMM of them a millimetre of paper
+ */
+void paintPicture(QPainter &painter, const QRectF &box, double unitsPerMM, const QImage &picture);
+
+/**
+ * Paints a session's overlay as vectors. Lines and labels have the same size on paper whatever the
+ * picture's.
+ */
+void paintOverlay(QPainter &painter, const QRectF &box, double unitsPerMM, const Session &session);
+
+} // namespace Drevon::Zalento::Measuring
