@@ -3,6 +3,7 @@
 #include "measuring/OutputFile.h"
 #include "measuring/OverlayExport.h"
 #include "measuring/Picture.h"
+#include "measuring/Report.h"
 #include "measuring/SessionFile.h"
 #include "measuring/SessionFit.h"
 #include "measuring/UnrollExport.h"
@@ -22,6 +23,7 @@ const QLatin1String png("png");
 const QLatin1String svg("svg");
 const QLatin1String csv("csv");
 const QLatin1String wall("wall");
+const QLatin1String pdf("pdf");
 
 // As it is when its picture is shown, which is read only where the session does not know its size.
 Measuring::Result<Measuring::Session> savedSession(const Document &document)
@@ -44,22 +46,23 @@ Measuring::Result<Measuring::Session> savedSession(const Document &document)
 }
 
 // A picture that was only looked at, or not yet, has what is saved beside it, if anything is.
-QVector<Measuring::PictureValues> valuesOf(const Document &document)
+QVector<Measuring::ReportMeasurement> measurementsOf(const Document &document)
 {
-    const auto valuesOfSession = [&document](const Measuring::Session &measured) {
-        return Measuring::allPictureValues(document.picturePath, measured,
-                                           Measuring::fitOf(measured));
+    const auto measured = [&document](const Measuring::Session &begun) {
+        return Measuring::reportMeasurements(
+            Measuring::allPictureValues(document.picturePath, begun, Measuring::fitOf(begun)),
+            begun);
     };
     const bool isBegun = document.isModified() || document.sessionStamp.isValid();
     if (document.session && isBegun) {
-        return valuesOfSession(*document.session);
+        return measured(*document.session);
     }
     Measuring::PictureValues values;
     values.picture = document.picturePath;
     if (QFileInfo::exists(document.sessionPath)) {
         const auto saved = savedSession(document);
         if (saved) {
-            return valuesOfSession(*saved);
+            return measured(*saved);
         }
         values.message = saved.problem().text();
     } else if (document.problem.isEmpty()) {
@@ -67,16 +70,29 @@ QVector<Measuring::PictureValues> valuesOf(const Document &document)
     } else {
         values.message = document.problem;
     }
-    return {values};
+    return {{values, {}}};
 }
 
 QVector<Measuring::PictureValues> valuesOfAll(DocumentList &documents)
 {
     QVector<Measuring::PictureValues> values;
     for (int i = 0; i < documents.count(); ++i) {
-        values += valuesOf(documents.at(i));
+        for (const Measuring::ReportMeasurement &measurement : measurementsOf(documents.at(i))) {
+            values += measurement.values;
+        }
     }
     return values;
+}
+
+Measuring::Report reportOn(DocumentList &documents, const Measuring::ReportRecord &record)
+{
+    Measuring::Report report;
+    report.record = record;
+    for (int i = 0; i < documents.count(); ++i) {
+        const Document &document = documents.at(i);
+        report.pictures.append({document.picturePath, measurementsOf(document)});
+    }
+    return report;
 }
 
 QByteArray valuesAsCsv(const QVector<Measuring::PictureValues> &measurements)
@@ -91,11 +107,14 @@ QByteArray valuesAsCsv(const QVector<Measuring::PictureValues> &measurements)
 } // namespace
 
 Exporter::Exporter(DocumentList &documents, MeasurementEditor &editor,
-                   const MeasurementModel &measurements, Guidance &guidance)
+                   const MeasurementModel &measurements, const PipeRecords &records,
+                   Guidance &guidance)
     : m_documents(documents)
     , m_editor(editor)
     , m_measurements(measurements)
+    , m_records(records)
     , m_guidance(guidance)
+    , m_reportJob(guidance)
 {}
 
 // Saving
@@ -212,9 +231,8 @@ QString Exporter::suggestedPath(const QString &what) const
         return QFileInfo(Measuring::overlayPathOf(document->picturePath, QString(), what))
             .absoluteFilePath();
     }
-    return QFileInfo(document->picturePath)
-        .absoluteDir()
-        .filePath(QStringLiteral("measurements.") + what);
+    const QString name = what == pdf ? QStringLiteral("report.") : QStringLiteral("measurements.");
+    return QFileInfo(document->picturePath).absoluteDir().filePath(name + what);
 }
 
 bool Exporter::exportTo(const QString &what, const QString &path)
@@ -227,6 +245,9 @@ bool Exporter::exportTo(const QString &what, const QString &path)
     }
     if (what == wall) {
         return exportWall(path);
+    }
+    if (what == pdf) {
+        return exportReport(path);
     }
     const bool isUnset = (what == png || what == svg) && !m_editor.isSet();
     return report(Measuring::writeFile(path, exported(what), Measuring::Overwrite::Allow),
@@ -248,6 +269,20 @@ bool Exporter::exportWall(const QString &path)
                                        Measuring::pngBytes(Measuring::withAxes(*unrolling, flat)),
                                        Measuring::Overwrite::Allow),
                   tr("Written: %1").arg(path));
+}
+
+bool Exporter::exportReport(const QString &path)
+{
+    if (m_reportJob.isRunning()) {
+        m_guidance.notice(Guidance::Warning, tr("A report is being written already."));
+        return false;
+    }
+    const Measuring::Outcome problem =
+        m_reportJob.start(reportOn(m_documents, m_records.told()), path);
+    if (problem) {
+        m_guidance.notice(Guidance::Error, problem->text());
+    }
+    return !problem;
 }
 
 QByteArray Exporter::exported(const QString &what) const

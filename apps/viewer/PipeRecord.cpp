@@ -96,11 +96,14 @@ QString PipeRecords::take(const QString &nominalSize, const QString &unit)
 void PipeRecords::load(const QString &path)
 {
     const auto record = loadPipeRecord(path);
-    if (!record) {
-        m_guidance.notice(Guidance::Error, record.problem().text());
+    const auto told = Measuring::loadReportRecord(path);
+    if (!record || !told) {
+        const Measuring::Problem &problem = record ? told.problem() : record.problem();
+        m_guidance.notice(Guidance::Error, problem.text());
         return;
     }
     activate(*record);
+    m_told = *told;
     m_guidance.notice(Guidance::Information,
                       tr("Pipe record: %1 %2.").arg(record->nominalSize).arg(record->unit));
 }

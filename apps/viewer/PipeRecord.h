@@ -2,6 +2,7 @@
 
 #include "Guidance.h"
 
+#include "measuring/ReportRecord.h"
 #include "measuring/Result.h"
 
 #include <QObject>
@@ -40,8 +41,12 @@ public:
     Q_INVOKABLE QString take(const QString &nominalSize, const QString &unit);
     Q_INVOKABLE void load(const QString &path);
 
+    /** What the file that was loaded last tells beside the nominal size. */
+    const Measuring::ReportRecord &told() const { return m_told; }
+
 private:
     Guidance &m_guidance;
+    Measuring::ReportRecord m_told;
 };
 
 } // namespace Drevon::Zalento

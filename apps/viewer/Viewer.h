@@ -82,8 +82,8 @@ private:
     FieldModel m_kindFields;
     FieldModel m_alignmentFields;
     CameraProfiles m_cameras{m_documents, m_editor, m_guidance};
-    Exporter m_exporter{m_documents, m_editor, m_measurements, m_guidance};
     PipeRecords m_records{m_guidance};
+    Exporter m_exporter{m_documents, m_editor, m_measurements, m_records, m_guidance};
 };
 
 } // namespace Drevon::Zalento

@@ -79,11 +79,13 @@ QString stateText(Status status)
     return Text::tr("failed");
 }
 
+// Some reasons begin with the state.
 QString stateAndReason(const PictureValues &values)
 {
     const QString state = stateText(values.status);
-    return (values.message.isEmpty() ? state : state + QStringLiteral(": ") + values.message)
-        .toHtmlEscaped();
+    const bool isTold = values.message.startsWith(state);
+    const QString text = isTold ? values.message : state + QStringLiteral(": ") + values.message;
+    return (values.message.isEmpty() ? state : text).toHtmlEscaped();
 }
 
 QString valueName(const Value &value)
@@ -293,9 +295,9 @@ QString overviewRow(const QString &picture, int number, const ReportMeasurement 
 
 QString overviewTable(const Report &report, bool isFolderTold)
 {
-    QString rows = columnNames({{Text::tr("No."), 6},
-                                {Text::tr("Picture"), 20},
-                                {Text::tr("Measured"), 14},
+    QString rows = columnNames({{Text::tr("No."), 5},
+                                {Text::tr("Picture"), 18},
+                                {Text::tr("Measured"), 17},
                                 {Text::tr("Value, uncertainty (k = 2)"), 27},
                                 {Text::tr("Limit"), 15},
                                 {Text::tr("State"), 18}});

@@ -35,7 +35,7 @@ Rectangle {
         ToolKey {
             objectName: "exportKey"
             text: qsTr("Export")
-            hint: qsTr("Save the picture with its overlay, or the values")
+            hint: qsTr("Save the picture with its overlay, the values, or a report")
             enabled: Viewer.documents.hasPicture
             menu: exportMenu
             ViewerMenu {
@@ -54,6 +54,10 @@ Rectangle {
                 ViewerMenuItem {
                     text: qsTr("Wall as a flat picture (PNG)")
                     onTriggered: bar.exportRequested("wall")
+                }
+                ViewerMenuItem {
+                    text: qsTr("Report on all pictures (PDF)")
+                    onTriggered: bar.exportRequested("pdf")
                 }
                 ViewerMenuItem {
                     text: qsTr("Values of all pictures (CSV)")

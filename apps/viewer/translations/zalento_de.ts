@@ -759,6 +759,10 @@
         <source>Copied: %1</source>
         <translation>Kopiert: %1</translation>
     </message>
+    <message>
+        <source>A report is being written already.</source>
+        <translation>Ein Bericht wird schon geschrieben.</translation>
+    </message>
 </context>
 <context>
     <name>Drevon::Zalento::FeatureModel</name>
@@ -1110,6 +1114,17 @@
     <message>
         <source>Pipe record: %1 %2.</source>
         <translation>Rohrdaten: %1 %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Drevon::Zalento::ReportJob</name>
+    <message>
+        <source>Report: page %1 of %2</source>
+        <translation>Bericht: Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Geschrieben: %1</translation>
     </message>
 </context>
 <context>
@@ -1940,7 +1955,7 @@
     </message>
     <message>
         <source>Without its overlay: nobody has set what it shows.</source>
-        <translation>Ohne Überlagerung: niemand hat gesetzt, was sie zeigt.</translation>
+        <translation>Ohne Modell: niemand hat gesetzt, was es zeigt.</translation>
     </message>
     <message>
         <source>Inspection report</source>
@@ -2222,10 +2237,6 @@
         <translation>Export</translation>
     </message>
     <message>
-        <source>Save the picture with its overlay, or the values</source>
-        <translation>Das Bild mit Modell oder die Werte sichern</translation>
-    </message>
-    <message>
         <source>Picture with overlay (PNG)</source>
         <translation>Bild mit Modell (PNG)</translation>
     </message>
@@ -2268,6 +2279,14 @@
     <message>
         <source> · %1 × %2</source>
         <translation> · %1 × %2</translation>
+    </message>
+    <message>
+        <source>Save the picture with its overlay, the values, or a report</source>
+        <translation>Das Bild mit Modell, die Werte oder einen Bericht sichern</translation>
+    </message>
+    <message>
+        <source>Report on all pictures (PDF)</source>
+        <translation>Bericht über alle Bilder (PDF)</translation>
     </message>
 </context>
 <context>

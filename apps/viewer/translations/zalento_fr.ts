@@ -759,6 +759,10 @@
         <source>Copied: %1</source>
         <translation>Copié : %1</translation>
     </message>
+    <message>
+        <source>A report is being written already.</source>
+        <translation>Un rapport est déjà en cours d&apos;écriture.</translation>
+    </message>
 </context>
 <context>
     <name>Drevon::Zalento::FeatureModel</name>
@@ -1110,6 +1114,17 @@
     <message>
         <source>Pipe record: %1 %2.</source>
         <translation>Fiche tuyau : %1 %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Drevon::Zalento::ReportJob</name>
+    <message>
+        <source>Report: page %1 of %2</source>
+        <translation>Rapport : page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Écrit : %1</translation>
     </message>
 </context>
 <context>
@@ -1940,7 +1955,7 @@
     </message>
     <message>
         <source>Without its overlay: nobody has set what it shows.</source>
-        <translation>Sans sa superposition : personne n&apos;a réglé ce qu&apos;elle montre.</translation>
+        <translation>Sans le modèle : personne n&apos;a réglé ce qu&apos;il montre.</translation>
     </message>
     <message>
         <source>Inspection report</source>
@@ -2222,10 +2237,6 @@
         <translation>Export</translation>
     </message>
     <message>
-        <source>Save the picture with its overlay, or the values</source>
-        <translation>Enregistrer l&apos;image avec le modèle, ou les valeurs</translation>
-    </message>
-    <message>
         <source>Picture with overlay (PNG)</source>
         <translation>Image avec modèle (PNG)</translation>
     </message>
@@ -2268,6 +2279,14 @@
     <message>
         <source> · %1 × %2</source>
         <translation> · %1 × %2</translation>
+    </message>
+    <message>
+        <source>Save the picture with its overlay, the values, or a report</source>
+        <translation>Enregistrer l&apos;image avec le modèle, les valeurs ou un rapport</translation>
+    </message>
+    <message>
+        <source>Report on all pictures (PDF)</source>
+        <translation>Rapport sur toutes les images (PDF)</translation>
     </message>
 </context>
 <context>
