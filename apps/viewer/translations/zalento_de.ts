@@ -1948,8 +1948,6 @@
         <translation>eine andere Messung heißt &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>the name of a measurement</source>
-        <translation>der Name einer Messung</translation>
         <source>The picture has changed since it was measured.</source>
         <translation>Das Bild hat sich geändert, seit es vermessen wurde.</translation>
     </message>
@@ -2228,6 +2226,10 @@
     <message>
         <source>%1; not determined: %2</source>
         <translation>%1; nicht bestimmt: %2</translation>
+    </message>
+    <message>
+        <source>the name of a measurement</source>
+        <translation>der Name einer Messung</translation>
     </message>
 </context>
 <context>

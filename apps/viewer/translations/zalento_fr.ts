@@ -1948,8 +1948,6 @@
         <translation>une autre mesure s’appelle &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>the name of a measurement</source>
-        <translation>le nom d’une mesure</translation>
         <source>The picture has changed since it was measured.</source>
         <translation>L&apos;image a changé depuis sa mesure.</translation>
     </message>
@@ -2228,6 +2226,10 @@
     <message>
         <source>%1; not determined: %2</source>
         <translation>%1 ; non déterminé : %2</translation>
+    </message>
+    <message>
+        <source>the name of a measurement</source>
+        <translation>le nom d’une mesure</translation>
     </message>
 </context>
 <context>
