@@ -2,6 +2,7 @@
 #include "Camera.h"
 #include "Render.h"
 #include "measuring/LensEstimate.h"
+#include "measuring/Measurands.h"
 #include "measuring/SessionFit.h"
 #include "measuring/SessionLens.h"
 #include "support/PictureFiles.h"
@@ -294,6 +295,9 @@ void TestLens::clicksFollowThePicture()
     session.points = {{QPointF(300, 200), Drevon::Zalento::Vec3(0.3, 0.2, 0), {}}};
     session.rings = {{0.0, {{700, 100}, {1200, 600}, {20, 40}}}};
     session.lines = {{{{640, 360}, {30, 700}}}};
+    addMeasurand(session, Kind::CrackWidth);
+    session.points = {{QPointF(900, 600), Drevon::Zalento::Vec3(0.9, 0.8, 0), {}}};
+    takeMeasurand(session, 0);
     const Session before = session;
     Lens lens = lensWith({-0.3, 0.1, 0, 0});
     QVERIFY(!takeLens(session, lens));
@@ -304,6 +308,8 @@ void TestLens::clicksFollowThePicture()
                 mappingTolerancePX);
     }
     QVERIFY(distance(session.points[0].pixel, {300, 200}) > 1.0);
+    QVERIFY(distance(*mapping.toTaken(withMeasurand(session, 1).points[0].pixel), {900, 600}) <
+            mappingTolerancePX);
     COMPARE_NEAR(*session.mmPerPixel, 0.5 * 900.0 / mapping.focalLengthPX(), roundingTolerance);
 
     lens.view = LensView::All;
