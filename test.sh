@@ -5,13 +5,14 @@ cd "$(dirname "$0")"
 
 usage() {
     cat <<END
-Usage: ./test.sh [--quick] [--target TARGET] [--help]
+Usage: ./test.sh [--quick] [--qt VERSION] [--target TARGET] [--help]
 
 Installs what is missing, builds everything, and runs every test: as developers build it (dev), then
-with checks for memory errors and undefined behaviour (asan), then with checks for data races (tsan).
-Ends with CTest's own summaries, that of dev last. Fails when a step or a test fails.
+with checks for memory errors and undefined behaviour (asan), then with checks for data races (tsan),
+then with Qt 6. Ends with CTest's own summaries, that of dev last. Fails when a step or a test fails.
 
-  --quick           the first of the three only
+  --quick           the first of the four only
+  --qt VERSION      5 or 6: with that version of Qt only, as developers build it
   --target TARGET   armhf or arm64: cross-build, and run the unit tests and the command-line program in
                     an emulator. Makes build/sysroot-TARGET once, from this machine's package mirror.
   --help            this text
@@ -25,6 +26,7 @@ refuse() {
 }
 
 quick=no
+qt=
 target=
 while [ $# -gt 0 ]; do
     case $1 in
@@ -34,6 +36,12 @@ while [ $# -gt 0 ]; do
             target=$2
             shift
             ;;
+        --qt)
+            [ $# -ge 2 ] || refuse "--qt needs a value"
+            qt=$2
+            shift
+            ;;
+        --qt=*) qt=${1#--qt=} ;;
         --target=*) target=${1#--target=} ;;
         --help | -h)
             usage
@@ -43,6 +51,11 @@ while [ $# -gt 0 ]; do
     esac
     shift
 done
+case $qt in
+    '' | 5 | 6) ;;
+    *) refuse "unknown version of Qt: $qt" ;;
+esac
+[ -z "$qt" ] || [ -z "$target" ] || refuse "--qt and --target do not go together"
 case $target in
     '' | armhf | arm64) ;;
     *) refuse "unknown target: $target" ;;
@@ -73,18 +86,25 @@ $summaries"
 
 summaries=
 stage "Packages"
-scripts/setup.sh build test ${target:+"$target"}
+sets="build test"
+case "$qt:$quick:$target" in
+    6:*: | :no:) sets="$sets qt6" ;;
+esac
+scripts/setup.sh $sets ${target:+"$target"}
 
 if [ -n "$target" ]; then
     scripts/make-sysroot.sh "$target"
     run_stage "$target" "Cross-built for $target, emulated"
     stage "Measured values of the samples: this machine and $target"
     scripts/compare-values.sh release "$target"
+elif [ "$qt" = 6 ]; then
+    run_stage dev-qt6 "Development build with Qt 6"
 else
     run_stage dev "Development build"
-    if [ "$quick" = no ]; then
+    if [ "$quick" = no ] && [ -z "$qt" ]; then
         run_stage asan "Memory and undefined behaviour"
         run_stage tsan "Data races"
+        run_stage dev-qt6 "Development build with Qt 6"
     fi
 fi
 

@@ -12,7 +12,7 @@ install(TARGETS ${installed_targets} EXPORT ZalentoTargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 # Headers that only our own sources include stay at home.
-set(internal_headers CLocale.h CompletePicture.h FitCamera.h FitDrawing.h FitOutliers.h FitPlan.h
+set(internal_headers CLocale.h CompletePicture.h Count.h FitCamera.h FitDrawing.h FitOutliers.h FitPlan.h
   FitProblem.h FitStart.h MarkerPens.h MatchedCurve.h MeasuringModel.h ModelPlace.h
   ModelViewScope.h PainterPens.h PictureEdges.h ReportDocument.h ReportPages.h ReportPicture.h
   ReportSection.h ReportText.h RingSearch.h UncertaintyFactors.h clearVectorRegisters.h roundStep.h
@@ -28,7 +28,7 @@ endif()
 
 # The QML module. Qt finds it where its own modules lie in a system prefix; elsewhere the folder
 # goes into QML2_IMPORT_PATH. It finds the library from wherever the tree has been moved to.
-set(qml_module_dir "${CMAKE_INSTALL_LIBDIR}/qt5/qml/Drevon/Zalento")
+set(qml_module_dir "${CMAKE_INSTALL_LIBDIR}/qt${ZALENTO_QT}/qml/Drevon/Zalento")
 install(TARGETS zalentoplugin LIBRARY DESTINATION "${qml_module_dir}")
 install(FILES "${PROJECT_SOURCE_DIR}/qml/qmldir" "${PROJECT_SOURCE_DIR}/qml/plugins.qmltypes"
   DESTINATION "${qml_module_dir}")

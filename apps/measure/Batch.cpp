@@ -2,6 +2,7 @@
 
 #include "measure/LibraryMessages.h"
 
+#include "measuring/Count.h"
 #include "measuring/Editing.h"
 #include "measuring/LensEstimate.h"
 #include "measuring/Limit.h"
@@ -407,7 +408,7 @@ void Batch::tellValues(Work &work) const
     PictureResult &result = work.result;
     const bool isOne = !m_command.measurement.isEmpty();
     const int atHand = measurandAtHand(work.session);
-    const int count = measurandsOf(work.session).size();
+    const int count = countOf(measurandsOf(work.session));
     for (int number = isOne ? atHand : 0; number < (isOne ? atHand + 1 : count); ++number) {
         const PictureValues values = valuesOf(withMeasurand(work.session, number), work);
         if (number == atHand) {
@@ -575,7 +576,7 @@ void Batch::snap(Work &work) const
     const Result<Snap> found = snapToEdges(work.session, work.picture.image);
     work.snap = SnapSummary();
     if (found) {
-        work.snap->edgePoints = found->edgePoints.size();
+        work.snap->edgePoints = countOf(found->edgePoints);
         work.snap->rmsPX = found->rmsPX;
     } else {
         work.snap->reason = found.problem().what;
@@ -597,7 +598,7 @@ Outcome Batch::placeClicks(Work &work) const
 {
     Outcome problem;
     forEachMeasurand(work.session, [&](Session &session) {
-        const int pointCount = session.points.size();
+        const int pointCount = countOf(session.points);
         const QVector<QPointF> missed = placePoints(session);
         if (missed.isEmpty()) {
             work.result.warnings += pointWarnings(session, pointCount);

@@ -1,5 +1,7 @@
 #include "measure/LensCalibration.h"
 
+#include "measuring/Count.h"
+
 #include "measuring/Picture.h"
 
 #include <opencv2/calib3d.hpp>
@@ -62,7 +64,7 @@ double blurOf(const cv::Mat &grey, const BoardOptions &board,
 // Of the corners, on the average; boards look the same when turned by half.
 double moveBetween(const BoardPicture &a, const BoardPicture &b)
 {
-    const int count = a.corners.size();
+    const int count = countOf(a.corners);
     double straight = 0.0;
     double turned = 0.0;
     for (int i = 0; i < count; ++i) {
@@ -277,7 +279,7 @@ QByteArray lensFile(const LensCalibration &calibration, const BoardOptions &boar
     file << "distortion_model"
          << "plumb_bob";
     file << "distortion_coefficients"
-         << cv::Mat(1, lens.distortion.size(), CV_64F,
+         << cv::Mat(1, countOf(lens.distortion), CV_64F,
                     const_cast<double *>(lens.distortion.data()));
     file << "focal_length_standard_deviation" << *lens.focalLengthSDPX;
     file << "standard_deviations"

@@ -1,5 +1,7 @@
 #include "measure/Progress.h"
 
+#include "measuring/Count.h"
+
 #include <QFileDevice>
 
 #include <unistd.h>
@@ -57,7 +59,7 @@ void Progress::show(int done, int count)
     const QByteArray line =
         QStringLiteral("%1 of %2, %3 left").arg(done).arg(count).arg(durationText(leftMS)).toUtf8();
     m_messages.write('\r' + line.leftJustified(m_width));
-    m_width = line.size();
+    m_width = Measuring::countOf(line);
     m_sinceShown.start();
 }
 

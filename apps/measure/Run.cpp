@@ -11,6 +11,7 @@
 #include "measure/ValuePrinter.h"
 
 #include "measuring/CalibrationFile.h"
+#include "measuring/Count.h"
 #include "measuring/Lens.h"
 #include "measuring/OutputFile.h"
 #include "measuring/Report.h"
@@ -237,7 +238,7 @@ void measureAll(const CommandLine &command, const std::optional<Session> &sessio
                 const QVector<PictureRequest> &requests, Console &console, const TakeResult &take)
 {
     const bool isRender = command.verb == Verb::Render || command.verb == Verb::Unroll;
-    const int count = requests.size();
+    const int count = countOf(requests);
     OrderedJobs jobs(command.jobs);
     Batch batch(command, session, jobs);
     std::vector<std::shared_ptr<Batch::Work>> works(requests.size());
@@ -259,7 +260,7 @@ void printAll(const CommandLine &command, const std::optional<Session> &session,
     measureAll(command, session, requests, console, [&](const PictureResult &result, int number) {
         console.print(printer.result(result.all(), number));
     });
-    console.print(printer.end(requests.size()));
+    console.print(printer.end(countOf(requests)));
 }
 
 void reportAll(const CommandLine &command, const std::optional<Session> &session,
@@ -283,7 +284,7 @@ void reportAll(const CommandLine &command, const std::optional<Session> &session
     writer.addOverview(report);
     for (int i = 0; i < report.pictures.size(); ++i) {
         writer.addPage(report, i);
-        console.showProgress(i + 1, report.pictures.size());
+        console.showProgress(i + 1, countOf(report.pictures));
     }
     if (const Outcome problem = writer.finish()) {
         console.fail(CannotReadOrWrite, problem->text());
@@ -330,7 +331,7 @@ void makeLens(const CommandLine &command, QIODevice &input, Console &console)
     const QVector<PictureRequest> requests = listPictures(*names, command.recursive);
     for (const PictureRequest &request : requests) {
         boards += findBoard(request, command.board, boards);
-        console.showProgress(boards.size(), requests.size());
+        console.showProgress(countOf(boards), countOf(requests));
     }
     const LensCalibration calibration = calibrateLens(boards, command.board);
     tellBoards(calibration, console);

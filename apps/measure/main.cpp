@@ -3,7 +3,9 @@
 
 #include <QFile>
 #include <QGuiApplication>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
+#endif
 
 #include <cstdio>
 
@@ -80,7 +82,9 @@ int main(int argc, char **argv)
     // The application takes options of its own, such as -platform: it gets none to take.
     int ownCount = argc > 0 ? 1 : 0;
     const QGuiApplication application(ownCount, argv);
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // as Qt 6 has it
+#endif
 
     QFile input;
     QFile output;

@@ -2,6 +2,7 @@
 
 #include "PictureProvider.h"
 
+#include "measuring/Count.h"
 #include "measuring/PlaceUncertainty.h"
 #include "measuring/UncertaintyText.h"
 
@@ -193,7 +194,7 @@ QString Assessment::repeats() const
     if (!m_editor.isReady()) {
         return {};
     }
-    const int kept = m_editor.session()->repeats.size();
+    const int kept = Measuring::countOf(m_editor.session()->repeats);
     if (values.isEmpty()) {
         return kept > 0 ? tr("%n result(s) kept", nullptr, kept) : QString();
     }

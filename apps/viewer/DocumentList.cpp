@@ -1,5 +1,6 @@
 #include "DocumentList.h"
 
+#include "measuring/Count.h"
 #include "measuring/Editing.h"
 #include "measuring/Kind.h"
 #include "measuring/Measurands.h"
@@ -308,7 +309,7 @@ void DocumentList::placePoints(Document &document)
 {
     int missed = 0;
     Measuring::forEachMeasurand(*document.session, [&missed](Session &session) {
-        missed += Measuring::placePoints(session).size();
+        missed += Measuring::countOf(Measuring::placePoints(session));
     });
     if (missed > 0) {
         m_guidance.notice(

@@ -1,6 +1,7 @@
 // The editor's joints and lines, to which the model is fitted.
 #include "MeasurementEditor.h"
 
+#include "measuring/Count.h"
 #include "measuring/SessionFit.h"
 #include "measuring/SessionLens.h"
 #include "measuring/Snap.h"
@@ -48,7 +49,7 @@ bool takeOutClick(QVector<Clicks> &features, int &number)
             }
             return true;
         }
-        number -= clicks.size();
+        number -= Measuring::countOf(clicks);
     }
     return false;
 }
@@ -253,7 +254,7 @@ bool MeasurementEditor::nudgeAlignmentClick(const QPointF &step)
 int MeasurementEditor::featureCount() const
 {
     const Session shown = sessionCopy();
-    return m_tool == Tool::Line ? shown.lines.size() : shown.rings.size();
+    return m_tool == Tool::Line ? Measuring::countOf(shown.lines) : Measuring::countOf(shown.rings);
 }
 
 void MeasurementEditor::goOnWithLastFeature()
@@ -275,7 +276,7 @@ void MeasurementEditor::removeFeature(int row)
         return;
     }
     Session session = sessionCopy();
-    const int line = row - session.rings.size();
+    const int line = row - Measuring::countOf(session.rings);
     if (line < 0) {
         session.rings.removeAt(row);
     } else {
@@ -344,7 +345,7 @@ void MeasurementEditor::snap()
     }
     change(tr("Snap"), session, Moves::Model);
     m_guidance.notice(Guidance::Information, tr("The joint's edge was found at %n place(s).",
-                                                nullptr, found->edgePoints.size()));
+                                                nullptr, Measuring::countOf(found->edgePoints)));
 }
 
 } // namespace Drevon::Zalento

@@ -2,6 +2,7 @@
 #include "MeasurementEditor.h"
 #include "ModelDrag.h"
 
+#include "measuring/Count.h"
 #include "measuring/Editing.h"
 #include "measuring/PipeView.h"
 
@@ -259,7 +260,7 @@ void MeasurementEditor::addLaserSpot(const QPointF &pixel)
 {
     const QVariantList spots = m_laserSpots + QVariantList{pixel};
     if (spots.size() < Measuring::laserSpotCount) {
-        expectLaserSpots(Measuring::laserSpotCount - spots.size(), spots);
+        expectLaserSpots(Measuring::laserSpotCount - Measuring::countOf(spots), spots);
         return;
     }
     expectLaserSpots(0, {});

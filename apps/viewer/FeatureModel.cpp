@@ -1,5 +1,7 @@
 #include "FeatureModel.h"
 
+#include "measuring/Count.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -36,17 +38,18 @@ void FeatureModel::setFeatures(const Measuring::Session &session,
     for (int i = 0; i < session.rings.size(); ++i) {
         const Measuring::RingClicks &ring = session.rings[i];
         const auto residuals = fit ? fit->ringResiduals.value(i) : QVector<QPointF>();
-        rows.append({tr("Joint %1").arg(i + 1), false,
-                     ring.distanceMM ? QString::number(*ring.distanceMM) : QString(),
-                     noteOf(ring.points.size(), Measuring::smallestRingClicks, residuals)});
+        rows.append(
+            {tr("Joint %1").arg(i + 1), false,
+             ring.distanceMM ? QString::number(*ring.distanceMM) : QString(),
+             noteOf(Measuring::countOf(ring.points), Measuring::smallestRingClicks, residuals)});
     }
     for (int i = 0; i < session.lines.size(); ++i) {
         const auto residuals = fit ? fit->lineResiduals.value(i) : QVector<QPointF>();
-        rows.append(
-            {tr("Line %1").arg(i + 1),
-             true,
-             {},
-             noteOf(session.lines[i].points.size(), Measuring::smallestLineClicks, residuals)});
+        rows.append({tr("Line %1").arg(i + 1),
+                     true,
+                     {},
+                     noteOf(Measuring::countOf(session.lines[i].points),
+                            Measuring::smallestLineClicks, residuals)});
     }
     setRows(rows);
 }
@@ -67,13 +70,13 @@ void FeatureModel::setRows(const QVector<Row> &rows)
     }
     m_rows = rows;
     if (!m_rows.isEmpty()) {
-        Q_EMIT dataChanged(index(0), index(m_rows.size() - 1));
+        Q_EMIT dataChanged(index(0), index(Measuring::countOf(m_rows) - 1));
     }
 }
 
 int FeatureModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : m_rows.size();
+    return parent.isValid() ? 0 : Measuring::countOf(m_rows);
 }
 
 QVariant FeatureModel::data(const QModelIndex &index, int role) const

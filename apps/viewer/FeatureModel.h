@@ -1,6 +1,7 @@
 #pragma once
 
 #include "measuring/AlignmentFit.h"
+#include "measuring/Count.h"
 #include "measuring/Session.h"
 
 #include <QAbstractListModel>
@@ -27,7 +28,7 @@ public:
                      const std::optional<Measuring::AlignmentFit> &fit);
     void clear();
 
-    int count() const { return m_rows.size(); }
+    int count() const { return Measuring::countOf(m_rows); }
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;

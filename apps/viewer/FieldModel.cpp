@@ -1,5 +1,7 @@
 #include "FieldModel.h"
 
+#include "measuring/Count.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -128,7 +130,7 @@ void FieldModel::retranslate()
 
 int FieldModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : m_rows.size();
+    return parent.isValid() ? 0 : Measuring::countOf(m_rows);
 }
 
 QVariant FieldModel::data(const QModelIndex &index, int role) const

@@ -1,5 +1,7 @@
 #include "Guidance.h"
 
+#include "measuring/Count.h"
+
 #include <algorithm>
 
 namespace Drevon::Zalento {
@@ -19,7 +21,8 @@ QString alignment(const Situation &s)
             "Click along a feature of the wall that runs along the pipe: a seam, the water's "
             "edge. \"Points\" goes back to measuring.");
     }
-    const int clicks = s.session.rings.isEmpty() ? 0 : s.session.rings.last().points.size();
+    const int clicks =
+        s.session.rings.isEmpty() ? 0 : Measuring::countOf(s.session.rings.last().points);
     return clicks < Measuring::smallestRingClicks
                ? Guidance::tr(
                      "Click on the edge of a joint: from the third click on the ring follows.")
@@ -30,7 +33,7 @@ QString alignment(const Situation &s)
 QString nextStep(const Situation &s)
 {
     const auto &texts = Measuring::infoOf(s.session.kind).guidance;
-    const int count = s.session.points.size();
+    const int count = Measuring::countOf(s.session.points);
     if (s.canClose) {
         const QString closing = Guidance::tr(
             "A click sets point %1; inside the dots it closes the outline. Shift+click, or a "

@@ -31,6 +31,15 @@ void use(QTranslator &translator, const QString &name, const QString &folder)
     }
 }
 
+QString translationsOfQt()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
+}
+
 } // namespace
 
 void useLanguage(const QString &language)
@@ -38,8 +47,7 @@ void useLanguage(const QString &language)
     static QTranslator texts; // plural forms are a translation's even in English
     static QTranslator systemTexts;
     const QString code = spokenLanguage(language);
-    use(systemTexts, QStringLiteral("qtbase_") + code,
-        QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    use(systemTexts, QStringLiteral("qtbase_") + code, translationsOfQt());
     use(texts, QStringLiteral("zalento_") + code, QStringLiteral(":/translations"));
 }
 

@@ -4,6 +4,8 @@
 
 #include "measuring/OtherOverlays.h"
 
+#include "measuring/Count.h"
+
 #include <QAbstractListModel>
 #include <QString>
 #include <QVector>
@@ -29,7 +31,7 @@ public:
 
     MeasurementModel(DocumentList &documents, MeasurementEditor &editor);
 
-    int count() const { return m_rows.size(); }
+    int count() const { return Measuring::countOf(m_rows); }
     int chosen() const { return m_chosen; }
     bool isAllShown() const { return m_isAllShown; }
     void setIsAllShown(bool shown);

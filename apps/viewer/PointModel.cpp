@@ -1,5 +1,7 @@
 #include "PointModel.h"
 
+#include "measuring/Count.h"
+
 #include <QLineF>
 
 namespace Drevon::Zalento {
@@ -34,10 +36,10 @@ void PointModel::setPoints(const QVector<QPointF> &points)
         return;
     }
     const bool isOtherCount = points.size() != m_points.size();
-    resizeTo(points.size());
+    resizeTo(Measuring::countOf(points));
     m_points = points;
     if (!m_points.isEmpty()) {
-        Q_EMIT dataChanged(index(0), index(m_points.size() - 1), {PixelRole});
+        Q_EMIT dataChanged(index(0), index(Measuring::countOf(m_points) - 1), {PixelRole});
     }
     if (isOtherCount) {
         Q_EMIT countChanged();
@@ -48,11 +50,11 @@ void PointModel::setPoints(const QVector<QPointF> &points)
 void PointModel::resizeTo(int count)
 {
     if (count > m_points.size()) {
-        beginInsertRows({}, m_points.size(), count - 1);
+        beginInsertRows({}, Measuring::countOf(m_points), count - 1);
         m_points.resize(count);
         endInsertRows();
     } else if (count < m_points.size()) {
-        beginRemoveRows({}, count, m_points.size() - 1);
+        beginRemoveRows({}, count, Measuring::countOf(m_points) - 1);
         m_points.resize(count);
         endRemoveRows();
     }
@@ -60,7 +62,7 @@ void PointModel::resizeTo(int count)
 
 int PointModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : m_points.size();
+    return parent.isValid() ? 0 : Measuring::countOf(m_points);
 }
 
 QVariant PointModel::data(const QModelIndex &index, int role) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "measuring/Count.h"
+
 #include <QAbstractListModel>
 #include <QPointF>
 #include <QVariantList>
@@ -21,7 +23,7 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    int count() const { return m_points.size(); }
+    int count() const { return Measuring::countOf(m_points); }
     QVariantList pixels() const;
     QPointF at(int index) const { return m_points.at(index); }
     /** The point within @p radius pixels of @p pixel that is nearest to it, or -1. */

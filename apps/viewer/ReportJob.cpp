@@ -1,5 +1,7 @@
 #include "ReportJob.h"
 
+#include "measuring/Count.h"
+
 namespace Drevon::Zalento {
 
 ReportJob::ReportJob(Guidance &guidance)
@@ -26,7 +28,7 @@ Measuring::Outcome ReportJob::start(Measuring::Report report, const QString &pat
 
 void ReportJob::writeNext()
 {
-    const int count = m_report.pictures.size();
+    const int count = Measuring::countOf(m_report.pictures);
     if (m_written == count) {
         end();
         return;

@@ -45,7 +45,7 @@ void chooseRenderer()
 {
     QOpenGLContext context;
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !context.create()) {
-        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+        QQuickWindow::setSceneGraphBackend(QStringLiteral("software"));
     }
 }
 
@@ -55,7 +55,9 @@ int main(int argc, char *argv[])
 {
     using namespace Drevon::Zalento;
 
-    QGuiApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QGuiApplication::setAttribute(Qt::AA_EnableHighDpiScaling); // Qt 6 always does
+#endif
     letHelpDoWithoutDisplay(argc, argv);
     qInstallMessageHandler(explainMissingDisplay);
     QGuiApplication app(argc, argv);

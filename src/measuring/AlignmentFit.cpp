@@ -1,5 +1,6 @@
 #include "measuring/AlignmentFit.h"
 
+#include "measuring/Count.h"
 #include "measuring/FitCamera.h"
 #include "measuring/FitDrawing.h"
 #include "measuring/FitOutliers.h"
@@ -369,7 +370,7 @@ Result<AlignmentFit> fitAlignment(const AlignmentClicks &clicks, const Alignment
     FitProblem numbers{picture, diameterMM, {}, {}, {}};
     const AlignmentNumbers fields = start.numbers();
     numbers.values.assign(fields.begin(), fields.end());
-    numbers.values.resize(placeOfLine(clicks, clicks.lines.size()));
+    numbers.values.resize(placeOfLine(clicks, countOf(clicks.lines)));
 
     Result<Fitting> fitting = fittedWhereDetermined(clicks, numbers, spreadPX);
     if (!fitting) {

@@ -1,5 +1,6 @@
 #include "measuring/Editing.h"
 
+#include "measuring/Count.h"
 #include "measuring/Measurands.h"
 #include "measuring/PipeView.h"
 #include "measuring/Text.h"
@@ -200,7 +201,7 @@ bool movePoint(Session &session, int index, const QPointF &pixel)
     if (!position) {
         return false;
     }
-    const int last = session.points.size() - 1;
+    const int last = countOf(session.points) - 1;
     const bool isSeam = isClosedOutline(session) && (index == 0 || index == last);
     for (const int moved : {index, isSeam ? last - index : index}) {
         session.points[moved].pixel = pixel;

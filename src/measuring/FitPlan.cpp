@@ -1,5 +1,7 @@
 #include "measuring/FitPlan.h"
 
+#include "measuring/Count.h"
+
 #include "zalento/math/angles.h"
 #include "zalento/pipes/gestureUnits.h"
 
@@ -211,7 +213,7 @@ std::size_t placeOfRing(int ring)
 
 std::size_t placeOfLine(const AlignmentClicks &clicks, int line)
 {
-    return placeOfRing(clicks.rings.size()) + static_cast<std::size_t>(line);
+    return placeOfRing(countOf(clicks.rings)) + static_cast<std::size_t>(line);
 }
 
 FitTargets possibleTargets(const AlignmentClicks &clicks)

@@ -1,6 +1,7 @@
 #include "measuring/Lens.h"
 
 #include "measuring/AlignmentFit.h"
+#include "measuring/Count.h"
 #include "measuring/Text.h"
 
 #include <algorithm>
@@ -75,7 +76,7 @@ Outcome checkMatrix(const std::array<double, 9> &matrix)
 
 Outcome checkDistortion(const QVector<double> &distortion)
 {
-    const int count = distortion.size();
+    const int count = countOf(distortion);
     if (count != 4 && count != 5 && count != 8) {
         return fieldProblem("distortion",
                             Text::tr("expected 4, 5 or 8 numbers, found %1").arg(count));

@@ -1,5 +1,6 @@
 #include "measuring/LensEstimate.h"
 
+#include "measuring/Count.h"
 #include "measuring/FitPlan.h"
 #include "measuring/FitStart.h"
 #include "measuring/SessionFit.h"
@@ -156,7 +157,7 @@ private:
         FitProblem numbers{straight.picture.size, straight.diameterMM, {}, {}, {}};
         const AlignmentNumbers fields = alignmentOf(straight).numbers();
         numbers.values.assign(fields.begin(), fields.end());
-        numbers.values.resize(placeOfLine(clicks, clicks.lines.size()));
+        numbers.values.resize(placeOfLine(clicks, countOf(clicks.lines)));
         const FitTargets targets = possibleTargets(clicks);
         const FitProblem problem = problemFor(clicks, numbers, targets);
         Trial best;

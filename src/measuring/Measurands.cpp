@@ -1,5 +1,6 @@
 #include "measuring/Measurands.h"
 
+#include "measuring/Count.h"
 #include "measuring/Editing.h"
 #include "measuring/Text.h"
 
@@ -36,7 +37,7 @@ bool isBegun(const Session &session)
 
 std::optional<int> lastOfKind(const QVector<Measurand> &measurands, Kind kind)
 {
-    for (int number = measurands.size() - 1; number >= 0; --number) {
+    for (int number = countOf(measurands) - 1; number >= 0; --number) {
         if (measurands[number].kind == kind) {
             return number;
         }
@@ -64,7 +65,7 @@ QVector<Measurand> measurandsOf(const Session &session)
 
 int measurandAtHand(const Session &session)
 {
-    return session.measurandsBefore.size();
+    return countOf(session.measurandsBefore);
 }
 
 void takeMeasurand(Session &session, int number)
@@ -101,7 +102,7 @@ void addMeasurand(Session &session, Kind kind)
     startKind(added, kind);
     added.name = freeName(measurands, kind);
     measurands += added;
-    setMeasurands(session, measurands, measurands.size() - 1);
+    setMeasurands(session, measurands, countOf(measurands) - 1);
 }
 
 void changeKind(Session &session, Kind kind)
@@ -142,7 +143,7 @@ void removeMeasurand(Session &session, int number)
     measurands.remove(number);
     const int atHand = measurandAtHand(session);
     const int next = number < atHand ? atHand - 1 : atHand;
-    setMeasurands(session, measurands, std::min(next, measurands.size() - 1));
+    setMeasurands(session, measurands, std::min(next, countOf(measurands) - 1));
 }
 
 void forEachMeasurand(Session &session, const std::function<void(Session &)> &edit)

@@ -1,5 +1,7 @@
 #include "measuring/OverlayExport.h"
 
+#include "measuring/Count.h"
+
 #include <QBuffer>
 #include <QFontMetrics>
 #include <QPainter>
@@ -43,8 +45,8 @@ void paintLegend(QPainter &painter, const QSize &picture, MapQuantity quantity)
     font.setPixelSize(static_cast<int>(line * textPart));
     painter.setFont(font);
     const int width = QFontMetrics(font).horizontalAdvance(texts.first()) + 2 * line;
-    const QRect box(line, picture.height() - (texts.size() + 2) * line, width,
-                    (texts.size() + 1) * line);
+    const QRect box(line, picture.height() - (countOf(texts) + 2) * line, width,
+                    (countOf(texts) + 1) * line);
     painter.fillRect(box, legendColour);
     painter.setPen(Qt::white);
     QRect row(box.left() + line / 2, box.top() + line / 2, width - line, line);

@@ -1,5 +1,7 @@
 #include "measuring/Repeats.h"
 
+#include "measuring/Count.h"
+
 #include <cmath>
 
 namespace Drevon::Zalento::Measuring {
@@ -32,7 +34,7 @@ std::optional<RepeatStatistics> repeatStatistics(const Session &session, const V
         return std::nullopt;
     }
     RepeatStatistics statistics;
-    statistics.count = numbers.size();
+    statistics.count = countOf(numbers);
     for (const double number : numbers) {
         statistics.mean += number / statistics.count;
     }

@@ -1,5 +1,6 @@
 #include "measuring/ReportSection.h"
 
+#include "measuring/Count.h"
 #include "measuring/Editing.h"
 #include "measuring/Text.h"
 #include "measuring/roundStep.h"
@@ -163,7 +164,7 @@ private:
             m_painter.drawPolyline(places);
         }
         // The last point of a closed outline is its first.
-        const int count = isClosedOutline(m_session) ? places.size() - 1 : places.size();
+        const int count = isClosedOutline(m_session) ? countOf(places) - 1 : countOf(places);
         for (int i = 0; i < count; ++i) {
             paintPoint(places[i], QString::number(i + 1));
         }

@@ -1,5 +1,6 @@
 #include "measuring/RingSearch.h"
 
+#include "measuring/Count.h"
 #include "measuring/FitCamera.h"
 #include "measuring/Text.h"
 
@@ -331,9 +332,9 @@ Result<QVector<QPointF>> findRing(const RingCurve &curve, const PictureEdges &ed
     const Election election = elect(normals, reachPX);
     const auto count = static_cast<double>(normals.size());
     const Found found = pointsOn(normals, refined(normals, election.winner), election.winner.sign);
-    if (found.points.size() < smallestShare * count || found.gap > largestGap) {
+    if (countOf(found.points) < smallestShare * count || found.gap > largestGap) {
         return refusal(Text::tr("no edge runs along enough of the ring: found %1 % of it")
-                           .arg(qRound(100 * found.points.size() / count)));
+                           .arg(qRound(100 * countOf(found.points) / count)));
     }
     if (election.rival > largestRival * election.winner.votes) {
         return refusal(Text::tr("two edges fit the ring equally well"));

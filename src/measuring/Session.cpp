@@ -1,5 +1,6 @@
 #include "measuring/Session.h"
 
+#include "measuring/Count.h"
 #include "measuring/Limit.h"
 #include "measuring/Measurands.h"
 #include "measuring/Text.h"
@@ -365,7 +366,7 @@ Outcome checkSession(const Session &session)
             return problem;
         }
     }
-    const int spots = session.laserSpots.size();
+    const int spots = countOf(session.laserSpots);
     if (spots != 0 && spots != laserSpotCount) {
         return Problem{QStringLiteral("laserSpots"),
                        Text::tr("expected two places, found %1").arg(spots)};

@@ -1,5 +1,6 @@
 #include "measuring/SessionJson.h"
 
+#include "measuring/Count.h"
 #include "measuring/Measurands.h"
 #include "measuring/OrderedJson.h"
 #include "measuring/Text.h"
@@ -125,7 +126,7 @@ public:
     /** The numbers of a list, however many; nothing when the field is missing. */
     QVector<double> readNumbers(const char *name)
     {
-        const int count = m_rest.value(QLatin1String(name)).toArray().size();
+        const int count = countOf(m_rest.value(QLatin1String(name)).toArray());
         return readNumbers(name, count, QT_TRANSLATE_NOOP("Text", "a list of numbers"));
     }
 
@@ -626,7 +627,7 @@ void readFields(FieldReader &reader, Session &session, Outcome &problem)
 
 Problem parseProblem(const QByteArray &json, const QJsonParseError &error)
 {
-    const int line = json.left(error.offset).count('\n') + 1;
+    const int line = static_cast<int>(json.left(error.offset).count('\n')) + 1;
     return {{}, Text::tr("not a JSON object: %1 in line %2").arg(error.errorString()).arg(line)};
 }
 
@@ -640,7 +641,8 @@ QByteArray lensToJson(const Lens &lens)
     json.add(
         QStringLiteral("cameraMatrix"),
         arrayOf(lens.cameraMatrix.data(), lens.cameraMatrix.data() + lens.cameraMatrix.size()));
-    json.add(QStringLiteral("distortion"), arrayOf(lens.distortion.begin(), lens.distortion.end()));
+    json.add(QStringLiteral("distortion"),
+             arrayOf(lens.distortion.data(), lens.distortion.data() + lens.distortion.size()));
     if (lens.view != LensView::Square) {
         json.add(QStringLiteral("view"), lensViewName(lens.view));
     }

@@ -1,5 +1,6 @@
 #include "measuring/Snap.h"
 
+#include "measuring/Count.h"
 #include "measuring/FitCamera.h"
 #include "measuring/PictureEdges.h"
 #include "measuring/PipeView.h"
@@ -59,7 +60,7 @@ QVector<RingClicks> completeRings(const Session &session)
 QVector<QPointF> thinned(const QVector<QPointF> &points)
 {
     QVector<QPointF> kept;
-    const int count = std::min(keptPoints, points.size());
+    const int count = std::min(keptPoints, countOf(points));
     for (int i = 0; i < count; ++i) {
         kept += points[i * points.size() / count];
     }

@@ -64,7 +64,7 @@ public:
     explicit Sampler(const QImage &picture)
         : m_picture(picture.convertToFormat(QImage::Format_RGB32))
         , m_bits(reinterpret_cast<const QRgb *>(m_picture.constBits()))
-        , m_stride(m_picture.bytesPerLine() / static_cast<int>(sizeof(QRgb)))
+        , m_stride(static_cast<int>(m_picture.bytesPerLine()) / static_cast<int>(sizeof(QRgb)))
     {}
 
     // Clear beside the picture. Pixels have their colour in their middle.

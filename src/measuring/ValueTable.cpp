@@ -1,5 +1,6 @@
 #include "measuring/ValueTable.h"
 
+#include "measuring/Count.h"
 #include "measuring/Editing.h"
 #include "measuring/Measurands.h"
 #include "measuring/Text.h"
@@ -259,7 +260,7 @@ QString PictureValues::place() const
 
 AlignmentSummary alignmentSummary(const Session &session, const std::optional<AlignmentFit> &fit)
 {
-    return {alignmentOf(session), session.rings.size(), session.lines.size(), fit};
+    return {alignmentOf(session), countOf(session.rings), countOf(session.lines), fit};
 }
 
 PictureValues pictureValues(const QString &picture, const Session &session,

@@ -29,30 +29,42 @@ struct Fault
     bool isReadOnly = false; // the folder
 };
 
+// In the child, before the program begins.
+void suffer(const Fault &fault)
+{
+    const rlimit noCore{0, 0};
+    const rlimit files{fault.largestFile, fault.largestFile};
+    setrlimit(RLIMIT_CORE, &noCore);
+    setrlimit(RLIMIT_FSIZE, &files);
+    signal(SIGXFSZ, fault.killsAtLimit ? SIG_DFL : SIG_IGN);
+    // Root writes into every folder unless this is taken from it.
+    if (fault.isReadOnly && geteuid() == 0 &&
+        prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE, 0, 0, 0) != 0) {
+        _exit(1);
+    }
+}
+
 class Program : public QProcess
 {
 public:
     explicit Program(const Fault &fault)
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
         : m_fault(fault)
     {}
 
 protected:
     void setupChildProcess() override
     {
-        const rlimit noCore{0, 0};
-        const rlimit files{m_fault.largestFile, m_fault.largestFile};
-        setrlimit(RLIMIT_CORE, &noCore);
-        setrlimit(RLIMIT_FSIZE, &files);
-        signal(SIGXFSZ, m_fault.killsAtLimit ? SIG_DFL : SIG_IGN);
-        // Root writes into every folder unless this is taken from it.
-        if (m_fault.isReadOnly && geteuid() == 0 &&
-            prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE, 0, 0, 0) != 0) {
-            _exit(1);
-        }
+        suffer(m_fault);
     }
 
 private:
     Fault m_fault;
+#else
+    {
+        setChildProcessModifier([fault] { suffer(fault); });
+    }
+#endif
 };
 
 struct Run

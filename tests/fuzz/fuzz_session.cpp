@@ -1,6 +1,7 @@
 // The text of a session file.
 #include "FuzzInput.h"
 
+#include "measuring/Count.h"
 #include "measuring/Editing.h"
 #include "measuring/Measurement.h"
 #include "measuring/Replay.h"
@@ -48,8 +49,8 @@ void checkWrittenAgain(const Session &session, const QByteArray &read)
 void checkMeasured(Session session)
 {
     session.picture.size = smallPicture;
-    const int count = session.points.size();
-    const int missed = placePoints(session).size();
+    const int count = countOf(session.points);
+    const int missed = countOf(placePoints(session));
     FUZZ_VERIFY(session.points.size() + missed <= count);
     const Measurement measurement = measure(session);
     FUZZ_VERIFY(measurement.values.isEmpty() != (measurement.state == MeasureState::Measured));

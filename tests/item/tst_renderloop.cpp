@@ -90,7 +90,7 @@ void TestRenderLoop::initTestCase()
                       "WatchedItem {\n"
                       "    width: 400; height: 300\n"
                       "    iWantToMeasure: 'PipeDimension'\n"
-                      "    onMeasure1Changed: Witness.note(measure)\n"
+                      "    onMeasure1Changed: measure => Witness.note(measure)\n"
                       "}\n",
                       QUrl());
     m_item = qobject_cast<WatchedItem *>(component.create());

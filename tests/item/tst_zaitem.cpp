@@ -234,7 +234,8 @@ void TestZaItem::control_data()
     row("distance lasers", 0, "useDistanceLasers", true, true, "");
     row("diameter", 0, "diameter", 450.5, 450.5, "diameterChanged()");
     row("percent in, fraction out", 0, "percentage", 40.0, 0.4, "percentageChanged(40)");
-    row("percentage is not clamped", 0, "percentage", 140.0, 1.4, "percentageChanged(140)");
+    row("percentage is not clamped", 0, "percentage", 140.0, 140.0 * 0.01,
+        "percentageChanged(140)");
     row("camera height", 0, "cameraHeight", 30.0, 0.3, "cameraHeightChanged(30)");
     row("camera above the pipe", 0, "cameraHeight", 150.0, 1.0, "cameraHeightChanged(150)");
     row("camera below the pipe", 0, "cameraHeight", -5.0, 0.0, "cameraHeightChanged(-5)");

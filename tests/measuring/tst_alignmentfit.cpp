@@ -1,4 +1,6 @@
 #include "AlignmentTrial.h"
+
+#include "measuring/Count.h"
 #include "measuring/FitProblem.h"
 #include "support/TestCase.h"
 
@@ -57,7 +59,7 @@ void push(QVector<QPointF> &ring, int click, double px)
 {
     QPointF middle;
     for (const QPointF &p : ring) {
-        middle += p / ring.size();
+        middle += p / countOf(ring);
     }
     const QPointF way = ring[click] - middle;
     ring[click] += way * (px / std::hypot(way.x(), way.y()));

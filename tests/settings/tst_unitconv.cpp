@@ -127,7 +127,7 @@ void TestUnitConv::lengthText()
     const bool small = size == Small || size == LargeAndSmall;
     const CommaLocale comma; // has no influence
     QCOMPARE(UnitConv::lenStr(mm, unit, large, true, small), expected);
-    const int numberEnd = expected.indexOf(unit == metric ? ' ' : '\'');
+    const auto numberEnd = expected.indexOf(unit == metric ? ' ' : '\'');
     QCOMPARE(UnitConv::lenStr(mm, unit, large, false, small), expected.left(numberEnd));
 }
 

@@ -39,9 +39,16 @@ QString described(const ZASettings &s)
     const auto color = [](const QColor &c) {
         return c.isValid() ? c.name(QColor::HexArgb) : QString("invalid");
     };
+    // Qt's own form differs from version to version.
+    const auto font = [](const QFont &f) {
+        return QStringLiteral("%1,%2,%3,%4")
+            .arg(f.family())
+            .arg(f.pointSize())
+            .arg(f.bold() ? "bold" : "normal", f.italic() ? "italic" : "upright");
+    };
     return QStringList{"pipeDiameterMM " + QString::number(s.pipeDiameterMM),
-                       "fontSmall " + s.fontSmall.toString(),
-                       "fontLarge " + s.fontLarge.toString(),
+                       "fontSmall " + font(s.fontSmall),
+                       "fontLarge " + font(s.fontLarge),
                        "colBackground " + color(s.colBackground),
                        "colMeasures " + color(s.colMeasures),
                        "colCylinder1 " + color(s.colCylinder1),
@@ -117,8 +124,8 @@ void TestZASettings::write(const QByteArray &content) const
 void TestZASettings::startsWithDefaults()
 {
     const QString defaults = "pipeDiameterMM 300\n"
-                             "fontSmall Arial,8,-1,5,50,0,0,0,0,0\n"
-                             "fontLarge Arial,12,-1,5,75,0,0,0,0,0\n"
+                             "fontSmall Arial,8,normal,upright\n"
+                             "fontLarge Arial,12,bold,upright\n"
                              "colBackground #ff000000\n"
                              "colMeasures #ff00ffff\n"
                              "colCylinder1 #ff00ff00\n"
@@ -173,9 +180,9 @@ void TestZASettings::content_data()
         "fovYDEG 37.5");
     row("height that is no number", "fovYHeightMM=high", "fovYHeightMM 0");
     row("distance", "fovYDistanceMM=12.5", "fovYDistanceMM 12.5");
-    row("font", "fontSmall=\"Mono,9,-1,5,50,0,0,0,0,0\"", "fontSmall Mono,9,-1,5,50,0,0,0,0,0");
+    row("font", "fontSmall=\"Mono,9,-1,5,50,1,0,0,0,0\"", "fontSmall Mono,9,normal,italic");
     row("font of two numbers too few", "fontSmall=\"Mono,9,-1,5,50,0,0\"",
-        "fontSmall Arial,8,-1,5,50,0,0,0,0,0", "QFont::fromString");
+        "fontSmall Arial,8,normal,upright", "QFont::fromString");
 }
 
 void TestZASettings::content()

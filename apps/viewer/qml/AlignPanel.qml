@@ -49,7 +49,7 @@ Column {
         label: qsTr("Click")
         choices: [qsTr("points"), qsTr("joint"), qsTr("line")]
         current: Viewer.editor.tool
-        onChosen: Viewer.editor.tool = index
+        onChosen: index => Viewer.editor.tool = index
     }
     Repeater {
         model: Viewer.editor.features
@@ -138,6 +138,6 @@ Column {
         label: qsTr("Rings")
         choices: [qsTr("all"), qsTr("ends"), qsTr("none")]
         current: 2 - Viewer.editor.viewStyle
-        onChosen: Viewer.editor.viewStyle = 2 - index
+        onChosen: index => Viewer.editor.viewStyle = 2 - index
     }
 }

@@ -69,7 +69,7 @@ ViewerDialog {
                 label: qsTr("Shown")
                 choices: [qsTr("full square"), qsTr("all")]
                 current: Viewer.cameras.showsAll ? 1 : 0
-                onChosen: Viewer.cameras.showsAll = index === 1
+                onChosen: index => Viewer.cameras.showsAll = index === 1
             }
             Text {
                 text: qsTr("Kept for pictures of this size")

@@ -51,7 +51,7 @@ Column {
         label: qsTr("Seen")
         choices: [qsTr("downstream"), qsTr("upstream")]
         current: Viewer.editor.viewDownstream ? 0 : 1
-        onChosen: Viewer.editor.viewDownstream = index === 0
+        onChosen: index => Viewer.editor.viewDownstream = index === 0
     }
     Choice {
         visible: Viewer.editor.usesDirection
@@ -59,6 +59,6 @@ Column {
         label: qsTr("Shows")
         choices: [qsTr("bend"), qsTr("joint")]
         current: Viewer.editor.jointShown ? 1 : 0
-        onChosen: Viewer.editor.jointShown = index === 1
+        onChosen: index => Viewer.editor.jointShown = index === 1
     }
 }

@@ -34,7 +34,7 @@ ApplicationWindow {
         dark: Theme.quiet
         light: Theme.control
     }
-    onClosing: {
+    onClosing: close => {
         Viewer.preferences.windowSize = Qt.size(width, height)
         if (Viewer.documents.unsavedCount > 0) {
             close.accepted = false
@@ -52,7 +52,7 @@ ApplicationWindow {
         width: parent.width
         isLow: window.isLow
         commands: commands
-        onExportRequested: fileChooser.exportTo(what)
+        onExportRequested: what => fileChooser.exportTo(what)
         onRecordRequested: recordDialog.open()
         onCameraRequested: cameraDialog.open()
     }
@@ -109,8 +109,8 @@ ApplicationWindow {
 
     DropArea {
         anchors.fill: parent
-        onEntered: drag.accepted = drag.hasUrls
-        onDropped: Viewer.documents.openUrls(drop.urls)
+        onEntered: drag => drag.accepted = drag.hasUrls
+        onDropped: drop => Viewer.documents.openUrls(drop.urls)
         Rectangle {
             anchors.fill: parent
             visible: parent.containsDrag

@@ -59,7 +59,7 @@ FocusScope {
         else
             cursor = stageView.toPicture(Qt.point(width / 2, height / 2))
     }
-    Keys.onPressed: {
+    Keys.onPressed: event => {
         const length = event.modifiers & Qt.ShiftModifier ? 10 : 1
         const arrows = {}
         arrows[Qt.Key_Left] = [-1, 0]
@@ -82,8 +82,10 @@ FocusScope {
             isOverlayHidden = true
         }
     }
-    Keys.onReleased: if (event.key === Qt.Key_H && !event.isAutoRepeat)
-        isOverlayHidden = false
+    Keys.onReleased: event => {
+        if (event.key === Qt.Key_H && !event.isAutoRepeat)
+            isOverlayHidden = false
+    }
     onActiveFocusChanged: if (!activeFocus) isOverlayHidden = false
 
     StageView {
@@ -222,24 +224,24 @@ FocusScope {
         // A finger that zooms also turns a little; the roll starts beyond this.
         readonly property real twistSlack: 6
 
-        onTapped: {
+        onTapped: (position, isTouch) => {
             stage.forceActiveFocus()
             const near = stage.pointAt(position, isTouch)
             near >= 0 ? Viewer.editor.selectedPoint = near
                       : stage.clickAt(stageView.toPicture(position))
         }
-        onShiftTapped: {
+        onShiftTapped: position => {
             stage.forceActiveFocus()
             Viewer.editor.clickKeepingOpen(stageView.toPicture(position))
         }
-        onDragBegan: {
+        onDragBegan: (position, isTouch) => {
             stage.forceActiveFocus()
             const reach = (isTouch ? stage.fingerReach : stage.mouseReach) / stageView.scale
             pans = !Viewer.editor.beginDrag(stageView.toPicture(position), reach)
             lastPosition = position
             loupe.isWanted = isTouch && Viewer.editor.isDraggingPoint()
         }
-        onDragged: {
+        onDragged: position => {
             if (pans)
                 stageView.panBy(position.x - lastPosition.x, position.y - lastPosition.y)
             else
@@ -253,15 +255,15 @@ FocusScope {
             if (!pans)
                 Viewer.editor.endDrag()
         }
-        onPanned: stageView.panBy(dx, dy)
-        onAimed: loupe.aim = position
-        onAimEnded: {
+        onPanned: (dx, dy) => stageView.panBy(dx, dy)
+        onAimed: position => loupe.aim = position
+        onAimEnded: position => {
             loupe.aim = null
             // Who aims means the place, not the closing.
             Viewer.editor.clickKeepingOpen(stageView.toPicture(position))
         }
         onPinchBegan: Viewer.editor.beginPinch()
-        onPinched: {
+        onPinched: (middle, moved, factor, turnDeg) => {
             stageView.panBy(moved.x, moved.y)
             stageView.zoomAt(middle, factor)
             const turn = Math.abs(turnDeg) - twistSlack
@@ -272,7 +274,8 @@ FocusScope {
             loupe.aim = null
             Viewer.editor.cancel()
         }
-        onWheelTurned: stageView.zoomAt(position, Math.pow(stage.zoomStep, notches))
+        onWheelTurned: (position, notches) => stageView.zoomAt(position,
+                                                               Math.pow(stage.zoomStep, notches))
     }
 
     // The handle under a tap, or -1.

@@ -63,7 +63,7 @@ ViewerDialog {
             label: qsTr("Unit")
             choices: dialog.units
             current: dialog.unit
-            onChosen: dialog.unit = index
+            onChosen: index => dialog.unit = index
         }
         Text {
             width: parent.width

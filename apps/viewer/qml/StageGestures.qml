@@ -34,6 +34,12 @@ Item {
     // One notch of a wheel is 1, away from the user.
     signal wheelTurned(point position, real notches)
 
+    // What becomes of a grab, and a point that is up, as Qt numbers them: Qt 5 and 6 name them by
+    // other types.
+    readonly property int cancelGrabPassive: 0x03
+    readonly property int ungrabExclusive: 0x20
+    readonly property int cancelGrabExclusive: 0x30
+    readonly property int released: 0x08
     readonly property real holdSeconds: 0.45
     // A mouse button, and a finger that pans, may rest as long as they like.
     readonly property real neverSeconds: 1e6
@@ -62,10 +68,10 @@ Item {
         property bool isTouch: false
         longPressThreshold: gestures.neverSeconds
         onPressedChanged: if (pressed) gestures.isGivenUp = false
-        onTapped: {
+        onTapped: eventPoint => {
             if (gestures.isGivenUp)
                 return
-            if (eventPoint.event.modifiers & Qt.ShiftModifier)
+            if (point.modifiers & Qt.ShiftModifier)
                 gestures.shiftTapped(eventPoint.position)
             else
                 gestures.tapped(eventPoint.position, isTouch)
@@ -78,9 +84,11 @@ Item {
         target: null
         onActiveChanged: if (active) gestures.begin(this)
         onCentroidChanged: if (active) gestures.move(this)
-        onGrabChanged: if (transition === EventPoint.UngrabExclusive
-                           || transition === EventPoint.CancelGrabExclusive)
-            gestures.end(this, point)
+        onGrabChanged: (transition, point) => {
+            if (transition === gestures.ungrabExclusive
+                    || transition === gestures.cancelGrabExclusive)
+                gestures.end(this, point)
+        }
     }
     function begin(drag) {
         drag.last = drag.centroid.pressPosition
@@ -104,7 +112,8 @@ Item {
     function end(drag, point) {
         if (isGivenUp)
             return
-        if (point.state !== EventPoint.Released)
+        // Qt 6.4 hands over the byte of the state with what lies beside it.
+        if ((point.state & 0xff) !== gestures.released)
             cancelOne()
         else if (isAiming)
             endAim(point.position)
@@ -137,8 +146,10 @@ Item {
         // Released where it rested; a finger that has moved ends with its drag.
         onPressedChanged: if (!pressed && gestures.isAiming && !fingerDrag.active)
             gestures.endAim(point.position)
-        onGrabChanged: if (transition === EventPoint.CancelGrabPassive && gestures.isAiming)
-            gestures.cancelOne()
+        onGrabChanged: transition => {
+            if (transition === gestures.cancelGrabPassive && gestures.isAiming)
+                gestures.cancelOne()
+        }
     }
     Drag {
         id: mouseDrag
@@ -190,7 +201,7 @@ Item {
     WheelHandler {
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
         target: null
-        onWheel: gestures.wheelTurned(point.position,
-                                      event.angleDelta.y / gestures.angleDeltaPerNotch)
+        onWheel: event => gestures.wheelTurned(point.position, event.angleDelta.y
+                                               / gestures.angleDeltaPerNotch)
     }
 }

@@ -42,7 +42,7 @@ Rectangle {
 
         TapHandler {
             gesturePolicy: TapHandler.ReleaseWithinBounds
-            onTapped: panel.wall.click(Qt.point(eventPoint.position.x / panel.viewScale,
+            onTapped: eventPoint => panel.wall.click(Qt.point(eventPoint.position.x / panel.viewScale,
                                                 eventPoint.position.y / panel.viewScale))
         }
         Repeater {

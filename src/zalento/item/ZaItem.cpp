@@ -97,9 +97,20 @@ void ZaItem::forAllObjects(Operation operation)
     operation(m_joint);
 }
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+void ZaItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    geometryChanged(newGeometry, oldGeometry);
+}
+#endif
+
 void ZaItem::geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QQuickPaintedItem::geometryChanged(newGeometry, oldGeometry);
+#else
+    QQuickPaintedItem::geometryChange(newGeometry, oldGeometry);
+#endif
     const double width = newGeometry.width();
     const double height = newGeometry.height();
     m_viewport = width > height ? QRectF((width - height) * 0.5, 0, height, height)

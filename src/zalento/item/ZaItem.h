@@ -104,7 +104,13 @@ public:
     void paint(QPainter *painter) override;
 
     /** Lays out the drawing area: the largest centred square. */
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+#else
+    void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry);
+    /** What Qt 6 calls in place of geometryChanged(), and calls it. */
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+#endif
 
     void setMeasureSettings(MeasureMentSettings measureSettings);
     /** The pipe object on view. */
@@ -113,9 +119,18 @@ public:
     QPoint calculatePos(double x, double y) const;
     void onHitPointListSizeChanged(int size);
 
-    bool isTwoHitpointList() const { return m_isTwoHitpointList; }
-    bool useDistanceLasers() const { return m_useDistanceLasers; }
-    void setUseDistanceLasers(bool use) { m_useDistanceLasers = use; }
+    bool isTwoHitpointList() const
+    {
+        return m_isTwoHitpointList;
+    }
+    bool useDistanceLasers() const
+    {
+        return m_useDistanceLasers;
+    }
+    void setUseDistanceLasers(bool use)
+    {
+        m_useDistanceLasers = use;
+    }
     double diameter() const;
     void setDiameter(double diameterMM);
     double percentage() const;
@@ -126,17 +141,32 @@ public:
     void setRearCircleActive(bool active);
     double angle() const;
     void setAngle(double angleDeg);
-    int clock() const { return 0; }
+    int clock() const
+    {
+        return 0;
+    }
     void setClock(int clockDeg);
-    int viewObject() const { return m_viewObject; }
+    int viewObject() const
+    {
+        return m_viewObject;
+    }
     void setViewMode(int viewObject);
-    int viewStyle() const { return m_viewStyle; }
+    int viewStyle() const
+    {
+        return m_viewStyle;
+    }
     void setViewStyle(int viewStyle);
-    int measureType() const { return m_measureType; }
+    int measureType() const
+    {
+        return m_measureType;
+    }
     void setMeasureType(int measureType);
     int measureUnit() const;
     void setMeasureUnit(int measureUnit);
-    QString iWantToMeasure() const { return m_iWantToMeasure; }
+    QString iWantToMeasure() const
+    {
+        return m_iWantToMeasure;
+    }
     void setiWantToMeasure(QString kind);
     double measure1() const;
     double measure2() const;

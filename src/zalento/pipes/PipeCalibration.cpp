@@ -4,8 +4,7 @@
 #include "zalento/settings/UnitConv.h"
 
 #include <QString>
-#include <QStringRef>
-#include <QVector>
+#include <QStringList>
 
 #include <algorithm>
 #include <cerrno>
@@ -24,10 +23,9 @@ constexpr int scaleFieldCount = 3;
 
 // The number at the start of a field, as std::stod reads it in the "C" locale; nothing when there
 // is none or it lies outside the range of a double.
-std::optional<double> readNumber(const QStringRef &field)
+std::optional<double> readNumber(const QString &field)
 {
-    const QByteArray text =
-        UnitConv::cultureIndependentDecimalSeparator(field.toString()).toLatin1();
+    const QByteArray text = UnitConv::cultureIndependentDecimalSeparator(field).toLatin1();
     char *end = nullptr;
     errno = 0;
     const double number = strtod_l(text.constData(), &end, cLocale());
@@ -37,12 +35,12 @@ std::optional<double> readNumber(const QStringRef &field)
     return number;
 }
 
-bool isLaserRecord(const QVector<QStringRef> &fields)
+bool isLaserRecord(const QStringList &fields)
 {
     return fields.front().compare(QLatin1String(laserKeyword), Qt::CaseInsensitive) == 0;
 }
 
-std::optional<Pipe::CalibrationPoint> readScaleRecord(const QVector<QStringRef> &fields)
+std::optional<Pipe::CalibrationPoint> readScaleRecord(const QStringList &fields)
 {
     if (fields.size() != scaleFieldCount) {
         return std::nullopt;
@@ -71,9 +69,9 @@ void Pipe::parseIniFile()
     std::vector<CalibrationPoint> table;
     const QString text =
         QString::fromLatin1(cameraCrackIni.data(), static_cast<int>(cameraCrackIni.size()));
-    const QVector<QStringRef> lines = text.splitRef(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    for (const QStringRef &line : lines) {
-        const QVector<QStringRef> fields = line.trimmed().split(QLatin1Char(';'));
+    const QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
+        const QStringList fields = line.trimmed().split(QLatin1Char(';'));
         if (isLaserRecord(fields)) {
             laserCalibrated = false;
             if (fields.size() == laserFieldCount) {

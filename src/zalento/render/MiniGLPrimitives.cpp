@@ -49,7 +49,7 @@ void drawThrough(QPainter &p, const Polyline &line)
         return;
     }
     clearVectorRegisters();
-    p.drawPolyline(line.constData(), line.size());
+    p.drawPolyline(line.constData(), static_cast<int>(line.size()));
 }
 
 QRectF circleBox(const Vec2 &center, double radiusPx)

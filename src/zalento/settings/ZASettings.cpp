@@ -3,8 +3,9 @@
 #include "zalento/math/CLocale.h"
 
 #include <QByteArray>
+#include <QColor>
 #include <QDataStream>
-#include <QMetaType>
+#include <QIODevice>
 #include <QVariant>
 
 #include <array>
@@ -37,11 +38,16 @@ std::array<ColorKey, 6> colorKeys()
              {QLatin1String("colCamHeight"), &ZASettings::colCamHeight, ZASettings::sOrange}}};
 }
 
-// A damaged store can hold a value that claims more elements than memory has: Qt throws on those.
+// A damaged store can hold a value that claims more elements than memory has: Qt 5 throws on those,
+// Qt 6 makes an empty list of them.
 QVariant storedValue(const QSettings &settings, const QString &key, const QVariant &fallback)
 {
     try {
-        return settings.value(key, fallback);
+        const QVariant value = settings.value(key, fallback);
+        const bool isCutOff = QT_VERSION >= QT_VERSION_CHECK(6, 0, 0) &&
+                              value.userType() == QMetaType::QVariantList &&
+                              value.toList().isEmpty();
+        return isCutOff ? fallback : value;
     } catch (const std::bad_alloc &) {
         return fallback;
     }
@@ -58,7 +64,7 @@ bool isColorOfKnownKind(const QVariant &value)
 {
     QByteArray stored;
     QDataStream stream(&stored, QIODevice::WriteOnly);
-    QMetaType::save(stream, QMetaType::QColor, value.constData());
+    stream << *static_cast<const QColor *>(value.constData());
     return stored.at(0) >= QColor::Invalid && stored.at(0) <= QColor::ExtendedRgb;
 }
 

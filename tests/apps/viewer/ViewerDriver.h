@@ -151,8 +151,9 @@ public:
     {
         QTest::mousePress(window(), button, Qt::NoModifier, from);
         for (int i = 1; i <= dragSteps; ++i) {
-            QMouseEvent move(QEvent::MouseMove, from + (to - from) * i / dragSteps, Qt::NoButton,
-                             button, Qt::NoModifier);
+            const QPointF at = from + (to - from) * i / dragSteps;
+            QMouseEvent move(QEvent::MouseMove, at, at, window()->mapToGlobal(at.toPoint()),
+                             Qt::NoButton, button, Qt::NoModifier);
             QCoreApplication::sendEvent(window(), &move);
         }
         QTest::mouseRelease(window(), button, Qt::NoModifier, to);
@@ -267,7 +268,7 @@ private:
     static constexpr int pinchSteps = 100; // it is noticed within the first few
     static constexpr int holdMs = 700;
     static constexpr int frameMs = 100; // rows and columns are laid out with the frame that follows
-    QTouchDevice *m_screen = QTest::createTouchDevice();
+    decltype(QTest::createTouchDevice()) m_screen = QTest::createTouchDevice();
 };
 
 } // namespace Drevon::Zalento::Test
