@@ -12,7 +12,7 @@ install(TARGETS ${installed_targets} EXPORT ZalentoTargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 # Headers that only our own sources include stay at home.
-set(internal_headers CLocale.h CompletePicture.h Count.h FitCamera.h FitDrawing.h FitOutliers.h FitPlan.h
+set(internal_headers CLocale.h CompletePicture.h Count.h FilmDecoder.h FitCamera.h FitDrawing.h FitOutliers.h FitPlan.h
   FitProblem.h FitStart.h MarkerPens.h MatchedCurve.h MeasuringModel.h ModelPlace.h
   ModelViewScope.h PainterPens.h PictureEdges.h ReportDocument.h ReportPages.h ReportPicture.h
   ReportSection.h ReportText.h RingSearch.h UncertaintyFactors.h clearVectorRegisters.h roundStep.h
@@ -43,6 +43,7 @@ configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/ZalentoConfig.cmake.i
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/ZalentoConfigVersion.cmake"
   COMPATIBILITY SameMajorVersion)
 install(FILES
+  "${PROJECT_SOURCE_DIR}/cmake/FindFfmpegParts.cmake"
   "${PROJECT_SOURCE_DIR}/cmake/FindOpenCVParts.cmake"
   "${PROJECT_BINARY_DIR}/ZalentoConfig.cmake"
   "${PROJECT_BINARY_DIR}/ZalentoConfigVersion.cmake"

@@ -473,6 +473,8 @@ Outcome Batch::mergeSession(const Session *start, Work &work) const
     options.applyTo(session);
     if (work.isOtherPicture) {
         forEachMeasurand(session, [](Session &measured) { measured.repeats.clear(); });
+        session.film.reset();
+        session.counterM.reset();
     }
     if (start) {
         session.picture.unknownFields = start->picture.unknownFields;

@@ -19,6 +19,9 @@ constexpr double largestDiameterMM = 1e5;
 // Of gesture units: many diameters away from the picture.
 constexpr double largestShift = 1e5;
 constexpr double largestRollDEG = 3600.0;
+// Months.
+constexpr double largestFilmSeconds = 1e7;
+constexpr int largestFrameNumber = 1000000000;
 // Some lines of text.
 constexpr int largestNameLength = 100;
 
@@ -115,7 +118,7 @@ bool sameLines(const QVector<LineClicks> &a, const QVector<LineClicks> &b)
 auto choicesOf(const Session &s)
 {
     return std::tie(s.unit, s.rearCircleActive, s.viewStyle, s.calibrationText, s.mmPerPixel,
-                    s.fitsFov, s.lens, s.schemaMinor);
+                    s.fitsFov, s.lens, s.film, s.counterM, s.schemaMinor);
 }
 
 auto fieldsOf(const Measurand &m)
@@ -193,6 +196,21 @@ Outcome checkLimit(const QString &text, const QString &prefix)
                  : Outcome(Problem{prefix + limit.problem().place, limit.problem().what});
 }
 
+Outcome checkFilm(const Session &session)
+{
+    const FilmFrame film = session.film.value_or(FilmFrame());
+    if (const Outcome problem =
+            checkNumber(QStringLiteral("film.frame"), film.number, 0, largestFrameNumber)) {
+        return problem;
+    }
+    if (const Outcome problem =
+            checkNumber(QStringLiteral("film.seconds"), film.seconds, 0.0, largestFilmSeconds)) {
+        return problem;
+    }
+    return checkNumber(QStringLiteral("counterM"), session.counterM.value_or(0.0), -largestCounterM,
+                       largestCounterM);
+}
+
 // A name stands in lines and in cells of tables.
 Outcome checkName(const QString &name, bool mayBeEmpty, const QString &prefix)
 {
@@ -261,6 +279,12 @@ bool operator==(const PictureIdentity &a, const PictureIdentity &b)
 {
     return std::tie(a.path, a.size, a.sha256, a.unknownFields) ==
            std::tie(b.path, b.size, b.sha256, b.unknownFields);
+}
+
+bool operator==(const FilmFrame &a, const FilmFrame &b)
+{
+    return std::tie(a.path, a.number, a.seconds, a.unknownFields) ==
+           std::tie(b.path, b.number, b.seconds, b.unknownFields);
 }
 
 bool operator==(const SessionPoint &a, const SessionPoint &b)
@@ -365,6 +389,9 @@ Outcome checkSession(const Session &session)
         if (const Outcome problem = checkSessionLens(*session.lens, session.picture.size)) {
             return problem;
         }
+    }
+    if (const Outcome problem = checkFilm(session)) {
+        return problem;
     }
     const int spots = countOf(session.laserSpots);
     if (spots != 0 && spots != laserSpotCount) {

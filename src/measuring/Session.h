@@ -38,6 +38,17 @@ struct PictureIdentity
 
 ZALENTO_MEASURING_EXPORT bool operator==(const PictureIdentity &a, const PictureIdentity &b);
 
+/** Which frame of a film a picture is. */
+struct FilmFrame
+{
+    QString path;         ///< of the film, as PictureIdentity::path
+    int number = 0;       ///< from 0, in the order in which they are shown
+    double seconds = 0.0; ///< after the first one
+    QJsonObject unknownFields;
+};
+
+ZALENTO_MEASURING_EXPORT bool operator==(const FilmFrame &a, const FilmFrame &b);
+
 /** A measurement point of the straight pipe. */
 struct SessionPoint
 {
@@ -89,6 +100,8 @@ struct Session : Measurand
     PictureIdentity picture;
     /** Was taken out of the picture that is shown: all pixels here are of the undistorted one. */
     std::optional<Lens> lens;
+    std::optional<FilmFrame> film;  ///< that the picture was taken from
+    std::optional<double> counterM; ///< metres along the pipe that the picture's counter shows
     MeasureUnit unit = MeasureUnit::Metric; ///< of the texts; numbers stay metric
     double diameterMM = 300.0;              ///< nominal
     double offset = 0.0;                    ///< of the model to the left, in gesture units
@@ -139,6 +152,8 @@ ZALENTO_MEASURING_EXPORT const QVector<SessionNumber> &sessionNumbers();
 /** Limits of Session::mmPerPixel. */
 constexpr double smallestMMPerPixel = 1e-6;
 constexpr double largestMMPerPixel = 1e4;
+/** Limit of Session::counterM in both directions. */
+constexpr double largestCounterM = 1e6;
 /** Limit of RingClicks::distanceMM in both directions. */
 constexpr double largestRingDistanceMM = 1e7;
 /** The camera's laser throws this many spots. */

@@ -72,6 +72,9 @@ Result<Session> loadSession(const QString &path)
         return session.problem().in(path);
     }
     session->picture.path = pathFromSessionFolder(path, session->picture.path);
+    if (session->film) {
+        session->film->path = pathFromSessionFolder(path, session->film->path);
+    }
     return session;
 }
 
@@ -82,6 +85,9 @@ Outcome saveSession(const Session &session, const QString &path, Overwrite overw
     }
     Session stored = session;
     stored.picture.path = pathFromFolderOf(path, session.picture.path);
+    if (stored.film) {
+        stored.film->path = pathFromFolderOf(path, stored.film->path);
+    }
     return writeFile(path, sessionToJson(stored), overwrite);
 }
 

@@ -17,15 +17,15 @@ extern ZALENTO_MEASURING_EXPORT const char *const sessionSuffix;
 ZALENTO_MEASURING_EXPORT QString sessionPathOf(const QString &picturePath);
 
 /**
- * Loads a session file. The path of its picture becomes one from the working folder, or absolute. A
- * problem names the file. The fields are those of the file: fitSession() fits them to its joints
- * and lines.
+ * Loads a session file. The paths of its picture and film become some from the working folder, or
+ * absolute. A problem names the file. The fields are those of the file: fitSession() fits them to
+ * its joints and lines.
  */
 ZALENTO_MEASURING_EXPORT Result<Session> loadSession(const QString &path);
 
 /**
- * Saves a session; its picture's path is written relative to the session's folder. Either the whole
- * file is written or the old one stays. The picture is not touched.
+ * Saves a session; the paths of its picture and film are written relative to the session's folder.
+ * Either the whole file is written or the old one stays. The picture is not touched.
  */
 ZALENTO_MEASURING_EXPORT Outcome saveSession(const Session &session, const QString &path,
                                              Overwrite overwrite);

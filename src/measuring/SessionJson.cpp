@@ -259,6 +259,44 @@ void readLens(FieldReader &reader, Session &session, Outcome &problem)
     }
 }
 
+// Film
+
+QByteArray filmToJson(const FilmFrame &film)
+{
+    OrderedJson json;
+    json.add(QStringLiteral("path"), film.path);
+    json.add(QStringLiteral("frame"), film.number);
+    json.add(QStringLiteral("seconds"), film.seconds);
+    json.addAll(film.unknownFields);
+    return json.toLine();
+}
+
+void readFilm(FieldReader &reader, Session &session, Outcome &problem)
+{
+    reader.read("counterM", session.counterM);
+    const QJsonValue value = reader.take("film");
+    if (!reader.expect("film", value, value.isObject(), QT_TRANSLATE_NOOP("Text", "an object"))) {
+        return;
+    }
+    FieldReader fields(value.toObject(), QStringLiteral("film."), problem);
+    FilmFrame film;
+    fields.read("path", film.path);
+    fields.read("frame", film.number);
+    fields.read("seconds", film.seconds);
+    film.unknownFields = fields.rest();
+    session.film = film;
+}
+
+void addFilm(OrderedJson &json, const Session &session)
+{
+    if (session.film) {
+        json.add(QStringLiteral("film"), filmToJson(*session.film));
+    }
+    if (session.counterM) {
+        json.add(QStringLiteral("counterM"), *session.counterM);
+    }
+}
+
 // Points
 
 QByteArray pointToJson(const SessionPoint &point)
@@ -613,6 +651,7 @@ void readFields(FieldReader &reader, Session &session, Outcome &problem)
         session.picture = pictureFromJson(picture.toObject(), problem);
     }
     readLens(reader, session, problem);
+    readFilm(reader, session, problem);
     readChoices(reader, session);
     for (const SessionNumber &number : sessionNumbers()) {
         reader.read(number.name, session.*number.member);
@@ -672,6 +711,7 @@ QByteArray sessionToJson(const Session &session)
     if (session.lens) {
         json.add(QStringLiteral("lens"), lensToJson(*session.lens));
     }
+    addFilm(json, session);
     addChoices(json, first);
     for (const SessionNumber &number : sessionNumbers()) {
         json.add(QLatin1String(number.name), first.*number.member);

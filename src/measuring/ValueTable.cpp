@@ -119,6 +119,23 @@ QStringList uncertaintyFields(const Value &value, const ValueInputs &inputs)
                                 optionalText(inputs.mmPerPixel)};
 }
 
+// The last columns: which measurement it is, and where the picture was taken.
+QStringList placeFields(const PictureValues &picture)
+{
+    const std::optional<FilmFrame> &film = picture.film;
+    return {picture.measurement, optionalText(picture.counterM), film ? film->path : QString(),
+            film ? numberText(film->seconds) : QString()};
+}
+
+QByteArray filmJson(const FilmFrame &film)
+{
+    OrderedJson json;
+    json.add(QStringLiteral("path"), film.path);
+    json.add(QStringLiteral("frame"), film.number);
+    json.add(QStringLiteral("seconds"), film.seconds);
+    return json.toLine();
+}
+
 Status statusOf(MeasureState state)
 {
     switch (state) {
@@ -275,6 +292,8 @@ PictureValues pictureValues(const QString &picture, const Session &session,
     result.status = statusOf(measurement.state);
     result.values = measurement.values;
     result.inputs = inputsOf(session);
+    result.film = session.film;
+    result.counterM = session.counterM;
     result.alignment = alignmentSummary(session, fit);
     if (session.lens) {
         result.lens = LensSummary{session.lens->name, {}, 0.0};
@@ -326,7 +345,8 @@ QByteArray csvHeader()
 {
     return "picture,kind,status,name,number,unit,text,message,standardUncertainty,"
            "expandedUncertainty,coverageFactor,method,intervalLow,intervalHigh,"
-           "textWithUncertainty,decision,diameterMM,fovYDEG,mmPerPixel,measurement\r\n";
+           "textWithUncertainty,decision,diameterMM,fovYDEG,mmPerPixel,measurement,counterM,film,"
+           "filmSeconds\r\n";
 }
 
 QByteArray csvRecords(const PictureValues &picture)
@@ -334,16 +354,14 @@ QByteArray csvRecords(const PictureValues &picture)
     const QStringList common{picture.picture, kindName(picture), statusName(picture.status)};
     if (picture.values.isEmpty()) {
         return csvRecord(common + QStringList{{}, {}, {}, {}, picture.message} +
-                         uncertaintyFields(Value(), picture.inputs) +
-                         QStringList{picture.measurement});
+                         uncertaintyFields(Value(), picture.inputs) + placeFields(picture));
     }
     QByteArray records;
     for (const Value &value : picture.values) {
-        records +=
-            csvRecord(common +
-                      QStringList{value.name, numberText(value.number), value.unit, value.text,
-                                  picture.message} +
-                      uncertaintyFields(value, picture.inputs) + QStringList{picture.measurement});
+        records += csvRecord(common +
+                             QStringList{value.name, numberText(value.number), value.unit,
+                                         value.text, picture.message} +
+                             uncertaintyFields(value, picture.inputs) + placeFields(picture));
     }
     return records;
 }
@@ -356,6 +374,12 @@ OrderedJson valuesJson(const PictureValues &picture)
         json.add(QStringLiteral("size"),
                  QJsonArray{picture.identity.size.width(), picture.identity.size.height()});
         json.add(QStringLiteral("sha256"), QString::fromLatin1(picture.identity.sha256));
+    }
+    if (picture.film) {
+        json.add(QStringLiteral("film"), filmJson(*picture.film));
+    }
+    if (picture.counterM) {
+        json.add(QStringLiteral("counterM"), *picture.counterM);
     }
     if (!picture.measurement.isEmpty()) {
         json.add(QStringLiteral("measurement"), picture.measurement);

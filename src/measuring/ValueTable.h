@@ -82,6 +82,8 @@ struct PictureValues
     Status status = Status::Failed;
     QVector<Value> values;
     ValueInputs inputs;
+    std::optional<FilmFrame> film; ///< as in the session
+    std::optional<double> counterM;
     std::optional<AlignmentSummary> alignment; ///< of the model; nothing before it is known
     std::optional<LensSummary> lens;           ///< nothing for a picture as it was taken
     std::optional<SnapSummary> snap;           ///< nothing where nobody asked for it

@@ -110,10 +110,11 @@ void TestMeasure::printsEveryFormat_data()
         << "csv"
         << QByteArray("picture,kind,status,name,number,unit,text,message,standardUncertainty,"
                       "expandedUncertainty,coverageFactor,method,intervalLow,intervalHigh,"
-                      "textWithUncertainty,decision,diameterMM,fovYDEG,mmPerPixel,measurement\r\n"
+                      "textWithUncertainty,decision,diameterMM,fovYDEG,mmPerPixel,measurement,"
+                      "counterM,film,filmSeconds\r\n"
                       "a.png,WaterLevel,measured,waterLevel,12.5,%,13 %,,SD,U2,2,first-order,,,"
-                      "TEXT,,300,37.5,,\r\n"
-                      "none.png,,failed,,,,,there is no such file,,,,,,,,,,,,\r\n");
+                      "TEXT,,300,37.5,,,,,\r\n"
+                      "none.png,,failed,,,,,there is no such file,,,,,,,,,,,,,,,\r\n");
     QTest::newRow("jsonl")
         << "jsonl"
         << QByteArray(

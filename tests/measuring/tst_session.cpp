@@ -60,6 +60,9 @@ Session fullSession()
     session.points = {
         {QPointF(1.0 / 7.0, 1e15 + 0.5), Vec3(-1.0 / 3.0, 5e-324, 1.7976931348623157e308), {}},
         {QPointF(12, 34), {}, {{QStringLiteral("label"), QJsonArray{1, 2}}}}};
+    session.film = {
+        QStringLiteral("run.mpg"), 312, 12.48, {{QStringLiteral("tape"), QStringLiteral("7")}}};
+    session.counterM = 1.0 / 3.0;
     session.name = QStringLiteral("crack \"Ä\"");
     Measurand first;
     first.name = QStringLiteral("water");
@@ -218,6 +221,7 @@ void TestSession::savesBesideThePicture()
     QVERIFY(writeBytes(picture, "picture"));
     Session session = fullSession();
     session.picture.path = picture;
+    session.film->path = dir.filePath(QStringLiteral("pictures/run.mpg"));
 
     const QString beside = sessionPathOf(picture);
     QVERIFY(beside.endsWith(QLatin1String("/a.b.jpg.zalento.json")));
@@ -228,6 +232,7 @@ void TestSession::savesBesideThePicture()
         QVERIFY(read && *read == session);
     }
     QVERIFY(readBytes(beside).contains("\"path\": \"a.b.jpg\""));
+    QVERIFY(readBytes(beside).contains("\"path\": \"../run.mpg\""));
     QVERIFY(readBytes(above).contains("\"path\": \"pictures/day 1/a.b.jpg\""));
     QCOMPARE(readBytes(picture), QByteArray("picture"));
 }

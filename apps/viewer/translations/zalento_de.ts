@@ -2231,6 +2231,30 @@
         <source>the name of a measurement</source>
         <translation>der Name einer Messung</translation>
     </message>
+    <message>
+        <source>does not tell when its frames are shown</source>
+        <translation>sagt nicht, wann seine Bilder gezeigt werden</translation>
+    </message>
+    <message>
+        <source>can no longer be read</source>
+        <translation>lässt sich nicht mehr lesen</translation>
+    </message>
+    <message>
+        <source>frame %1 is damaged</source>
+        <translation>Bild %1 ist beschädigt</translation>
+    </message>
+    <message>
+        <source>cannot be read as a film: %1</source>
+        <translation>lässt sich nicht als Film lesen: %1</translation>
+    </message>
+    <message>
+        <source>has more than %1 megapixels</source>
+        <translation>hat mehr als %1 Megapixel</translation>
+    </message>
+    <message>
+        <source>this build has no FFmpeg, which reads films</source>
+        <translation>diese Fassung hat kein FFmpeg, das Filme liest</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

@@ -2231,6 +2231,30 @@
         <source>the name of a measurement</source>
         <translation>le nom d’une mesure</translation>
     </message>
+    <message>
+        <source>does not tell when its frames are shown</source>
+        <translation>ne dit pas quand ses images sont montrées</translation>
+    </message>
+    <message>
+        <source>can no longer be read</source>
+        <translation>n’est plus lisible</translation>
+    </message>
+    <message>
+        <source>frame %1 is damaged</source>
+        <translation>l’image %1 est endommagée</translation>
+    </message>
+    <message>
+        <source>cannot be read as a film: %1</source>
+        <translation>n’est pas lisible comme film : %1</translation>
+    </message>
+    <message>
+        <source>has more than %1 megapixels</source>
+        <translation>a plus de %1 mégapixels</translation>
+    </message>
+    <message>
+        <source>this build has no FFmpeg, which reads films</source>
+        <translation>cette version n’a pas FFmpeg, qui lit les films</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>
