@@ -2,6 +2,7 @@
 
 #include "measuring/Count.h"
 #include "measuring/Editing.h"
+#include "measuring/Film.h"
 #include "measuring/Kind.h"
 #include "measuring/Measurands.h"
 #include "measuring/SessionFile.h"
@@ -99,11 +100,26 @@ void DocumentList::openUrls(const QList<QUrl> &urls)
 
 QStringList DocumentList::namePatterns() const
 {
-    return Measuring::pictureNamePatterns() +
+    return Measuring::pictureNamePatterns() + Measuring::filmNamePatterns() +
            QStringList{QLatin1Char('*') + QLatin1String(Measuring::sessionSuffix)};
 }
 
 void DocumentList::openPaths(const QStringList &paths)
+{
+    QStringList pictures = paths;
+    const auto films =
+        std::stable_partition(pictures.begin(), pictures.end(), [](const auto &path) {
+            return QFileInfo(path).isDir() || !Measuring::isFilm(path);
+        });
+    const QString film = films == pictures.end() ? QString() : pictures.last();
+    pictures.erase(films, pictures.end());
+    openPictures(pictures);
+    if (!film.isEmpty()) {
+        Q_EMIT filmOpened(film);
+    }
+}
+
+void DocumentList::openPictures(const QStringList &paths)
 {
     QStringList problems;
     int firstShown = -1;
@@ -288,6 +304,8 @@ void DocumentList::takeOverPicture(Document &document)
         m_guidance.notice(
             Guidance::Warning,
             tr("Careful, %1. Nothing is overwritten until you confirm it.").arg(*difference));
+        session.film.reset();
+        session.counterM.reset();
     }
     session.picture = m_picture->identity;
     dropForeignLens(session);
@@ -338,6 +356,14 @@ Session DocumentList::newSession() const
     fresh.fovYDEG = display.fovYDEG;
     fresh.diameterMM = display.pipeDiameterMM;
     return Measuring::checkSession(fresh) ? Session() : fresh;
+}
+
+Session DocumentList::newSession(const Measuring::PictureIdentity &picture) const
+{
+    Session fresh = newSession();
+    fresh.picture = picture;
+    dropForeignLens(fresh);
+    return fresh;
 }
 
 // The list

@@ -67,8 +67,13 @@ public:
 
     /** A session that goes on with what the one on view knows of camera and pipe. */
     Measuring::Session newSession() const;
+    /** The same for a picture, without a lens that is not its. */
+    Measuring::Session newSession(const Measuring::PictureIdentity &picture) const;
 
-    /** Opens pictures, session files, and the pictures in folders; shows the first of them. */
+    /**
+     * Opens pictures, session files, and the pictures in folders; shows the first of them. Of films
+     * the last one is opened.
+     */
     Q_INVOKABLE void openPaths(const QStringList &paths);
     Q_INVOKABLE void openUrls(const QList<QUrl> &urls);
     Q_INVOKABLE void show(int index);
@@ -94,8 +99,10 @@ Q_SIGNALS:
     void currentAboutToChange();
     void currentChanged();
     void pictureChanged();
+    void filmOpened(const QString &path);
 
 private:
+    void openPictures(const QStringList &paths);
     Measuring::Result<int> append(const QString &path);
     int indexOf(const QString &picturePath) const;
     void loadPicture(Document &document);

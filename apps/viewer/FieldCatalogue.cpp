@@ -165,6 +165,20 @@ Field scaleField()
     return field;
 }
 
+Field counterField()
+{
+    Field field;
+    field.name = QStringLiteral("counterM");
+    field = with(field, QT_TRANSLATE_NOOP("Field", "Counter"), QStringLiteral("m"), 0.1, 3);
+    field.smallest = -Measuring::largestCounterM;
+    field.largest = Measuring::largestCounterM;
+    field.mayBeEmpty = true;
+    field.movesModel = false;
+    field.get = [](const Session &s) { return s.counterM; };
+    field.set = [](Session &s, std::optional<double> metres) { s.counterM = metres; };
+    return field;
+}
+
 Field alignmentField(const QString &name)
 {
     const auto plain = [&name](double Session::*member, const char *label, const QString &unit,
@@ -221,6 +235,7 @@ Field fieldNamed(const QString &name, const Session &session)
         {QStringLiteral("clock"), [](const Session &) { return clockField(); }},
         {QStringLiteral("laserMM"), [](const Session &) { return laserField(); }},
         {QStringLiteral("mmPerPixel"), [](const Session &) { return scaleField(); }},
+        {QStringLiteral("counterM"), [](const Session &) { return counterField(); }},
     };
     const auto found = special.find(name);
     return found == special.end() ? alignmentField(name) : (*found)(session);
@@ -249,6 +264,9 @@ QStringList kindFields(const Session &session)
     }
     if (info.has(Uses::Clock)) {
         names += QStringLiteral("clock");
+    }
+    if (session.film || session.counterM) {
+        names += QStringLiteral("counterM");
     }
     return names;
 }

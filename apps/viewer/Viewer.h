@@ -5,6 +5,7 @@
 #include "DocumentList.h"
 #include "Exporter.h"
 #include "FieldModel.h"
+#include "FilmBrowser.h"
 #include "FlatWall.h"
 #include "Guidance.h"
 #include "KindModel.h"
@@ -29,6 +30,7 @@ class Viewer : public QObject
     Q_PROPERTY(Drevon::Zalento::MeasurementEditor *editor READ editor CONSTANT)
     Q_PROPERTY(Drevon::Zalento::MeasurementModel *measurements READ measurements CONSTANT)
     Q_PROPERTY(Drevon::Zalento::Assessment *assessment READ assessment CONSTANT)
+    Q_PROPERTY(Drevon::Zalento::FilmBrowser *film READ film CONSTANT)
     Q_PROPERTY(Drevon::Zalento::FlatWall *wall READ wall CONSTANT)
     Q_PROPERTY(Drevon::Zalento::KindModel *kinds READ kinds CONSTANT)
     Q_PROPERTY(Drevon::Zalento::FieldModel *kindFields READ kindFields CONSTANT)
@@ -48,6 +50,7 @@ public:
     MeasurementEditor *editor() { return &m_editor; }
     MeasurementModel *measurements() { return &m_measurements; }
     Assessment *assessment() { return &m_assessment; }
+    FilmBrowser *film() { return &m_film; }
     FlatWall *wall() { return &m_wall; }
     KindModel *kinds() { return &m_kinds; }
     FieldModel *kindFields() { return &m_kindFields; }
@@ -77,6 +80,7 @@ private:
     MeasurementEditor m_editor{m_documents, m_preferences, m_guidance};
     MeasurementModel m_measurements{m_documents, m_editor};
     Assessment m_assessment{m_editor};
+    FilmBrowser m_film{m_documents, m_preferences, m_guidance};
     FlatWall m_wall{m_documents, m_editor};
     KindModel m_kinds;
     FieldModel m_kindFields;

@@ -69,6 +69,7 @@ void prepareScene()
     qmlRegisterUncreatableType<MeasurementEditor>(module, 1, 0, "MeasurementEditor", reason);
     qmlRegisterUncreatableType<MeasurementModel>(module, 1, 0, "MeasurementModel", reason);
     qmlRegisterUncreatableType<Assessment>(module, 1, 0, "Assessment", reason);
+    qmlRegisterUncreatableType<FilmBrowser>(module, 1, 0, "FilmBrowser", reason);
     qmlRegisterUncreatableType<FlatWall>(module, 1, 0, "FlatWall", reason);
     qmlRegisterUncreatableType<FeatureModel>(module, 1, 0, "FeatureModel", reason);
     qmlRegisterUncreatableType<PointModel>(module, 1, 0, "PointModel", reason);
@@ -92,6 +93,9 @@ ViewerWindow::ViewerWindow(Viewer &viewer)
     auto *maps = new PictureProvider;
     viewer.assessment()->setMapProvider(maps);
     m_engine.addImageProvider(QStringLiteral("map"), maps);
+    auto *films = new PictureProvider;
+    viewer.film()->setProvider(films);
+    m_engine.addImageProvider(QStringLiteral("film"), films);
     auto *walls = new PictureProvider;
     viewer.wall()->setProvider(walls);
     m_engine.addImageProvider(QStringLiteral("wall"), walls);

@@ -54,7 +54,8 @@ ZALENTO_MEASURING_EXPORT QStringList filmNamePatterns();
 /** True for a file with such a name. */
 ZALENTO_MEASURING_EXPORT bool isFilm(const QString &path);
 
-/** The file of a frame's picture: "<film file name>.frame-000312.png" beside the film. */
-ZALENTO_MEASURING_EXPORT QString framePathOf(const QString &filmPath, int number);
+/** The file of a frame's picture: "<film file name>.0-02-05.480.png", by its time, beside the film.
+ */
+ZALENTO_MEASURING_EXPORT QString framePathOf(const QString &filmPath, double seconds);
 
 } // namespace Drevon::Zalento::Measuring

@@ -147,6 +147,13 @@ Item {
         enabled: Viewer.documents.hasPicture
         onTriggered: Viewer.wall.isShown = !Viewer.wall.isShown
     }
+    readonly property Command film: Command {
+        text: qsTr("Film")
+        hint: qsTr("The film, to measure another of its frames")
+        shortcut: "T"
+        enabled: Viewer.film.isOpen
+        onTriggered: Viewer.film.isShown = true
+    }
     readonly property Command unit: Command {
         text: Viewer.editor.isImperial ? qsTr("in") : qsTr("mm")
         hint: Viewer.editor.isImperial ? qsTr("Imperial units; switch to metric")
@@ -237,7 +244,7 @@ Item {
     readonly property var all: [open, save, copy, previous, next, undo, redo, giveUp, dropLastPoint,
                                 confirm, measureAgain, another, nextMeasurement, rename, remove,
                                 showAll, clickPoints, clickJoint, clickLine, snap, unit,
-                                map, wall, zoomIn, zoomOut, fit, actualSize, showValue, showFields,
+                                map, wall, film, zoomIn, zoomOut, fit, actualSize, showValue, showFields,
                                 showStage, keys]
     // What the list of keys says: [keys, text].
     readonly property var keyRows: {

@@ -66,7 +66,7 @@ ApplicationWindow {
         id: stage
         anchors { left: work.left; right: wallPanel.left; top: work.top; bottom: work.bottom }
         commands: commands
-        isBehindDialog: fileChooser.isOpen || [recordDialog, nameDialog, cameraDialog, keyList, saveDialog, unsavedDialog]
+        isBehindDialog: fileChooser.isOpen || [filmPanel, recordDialog, nameDialog, cameraDialog, keyList, saveDialog, unsavedDialog]
                                               .some(dialog => dialog.visible)
     }
     WallPanel {
@@ -131,6 +131,10 @@ ApplicationWindow {
         id: cameraDialog
         objectName: "cameraDialog"
         onFileRequested: fileChooser.openLens()
+    }
+    FilmPanel {
+        id: filmPanel
+        objectName: "filmPanel"
     }
     NameDialog {
         id: nameDialog

@@ -34,6 +34,7 @@ ViewerMenu {
         enabled: Viewer.documents.hasPicture
         onTriggered: menu.cameraRequested()
     }
+    ViewerMenuItem { action: menu.commands.film }
     ViewerMenuItem { action: menu.commands.map }
     ViewerMenuItem { action: menu.commands.wall }
     ViewerMenu {

@@ -492,6 +492,14 @@
         <source>Show all measurements with their names, in exports, too</source>
         <translation>Alle Messungen mit ihren Namen zeigen, auch in Exporten</translation>
     </message>
+    <message>
+        <source>Film</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>The film, to measure another of its frames</source>
+        <translation>Der Film, um ein weiteres seiner Bilder zu messen</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -795,6 +803,13 @@
     <message>
         <source>Slider</source>
         <translation>Schieber</translation>
+    </message>
+</context>
+<context>
+    <name>Drevon::Zalento::FilmBrowser</name>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen…</translation>
     </message>
 </context>
 <context>
@@ -1200,6 +1215,10 @@
         <source>From %1 to %2 %3, please.</source>
         <translation>Bitte von %1 bis %2 %3.</translation>
     </message>
+    <message>
+        <source>Counter</source>
+        <translation>Zähler</translation>
+    </message>
 </context>
 <context>
     <name>FileChooser</name>
@@ -1261,6 +1280,61 @@
     <message>
         <source>File name</source>
         <translation>Dateiname</translation>
+    </message>
+</context>
+<context>
+    <name>FilmPanel</name>
+    <message>
+        <source>Frame %1 of %2</source>
+        <translation>Bild %1 von %2</translation>
+    </message>
+    <message>
+        <source>Place in the film</source>
+        <translation>Stelle im Film</translation>
+    </message>
+    <message>
+        <source>Back by %1 frames</source>
+        <translation>%1 Bilder zurück</translation>
+    </message>
+    <message>
+        <source>The frame before</source>
+        <translation>Das Bild davor</translation>
+    </message>
+    <message>
+        <source>The next frame</source>
+        <translation>Das nächste Bild</translation>
+    </message>
+    <message>
+        <source>Forward by %1 frames</source>
+        <translation>%1 Bilder vor</translation>
+    </message>
+    <message>
+        <source>%1 · frame %2 of %3</source>
+        <translation>%1 · Bild %2 von %3</translation>
+    </message>
+    <message>
+        <source>Counter, m</source>
+        <translation>Zähler, m</translation>
+    </message>
+    <message>
+        <source>Metres that the counter in the picture shows</source>
+        <translation>Meter, die der Zähler im Bild zeigt</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Messen</translation>
+    </message>
+    <message>
+        <source>Make this frame a picture, and measure on it</source>
+        <translation>Dieses Filmbild zum Bild machen und darauf messen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Back to the pictures</source>
+        <translation>Zurück zu den Bildern</translation>
     </message>
 </context>
 <context>

@@ -492,6 +492,14 @@
         <source>Show all measurements with their names, in exports, too</source>
         <translation>Montrer toutes les mesures avec leurs noms, aussi dans les exports</translation>
     </message>
+    <message>
+        <source>Film</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>The film, to measure another of its frames</source>
+        <translation>Le film, pour mesurer une autre de ses images</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -795,6 +803,13 @@
     <message>
         <source>Slider</source>
         <translation>Curseur</translation>
+    </message>
+</context>
+<context>
+    <name>Drevon::Zalento::FilmBrowser</name>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Lecture de %1…</translation>
     </message>
 </context>
 <context>
@@ -1200,6 +1215,10 @@
         <source>From %1 to %2 %3, please.</source>
         <translation>De %1 à %2 %3, s&apos;il vous plaît.</translation>
     </message>
+    <message>
+        <source>Counter</source>
+        <translation>Compteur</translation>
+    </message>
 </context>
 <context>
     <name>FileChooser</name>
@@ -1261,6 +1280,61 @@
     <message>
         <source>File name</source>
         <translation>Nom du fichier</translation>
+    </message>
+</context>
+<context>
+    <name>FilmPanel</name>
+    <message>
+        <source>Frame %1 of %2</source>
+        <translation>Image %1 de %2</translation>
+    </message>
+    <message>
+        <source>Place in the film</source>
+        <translation>Position dans le film</translation>
+    </message>
+    <message>
+        <source>Back by %1 frames</source>
+        <translation>Reculer de %1 images</translation>
+    </message>
+    <message>
+        <source>The frame before</source>
+        <translation>L’image précédente</translation>
+    </message>
+    <message>
+        <source>The next frame</source>
+        <translation>L’image suivante</translation>
+    </message>
+    <message>
+        <source>Forward by %1 frames</source>
+        <translation>Avancer de %1 images</translation>
+    </message>
+    <message>
+        <source>%1 · frame %2 of %3</source>
+        <translation>%1 · image %2 sur %3</translation>
+    </message>
+    <message>
+        <source>Counter, m</source>
+        <translation>Compteur, m</translation>
+    </message>
+    <message>
+        <source>Metres that the counter in the picture shows</source>
+        <translation>Mètres que montre le compteur dans l’image</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Mesurer</translation>
+    </message>
+    <message>
+        <source>Make this frame a picture, and measure on it</source>
+        <translation>Faire de cette image du film une image à mesurer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Back to the pictures</source>
+        <translation>Retour aux images</translation>
     </message>
 </context>
 <context>

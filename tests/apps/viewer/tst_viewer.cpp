@@ -13,6 +13,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMimeData>
+#include <QProcess>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QSignalSpy>
@@ -98,6 +99,7 @@ private slots:
     void nextPictureTakesTheCamera();
     void lensIsTakenOutOfThePicture();
     void valuesAreAssessed();
+    void filmFramesAreMeasured();
 };
 
 void TestViewer::measures_data()
@@ -203,7 +205,7 @@ void TestViewer::severalMeasurements()
     const QString table = d.folder.filePath("values.csv");
     QVERIFY(d.exporter.exportTo("csv", table));
     const QByteArrayList lines = contentOf(table).split('\n');
-    QVERIFY(lines[1].endsWith(",Pipe dimension\r") && lines[3].endsWith(",after rain\r"));
+    QVERIFY(lines[1].contains(",Pipe dimension,") && lines[3].contains(",after rain,"));
 
     d.key(Qt::Key_S, Qt::ControlModifier);
     ViewerDriver again;
@@ -1030,6 +1032,53 @@ void TestViewer::lensIsTakenOutOfThePicture()
     cameras->loadLens(d.folder.filePath("none.yaml"));
     QVERIFY2(d.guidance.text().contains("none.yaml"), qPrintable(d.guidance.text()));
     cameras->remove("pole");
+}
+
+// A frame is looked for with keys, gets its counter, and is a picture then that knows its film.
+void TestViewer::filmFramesAreMeasured()
+{
+#ifdef FFMPEG
+    ViewerDriver d(QSize(800, 480));
+    const QString film = d.folder.filePath("run.mpg");
+    QCOMPARE(
+        QProcess::execute(FFMPEG, {"-v", "error", "-loop", "1", "-i", d.copySample("dimension.jpg"),
+                                   "-t", "2", "-r", "25", "-c:v", "mpeg2video", "-f", "vob", film}),
+        0);
+    d.documents.openPaths({film});
+    d.waitForDialog("filmPanel");
+    QTRY_VERIFY(d.hasItem("filmTime") && d.text("filmTime").startsWith("0:00.000"));
+    d.key(Qt::Key_Right);
+    QTRY_COMPARE(d.viewer.film()->frame(), 1);
+    d.key(Qt::Key_Right, Qt::ShiftModifier);
+    QTRY_COMPARE(d.text("filmTime"), QString("0:01.040 · frame 27 of 50"));
+    QCOMPARE(d.unfitControls(), QStringList());
+    d.type("filmCounter", "x");
+    QVERIFY(d.viewer.film()->isShown());
+    d.type("filmCounter", "12,5");
+    QTRY_COMPARE(d.documents.pictureName(), QString("run.mpg.0-00-01.040.png"));
+    QTRY_VERIFY(!d.window()->findChild<QObject *>("filmPanel")->property("visible").toBool());
+    d.click(110, 288);
+    d.click(640, 300);
+    QVERIFY(number(d) > 0.0);
+    d.type("field.counterM", "13");
+    d.key(Qt::Key_S, Qt::ControlModifier);
+    const auto saved = Measuring::loadSession(d.documents.current()->sessionPath);
+    QCOMPARE(saved->counterM.value(), 13.0);
+    QCOMPARE(saved->film->path, film);
+    QCOMPARE(saved->film->number, 26);
+
+    // The film goes on where it was; what is no film is told.
+    d.key(Qt::Key_T);
+    d.waitForDialog("filmPanel");
+    QCOMPARE(d.viewer.film()->frame(), 26);
+    d.key(Qt::Key_Escape);
+    QTRY_VERIFY(!d.viewer.film()->isShown());
+    writeTo(film, "no film");
+    d.documents.openPaths({film});
+    QTRY_COMPARE(d.guidance.level(), Guidance::Error);
+#else
+    QSKIP("without ffmpeg there is no film");
+#endif
 }
 
 } // namespace Drevon::Zalento::Test
