@@ -63,14 +63,16 @@ bool hasOverlay(const ReportMeasurement &measurement)
     return measurement.session && measurement.values.status != Status::NotSet;
 }
 
+// The first one's overlay has the pipe, which is common to all.
 void paintPictureWithOverlays(QPainter &painter, const QRectF &box, const QImage &image,
                               const ReportPicture &picture)
 {
+    const QVector<ReportMeasurement> &all = picture.measurements;
     paintPicture(painter, box, reportDotsPerMM, image);
-    for (const ReportMeasurement &measurement : picture.measurements) {
-        if (hasOverlay(measurement)) {
-            paintOverlay(painter, box, reportDotsPerMM, *measurement.session);
-        }
+    const auto first = std::find_if(all.begin(), all.end(), hasOverlay);
+    if (first != all.end()) {
+        paintOverlay(painter, box, reportDotsPerMM, *first->session,
+                     all.size() > 1 ? Overlays::All : Overlays::AtHand);
     }
 }
 

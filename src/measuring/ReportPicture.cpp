@@ -1,6 +1,7 @@
 #include "measuring/ReportPicture.h"
 
 #include "measuring/Editing.h"
+#include "measuring/OtherOverlays.h"
 #include "measuring/Replay.h"
 
 #include "zalento/item/ZaItem.h"
@@ -78,20 +79,25 @@ void paintPicture(QPainter &painter, const QRectF &box, double unitsPerMM, const
     painter.drawImage(box, shown.hasAlphaChannel() ? opaque(shown) : shown);
 }
 
-void paintOverlay(QPainter &painter, const QRectF &box, double unitsPerMM, const Session &session)
+void paintOverlay(QPainter &painter, const QRectF &box, double unitsPerMM, const Session &session,
+                  Overlays overlays)
 {
     const SharedDiameterScope diameter;
     const QSize size = (box.size() / unitsPerMM * overlayPixelsPerMM).toSize().expandedTo({1, 1});
-    ZaItem item;
-    showSession(resized(session, size), item);
+    const Session shown = resized(session, size);
     painter.save();
     painter.setClipRect(box);
     painter.translate(box.topLeft());
     painter.scale(box.width() / size.width(), box.height() / size.height());
-    painter.translate(item.position());
     QFont font = painter.font();
     font.setPixelSize(labelPX);
     painter.setFont(font);
+    if (overlays == Overlays::All) {
+        OtherOverlays(shown).paint(painter);
+    }
+    ZaItem item;
+    showSession(shown, item);
+    painter.translate(item.position());
     item.paint(&painter);
     painter.restore();
 }

@@ -17,10 +17,16 @@ QSizeF sizeOnPaper(const QSize &picture, const QSizeF &room);
  */
 void paintPicture(QPainter &painter, const QRectF &box, double unitsPerMM, const QImage &picture);
 
+enum class Overlays {
+    AtHand,
+    All, ///< those of the session's other measurands, too, and the names of all
+};
+
 /**
  * Paints a session's overlay as vectors. Lines and labels have the same size on paper whatever the
  * picture's.
  */
-void paintOverlay(QPainter &painter, const QRectF &box, double unitsPerMM, const Session &session);
+void paintOverlay(QPainter &painter, const QRectF &box, double unitsPerMM, const Session &session,
+                  Overlays overlays);
 
 } // namespace Drevon::Zalento::Measuring

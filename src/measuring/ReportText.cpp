@@ -14,6 +14,8 @@ namespace {
 
 // Digits of numbers that are told without an uncertainty.
 constexpr int digits = 5;
+// Of seconds in a film: frames are some hundredths apart.
+constexpr int filmDecimals = 3;
 
 const QLatin1String grid("<table width=\"100%\" border=\"1\" cellspacing=\"0\" cellpadding=\"3\" "
                          "style=\"border-collapse: collapse; border-style: solid; "
@@ -220,10 +222,25 @@ QString alignmentHtml(const PictureValues &measured)
            QString(plain).arg(rows);
 }
 
+// Where in the pipe, and in which film.
+QString placeRows(const PictureValues &measured)
+{
+    QString rows;
+    if (measured.counterM) {
+        rows += namedRow(Text::tr("Counter"), number(*measured.counterM) + QStringLiteral(" m"));
+    }
+    if (const std::optional<FilmFrame> &film = measured.film) {
+        rows += namedRow(Text::tr("Film"), Text::tr("%1, %2 s")
+                                               .arg(QFileInfo(film->path).fileName())
+                                               .arg(film->seconds, 0, 'f', filmDecimals));
+    }
+    return rows;
+}
+
 QString inputsHtml(const PictureValues &measured)
 {
     const ValueInputs &inputs = measured.inputs;
-    QString rows;
+    QString rows = placeRows(measured);
     if (inputs.diameterMM) {
         rows += namedRow(Text::tr("Diameter"), number(*inputs.diameterMM) + QStringLiteral(" mm"));
     }
@@ -275,9 +292,13 @@ QString countsText(const QVector<ReportPicture> &pictures)
         .arg(texts.join(QStringLiteral(", ")));
 }
 
-QString kindHtml(const PictureValues &values)
+// "crack A (Crack width)"; the kind alone of one without a name, or with that of its kind.
+QString measuredHtml(const PictureValues &values)
 {
-    return values.kind ? translated(infoOf(*values.kind).title).toHtmlEscaped() : QString();
+    const QString kind = values.kind ? translated(infoOf(*values.kind).title) : QString();
+    const bool isNamed = !values.measurement.isEmpty() && values.measurement != kind;
+    const QString text = isNamed ? QStringLiteral("%1 (%2)").arg(values.measurement, kind) : kind;
+    return text.toHtmlEscaped();
 }
 
 QString overviewRow(const QString &picture, int number, const ReportMeasurement &measurement)
@@ -289,7 +310,7 @@ QString overviewRow(const QString &picture, int number, const ReportMeasurement 
         limits += limitText(measurement, value).toHtmlEscaped();
     }
     const QLatin1String newLine("<br>");
-    return row({QString::number(number), picture.toHtmlEscaped(), kindHtml(measurement.values),
+    return row({QString::number(number), picture.toHtmlEscaped(), measuredHtml(measurement.values),
                 values.join(newLine), limits.join(newLine), stateAndReason(measurement.values)});
 }
 
@@ -350,7 +371,7 @@ QString headingHtml(const ReportPicture &picture, int number)
 {
     QStringList facts;
     for (const ReportMeasurement &measurement : picture.measurements) {
-        facts += kindHtml(measurement.values);
+        facts += measuredHtml(measurement.values);
     }
     const QSize size = picture.measurements.first().values.identity.size;
     if (!size.isEmpty()) {
@@ -367,6 +388,9 @@ QString valuesHtml(const ReportPicture &picture)
 {
     QString html;
     for (const ReportMeasurement &measurement : picture.measurements) {
+        if (picture.measurements.size() > 1) {
+            html += title(measuredHtml(measurement.values));
+        }
         html += measurementHtml(measurement);
     }
     return html;

@@ -18,6 +18,7 @@ const char *const record = R"({"weather": "no overflow", "operator": "Jörg <J> 
 
 const char *const measurements[] = {
     "--kind CrackWidth --mm-per-pixel 0.5 --click 100,100 --click 110,100 crack.png",
+    "--kind CrackWidth --measurement gap --click 200,200 --click 300,200 --force crack.png",
     "--kind CrossSection --click 320,100 --click 500,300 --click 200,300 --click 320,100 "
     "section.png",
     "--kind BendAngle unset.png",
@@ -85,12 +86,14 @@ void TestReport::tellsEveryPicture_data()
     };
     row("record", 1,
         "Place Hafenstraße 12 Pipe R-117 Date 2026 Operator Jörg <J> & co weather no overflow");
-    row("counts", 1, "Pictures: 6; measurements: 3 measured, 1 not set, 1 not measured, 1 failed");
+    row("counts", 1, "Pictures: 6; measurements: 4 measured, 1 not set, 1 not measured, 1 failed");
     row("table", 1,
         "1 crack.png Crack width Crack width 5.0 mm ± 1.5 mm measured|2 cut.png failed: |"
         "3 other.png not measured: there is no session|5 unset.png Bend angle not set: needs|"
         "< 50 %: below measured");
-    row("crack", 2, "1 · crack.png|5.0 mm ± 1.5 mm clicks|Scale 0.5 mm a pixel|Pipe R-117");
+    row("two cracks", 2,
+        "1 · crack.png|Crack width · gap (Crack width) · 640|5.0 mm ± 1.5 mm clicks|gap (Crack "
+        "width) Value|50.0 mm ± |Scale 0.5 mm a pixel|Pipe R-117");
     row("no picture", 3, "2 · cut.png|failed: ");
     row("two values", 5, "Area |Share of the section |not fitted");
     row("nothing set", 6, "nobody has set what it shows|not set: needs --angle");

@@ -2329,6 +2329,18 @@
         <source>this build has no FFmpeg, which reads films</source>
         <translation>cette version n’a pas FFmpeg, qui lit les films</translation>
     </message>
+    <message>
+        <source>Counter</source>
+        <translation>Compteur</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>%1, %2 s</source>
+        <translation>%1, %2 s</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>
