@@ -55,6 +55,9 @@ public:
         for (std::size_t i = 0; i < m_frames.marks.size(); ++i) {
             m_numbers.emplace(m_frames.marks[i], static_cast<int>(i));
         }
+        if (m_frames.starts.empty()) {
+            m_frames.starts = {0}; // decoders find one for themselves
+        }
     }
 
     const FrameList &frames() const { return m_frames; }
@@ -73,7 +76,10 @@ public:
         if (reached != Reached::Frame || m_decoder->isDamaged()) {
             return Problem{m_path, Text::tr("frame %1 is damaged").arg(number + 1)};
         }
-        return m_decoder->image();
+        const QImage image = m_decoder->image();
+        return image.isNull() ? Result<QImage>(Problem{
+                                    m_path, Text::tr("frame %1 is too large").arg(number + 1)})
+                              : Result<QImage>(image);
     }
 
 private:
@@ -96,8 +102,7 @@ private:
     // beginning.
     Reached goTo(int number)
     {
-        const std::size_t starts =
-            m_frames.starts.empty() ? 0 : placeOf(m_frames.starts, number) + 1;
+        const std::size_t starts = placeOf(m_frames.starts, number) + 1;
         Reached reached = Reached::Later;
         for (std::size_t farther = 0; farther < starts && reached == Reached::Later;
              farther = 2 * farther + 1) {

@@ -24,6 +24,8 @@ namespace {
 
 // Pictures with fewer lines are standard definition, with its colours, where a film says nothing.
 constexpr int highDefinitionLines = 720;
+// The scaler may write so far beyond the end of a line.
+constexpr int scalerPaddingPX = 32;
 // So many packets at most are given to a decoder before a frame comes back.
 constexpr std::size_t largestDelay = 64;
 constexpr qint64 pixelsPerMegapixel = 1000000;
@@ -41,6 +43,11 @@ bool isInDecodingOrder(const AVFormatContext &format, AVCodecID codec)
 {
     return QByteArray(format.iformat->name) == "avi" &&
            (codec == AV_CODEC_ID_H264 || codec == AV_CODEC_ID_HEVC);
+}
+
+bool hasTooManyPixels(const QSize &size)
+{
+    return qint64(size.width()) * size.height() > largestPictureMegapixels * pixelsPerMegapixel;
 }
 
 bool areDistinct(const std::vector<std::int64_t> &ascending)
@@ -132,8 +139,7 @@ Outcome FilmDecoder::openCodec()
     m_codec->thread_type = FF_THREAD_SLICE;
     m_codec->thread_count = 0; // as many as there are processors
     m_codec->err_recognition = AV_EF_EXPLODE;
-    const qint64 pixels = qint64(m_codec->width) * m_codec->height;
-    if (pixels > largestPictureMegapixels * pixelsPerMegapixel) {
+    if (hasTooManyPixels({m_codec->width, m_codec->height})) {
         return Problem{{}, Text::tr("has more than %1 megapixels").arg(largestPictureMegapixels)};
     }
     m_isInDecodingOrder = isInDecodingOrder(*m_format, codec->id);
@@ -316,18 +322,22 @@ double FilmDecoder::rotationDEG() const
 QImage FilmDecoder::image()
 {
     const QSize size = squarePixelSize();
+    if (hasTooManyPixels(size)) {
+        return {};
+    }
     m_scaler.reset(sws_getCachedContext(
         m_scaler.release(), m_frame->width, m_frame->height,
         static_cast<AVPixelFormat>(m_frame->format), size.width(), size.height(), AV_PIX_FMT_RGB32,
         SWS_BICUBIC | SWS_ACCURATE_RND | SWS_FULL_CHR_H_INT, nullptr, nullptr, nullptr));
-    if (!m_scaler) {
+    QImage image(size + QSize(scalerPaddingPX, 1), QImage::Format_RGB32);
+    if (!m_scaler || image.isNull()) {
         return {};
     }
     setColours();
-    QImage image(size, QImage::Format_RGB32);
     std::uint8_t *const lines[] = {image.bits()};
     const int strides[] = {image.bytesPerLine()};
     sws_scale(m_scaler.get(), m_frame->data, m_frame->linesize, 0, m_frame->height, lines, strides);
+    image = image.copy(QRect(QPoint(), size));
     const double rotation = rotationDEG();
     return rotation == 0.0 ? image : image.transformed(QTransform().rotate(rotation));
 }

@@ -58,7 +58,7 @@ public:
     const std::optional<std::int64_t> &mark() const { return m_mark; }
     /** It, or one that it was made from, could not be decoded. */
     bool isDamaged() const;
-    /** Its picture, upright and of square pixels. */
+    /** Its picture, upright and of square pixels; null for one of too many. */
     QImage image();
 
 private:

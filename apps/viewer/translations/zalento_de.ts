@@ -2341,6 +2341,10 @@
         <source>%1, %2 s</source>
         <translation>%1, %2 s</translation>
     </message>
+    <message>
+        <source>frame %1 is too large</source>
+        <translation>Bild %1 ist zu groß</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>
