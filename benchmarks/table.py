@@ -81,6 +81,7 @@ def program_rows(programs):
     for title, key in (
         ("zalento-measure --help", "help"),
         ("viewer, to its first frame", "viewerStart"),
+        ("viewer, with a folder of 500 pictures", "openFolder/500"),
         ("zalento-measure, a picture with its overlay", "overlay"),
         ("convert, the overlay's lines on that picture", "convert"),
     ):

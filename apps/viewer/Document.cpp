@@ -1,5 +1,7 @@
 #include "Document.h"
 
+#include "measuring/Measurands.h"
+#include "measuring/Measurement.h"
 #include "measuring/SessionFile.h"
 
 #include <utility>
@@ -19,6 +21,24 @@ Document::Document(const QString &path)
     , m_history(std::make_unique<QUndoStack>())
 {
     m_history->setUndoLimit(largestHistory);
+}
+
+QString Document::trouble() const
+{
+    if (session) {
+        return problem.isEmpty() ? overwriteWarning : problem;
+    }
+    return problem.isEmpty() ? foundProblem : problem;
+}
+
+bool isMeasured(const Measuring::Session &session)
+{
+    bool found = false;
+    Measuring::Session each = session;
+    Measuring::forEachMeasurand(each, [&found](const Measuring::Session &measured) {
+        found = found || !Measuring::measure(measured).values.isEmpty();
+    });
+    return found;
 }
 
 SessionStep::SessionStep(const QString &name, Measuring::Session before, Measuring::Session after,

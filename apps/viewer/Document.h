@@ -22,6 +22,10 @@ public:
     QString sessionPath;
     /** Why the picture cannot be shown; empty when it can. */
     QString problem;
+    /** What a look in the background found, while the picture was not shown; empty for nothing. */
+    QString foundProblem;
+    /** There is a value: of the session, or of the one that is saved before that was read. */
+    bool isMeasured = false;
     /** What has to be confirmed before the session file is overwritten; empty for nothing. */
     QString overwriteWarning;
     /** When the session file and the picture were last changed, as loaded or saved here. */
@@ -33,9 +37,15 @@ public:
     QUndoStack &history() { return *m_history; }
     bool isModified() const { return !m_history->isClean(); }
 
+    /** What stands in the way of measuring or of saving; empty for nothing. */
+    QString trouble() const;
+
 private:
     std::unique_ptr<QUndoStack> m_history;
 };
+
+/** Any of a session's measurements has a value. */
+bool isMeasured(const Measuring::Session &session);
 
 /**
  * One finished gesture: the session before and after it. It is pushed when its end is on view

@@ -1,5 +1,7 @@
 #include "DocumentList.h"
 
+#include "Thumbnails.h"
+
 #include "measuring/Count.h"
 #include "measuring/Editing.h"
 #include "measuring/Film.h"
@@ -58,7 +60,9 @@ QDateTime stampOf(const QString &path)
 DocumentList::DocumentList(Preferences &preferences, Guidance &guidance)
     : m_preferences(preferences)
     , m_guidance(guidance)
-{}
+{
+    connect(&m_survey, &PictureSurvey::found, this, &DocumentList::noteFindings);
+}
 
 DocumentList::~DocumentList() = default;
 
@@ -170,22 +174,20 @@ Measuring::Result<int> DocumentList::append(const QString &path)
     }
     beginInsertRows({}, count(), count());
     m_documents.push_back(std::make_unique<Document>(picturePath));
+    Document &document = *m_documents.back();
     if (!sessionPath.isEmpty()) {
-        m_documents.back()->sessionPath = sessionPath;
+        document.sessionPath = sessionPath;
     }
+    m_indices.insert(QFileInfo(picturePath).absoluteFilePath(), count() - 1);
     endInsertRows();
     Q_EMIT countChanged();
+    m_survey.look(picturePath, document.sessionPath);
     return count() - 1;
 }
 
 int DocumentList::indexOf(const QString &picturePath) const
 {
-    const QString wanted = QFileInfo(picturePath).absoluteFilePath();
-    const auto found =
-        std::find_if(m_documents.begin(), m_documents.end(), [&wanted](const auto &document) {
-            return QFileInfo(document->picturePath).absoluteFilePath() == wanted;
-        });
-    return found == m_documents.end() ? -1 : static_cast<int>(found - m_documents.begin());
+    return m_indices.value(QFileInfo(picturePath).absoluteFilePath(), -1);
 }
 
 // Showing
@@ -374,12 +376,42 @@ void DocumentList::noteModified()
         std::count_if(m_documents.begin(), m_documents.end(),
                       [](const auto &document) { return document->isModified(); }));
     if (m_index >= 0) {
-        Q_EMIT dataChanged(index(m_index), index(m_index), {ModifiedRole});
+        Document &document = *current();
+        document.isMeasured = document.session && Zalento::isMeasured(*document.session);
+        noteStateOf(m_index);
     }
     if (unsaved != m_unsavedCount) {
         m_unsavedCount = unsaved;
+        Q_EMIT dataChanged(index(0), index(count() - 1), {ModifiedRole});
         Q_EMIT unsavedCountChanged();
     }
+}
+
+void DocumentList::noteFindings(const QString &picturePath, const PictureFindings &findings)
+{
+    const int found = indexOf(picturePath);
+    if (found >= 0 && !at(found).session) {
+        at(found).isMeasured = findings.isMeasured;
+        noteStateOf(found);
+    }
+    if (!findings.problem.isEmpty()) {
+        noteProblem(picturePath, findings.problem);
+    }
+}
+
+void DocumentList::noteProblem(const QString &picturePath, const QString &problem)
+{
+    const int found = indexOf(picturePath);
+    if (found >= 0) {
+        at(found).foundProblem = problem;
+        noteStateOf(found);
+    }
+}
+
+void DocumentList::noteStateOf(int index)
+{
+    const QModelIndex row = this->index(index);
+    Q_EMIT dataChanged(row, row, {ModifiedRole, MeasuredRole, ProblemRole});
 }
 
 int DocumentList::rowCount(const QModelIndex &parent) const
@@ -394,14 +426,20 @@ QVariant DocumentList::data(const QModelIndex &index, int role) const
     }
     const Document &document = *m_documents[static_cast<std::size_t>(index.row())];
     switch (role) {
+    case NumberRole:
+        return index.row() + 1;
     case NameRole:
         return shortName(document.picturePath);
     case PathRole:
         return document.picturePath;
     case ModifiedRole:
         return document.isModified();
+    case MeasuredRole:
+        return document.isMeasured;
     case ProblemRole:
-        return document.problem;
+        return document.trouble();
+    case ThumbnailRole:
+        return Thumbnails::sourceOf(document.picturePath);
     default:
         return {};
     }
@@ -409,10 +447,9 @@ QVariant DocumentList::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> DocumentList::roleNames() const
 {
-    return {{NameRole, "name"},
-            {PathRole, "path"},
-            {ModifiedRole, "isModified"},
-            {ProblemRole, "problem"}};
+    return {{NumberRole, "number"},       {NameRole, "name"},           {PathRole, "path"},
+            {ModifiedRole, "isModified"}, {MeasuredRole, "isMeasured"}, {ProblemRole, "problem"},
+            {ThumbnailRole, "thumbnail"}};
 }
 
 } // namespace Drevon::Zalento

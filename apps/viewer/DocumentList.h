@@ -3,12 +3,14 @@
 #include "Document.h"
 #include "Guidance.h"
 #include "PictureProvider.h"
+#include "PictureSurvey.h"
 #include "Preferences.h"
 
 #include "measuring/Picture.h"
 #include "measuring/Result.h"
 
 #include <QAbstractListModel>
+#include <QHash>
 #include <QImage>
 #include <QSize>
 #include <QStringList>
@@ -43,7 +45,15 @@ class DocumentList : public QAbstractListModel
     Q_PROPERTY(QString pictureProblem READ pictureProblem NOTIFY currentChanged)
 
 public:
-    enum Role { NameRole = Qt::UserRole, PathRole, ModifiedRole, ProblemRole };
+    enum Role {
+        NumberRole = Qt::UserRole, ///< from 1
+        NameRole,
+        PathRole,
+        ModifiedRole,
+        MeasuredRole,
+        ProblemRole,
+        ThumbnailRole
+    };
 
     DocumentList(Preferences &preferences, Guidance &guidance);
     ~DocumentList() override;
@@ -88,6 +98,9 @@ public:
     /** To be called when a document was changed or saved. */
     void noteModified();
 
+    /** To be called when a picture could not be read in the background. */
+    void noteProblem(const QString &picturePath, const QString &problem);
+
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
@@ -112,17 +125,21 @@ private:
     void takeOverPicture(Document &document);
     void fitAlignment(Document &document);
     void placePoints(Document &document);
+    void noteFindings(const QString &picturePath, const PictureFindings &findings);
+    void noteStateOf(int index);
 
     Preferences &m_preferences;
     Guidance &m_guidance;
     PictureProvider *m_provider = nullptr;
     std::vector<std::unique_ptr<Document>> m_documents;
+    QHash<QString, int> m_indices; ///< by absolute paths
     int m_index = -1;
     int m_unsavedCount = 0;
     std::optional<Measuring::Picture> m_picture;
     QImage m_shownPicture;
     std::optional<Measuring::Lens> m_shownLens;
     int m_pictureNumber = 0;
+    PictureSurvey m_survey;
 };
 
 /** When a file was last changed; invalid for one that is not there. */

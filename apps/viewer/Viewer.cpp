@@ -11,7 +11,9 @@ namespace Drevon::Zalento {
 Viewer::Viewer()
     : m_kindFields(m_editor, Zalento::kindFields)
     , m_alignmentFields(m_editor, Zalento::alignmentFields)
-{}
+{
+    connect(&m_thumbnails, &Thumbnails::failed, &m_documents, &DocumentList::noteProblem);
+}
 
 void Viewer::retranslate()
 {

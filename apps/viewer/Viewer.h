@@ -13,6 +13,7 @@
 #include "MeasurementModel.h"
 #include "PipeRecord.h"
 #include "Preferences.h"
+#include "Thumbnails.h"
 
 #include <QObject>
 #include <QUrl>
@@ -58,6 +59,7 @@ public:
     CameraProfiles *cameras() { return &m_cameras; }
     Exporter *exporter() { return &m_exporter; }
     PipeRecords *records() { return &m_records; }
+    Thumbnails &thumbnails() { return m_thumbnails; }
 
     bool hasPlatformDialogs() const;
 
@@ -77,6 +79,7 @@ private:
     Preferences m_preferences;
     Guidance m_guidance;
     DocumentList m_documents{m_preferences, m_guidance};
+    Thumbnails m_thumbnails;
     MeasurementEditor m_editor{m_documents, m_preferences, m_guidance};
     MeasurementModel m_measurements{m_documents, m_editor};
     Assessment m_assessment{m_editor};

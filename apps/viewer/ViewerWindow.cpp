@@ -3,6 +3,7 @@
 #include "FileOrder.h"
 #include "Language.h"
 #include "OverlayView.h"
+#include "PictureFilter.h"
 #include "PictureProvider.h"
 #include "StageView.h"
 #include "Viewer.h"
@@ -59,6 +60,7 @@ void prepareScene()
     registerTypes("Drevon.Zalento");
     qmlRegisterAnonymousType<QAbstractItemModel>(module, 1); // of FileOrder's source
     qmlRegisterType<FileOrder>(module, 1, 0, "FileOrder");
+    qmlRegisterType<PictureFilter>(module, 1, 0, "PictureFilter");
     qmlRegisterType<OverlayView>(module, 1, 0, "OverlayView");
     qmlRegisterType<StageView>(module, 1, 0, "StageView");
     qmlRegisterSingletonType<Viewer>(module, 1, 0, "Viewer", viewerOf);
@@ -99,6 +101,8 @@ ViewerWindow::ViewerWindow(Viewer &viewer)
     auto *walls = new PictureProvider;
     viewer.wall()->setProvider(walls);
     m_engine.addImageProvider(QStringLiteral("wall"), walls);
+    m_engine.addImageProvider(QStringLiteral("thumbnail"),
+                              new ThumbnailProvider(viewer.thumbnails()));
     m_engine.setProperty(viewerProperty, QVariant::fromValue<QObject *>(&viewer));
     const auto speak = [this, &viewer] {
         useLanguage(viewer.preferences()->language());

@@ -210,6 +210,14 @@ void viewerStart(benchmark::State &state)
     measureRuns(state, {ZALENTO_FIRST_FRAME, sample});
 }
 
+// A folder of so many pictures until the first of them and the list of all are on view.
+void openFolder(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    copiesOfSample(folder, static_cast<int>(state.range(0)));
+    measureRuns(state, {ZALENTO_FIRST_FRAME, folder.path().toStdString()});
+}
+
 // What starting any program with Qt's libraries costs.
 void help(benchmark::State &state)
 {
@@ -218,6 +226,7 @@ void help(benchmark::State &state)
 
 BENCHMARK(help)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(viewerStart)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(openFolder)->Arg(1)->Arg(500)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(overlay)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(convert)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(pictures)->RangeMultiplier(10)->Range(1, 1000)->UseManualTime()->Unit(

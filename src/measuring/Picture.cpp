@@ -92,24 +92,50 @@ int frameCount(QBuffer &content)
     return std::max(1, QImageReader(&content).imageCount()); // 0 where the format knows but one
 }
 
-std::optional<QString> decode(const QByteArray &content, Picture &picture)
+// In the file's own orientation, which a camera may have been turned against.
+QSize sizeWithin(const QSize &bounds, const QImageReader &reader)
 {
-    QBuffer buffer;
-    buffer.setData(content);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
+    const bool isTurned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const QSize size = reader.size();
+    const QSize within = size.scaled(isTurned ? bounds.transposed() : bounds, Qt::KeepAspectRatio);
+    return within.width() < size.width() ? within.expandedTo({1, 1}) : size;
+}
+
+// With bounds it is read small.
+std::optional<QString> decode(QBuffer &content, QImage &image, const QSize &bounds = {})
+{
+    QImageReader reader(&content);
     reader.setAutoTransform(true);
     if (const std::optional<QString> problem = headerProblem(reader)) {
         return problem;
     }
-    if (!isCompletePicture(content, reader.format())) {
+    if (!isCompletePicture(content.data(), reader.format())) {
         return Text::tr("the picture is cut off: the file ends too early");
     }
-    if (!reader.read(&picture.image) || picture.image.isNull()) {
+    if (!bounds.isEmpty()) {
+        reader.setScaledSize(sizeWithin(bounds, reader));
+    }
+    if (!reader.read(&image) || image.isNull()) {
         return Text::tr("the picture is damaged or cut off: %1").arg(reader.errorString());
     }
-    picture.frames = frameCount(buffer);
     return {};
+}
+
+Result<QByteArray> contentOf(const QString &path)
+{
+    const QFileInfo info(path);
+    if (const std::optional<QString> problem = fileProblem(info)) {
+        return Problem{path, *problem};
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return Problem{path, Text::tr("cannot be read: %1").arg(file.errorString())};
+    }
+    const QByteArray content = file.readAll();
+    if (content.size() != info.size()) {
+        return Problem{path, Text::tr("cannot be read to its end")};
+    }
+    return content;
 }
 
 } // namespace
@@ -180,26 +206,50 @@ QStringList picturesIn(const QString &folder, bool recursive)
 
 Result<Picture> loadPicture(const QString &path)
 {
-    const QFileInfo info(path);
-    if (const std::optional<QString> problem = fileProblem(info)) {
-        return Problem{path, *problem};
+    const Result<QByteArray> content = contentOf(path);
+    if (!content) {
+        return content.problem();
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return Problem{path, Text::tr("cannot be read: %1").arg(file.errorString())};
-    }
-    const QByteArray content = file.readAll();
-    if (content.size() != info.size()) {
-        return Problem{path, Text::tr("cannot be read to its end")};
-    }
+    QBuffer buffer;
+    buffer.setData(*content);
+    buffer.open(QIODevice::ReadOnly);
     Picture picture;
-    if (const std::optional<QString> problem = decode(content, picture)) {
+    if (const std::optional<QString> problem = decode(buffer, picture.image)) {
         return Problem{path, *problem};
     }
+    picture.frames = frameCount(buffer);
     picture.identity.path = path;
-    picture.identity.sha256 = QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();
+    picture.identity.sha256 =
+        QCryptographicHash::hash(*content, QCryptographicHash::Sha256).toHex();
     picture.identity.size = picture.image.size();
     return picture;
+}
+
+Result<QImage> loadThumbnail(const QString &path, const QSize &bounds)
+{
+    const Result<QByteArray> content = contentOf(path);
+    if (!content) {
+        return content.problem();
+    }
+    QBuffer buffer;
+    buffer.setData(*content);
+    buffer.open(QIODevice::ReadOnly);
+    QImage image;
+    if (const std::optional<QString> problem = decode(buffer, image, bounds)) {
+        return Problem{path, *problem};
+    }
+    return image;
+}
+
+Outcome checkPicture(const QString &path)
+{
+    std::optional<QString> problem = fileProblem(QFileInfo(path));
+    if (!problem) {
+        QImageReader reader(path);
+        reader.setDecideFormatFromContent(true);
+        problem = headerProblem(reader);
+    }
+    return problem ? Outcome(Problem{path, *problem}) : Outcome();
 }
 
 } // namespace Drevon::Zalento::Measuring

@@ -49,4 +49,13 @@ ZALENTO_MEASURING_EXPORT QStringList picturesIn(const QString &folder, bool recu
 /** Loads a picture. A problem names the file. */
 ZALENTO_MEASURING_EXPORT Result<Picture> loadPicture(const QString &path);
 
+/**
+ * Loads a small image of a picture, upright and no larger than @p bounds. A JPEG is read in that
+ * size, in a fraction of the time that the whole one takes. Fails where loadPicture() fails.
+ */
+ZALENTO_MEASURING_EXPORT Result<QImage> loadThumbnail(const QString &path, const QSize &bounds);
+
+/** What the start of a picture's file tells without decoding it; damage behind it is not seen. */
+ZALENTO_MEASURING_EXPORT Outcome checkPicture(const QString &path);
+
 } // namespace Drevon::Zalento::Measuring

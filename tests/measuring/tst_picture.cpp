@@ -124,6 +124,7 @@ void TestPicture::refuses()
     QVERIFY(!picture);
     const QString problem = picture.problem().text();
     QVERIFY2(problem.startsWith(path + ": ") && problem.contains(expected), qPrintable(problem));
+    QVERIFY(loadThumbnail(path, {20, 10}).problem().text() == problem);
     forgetWarnings(); // decoders complain in their own words
 }
 
@@ -134,6 +135,7 @@ void TestPicture::refusesWhatIsNoFile()
     for (const auto &[path, expected] : cases) {
         const auto picture = loadPicture(QLatin1String(path));
         QVERIFY2(!picture && picture.problem().what.contains(QLatin1String(expected)), path);
+        QVERIFY(checkPicture(QLatin1String(path))->what == picture.problem().what);
     }
 }
 
@@ -186,6 +188,10 @@ void TestPicture::standsUpright()
     QCOMPARE(picture->image.size(), isTurned ? QSize(32, 64) : QSize(64, 32));
     QCOMPARE(picture->identity.size, picture->image.size());
     QVERIFY(picture->image.pixelColor(mark).lightness() > 200);
+    const auto thumbnail = loadThumbnail(path, {16, 16});
+    QCOMPARE(thumbnail->size(), picture->image.size() / 4);
+    QVERIFY(thumbnail->pixelColor(mark / 4).lightness() > 150);
+    QCOMPARE(loadThumbnail(path, {500, 500})->size(), picture->image.size());
     QCOMPARE(picture->identity.sha256,
              QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex());
 }

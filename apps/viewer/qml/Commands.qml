@@ -8,6 +8,8 @@ Item {
     required property var stage
     required property var side
     signal openRequested()
+    signal stripRequested()
+    signal goToRequested()
     signal nameRequested()
     signal keysRequested()
 
@@ -44,6 +46,20 @@ Item {
         shortcut: "PgDown"
         enabled: Viewer.documents.currentIndex + 1 < Viewer.documents.count
         onTriggered: Viewer.documents.showNext()
+    }
+    readonly property Command strip: Command {
+        text: qsTr("Pictures")
+        hint: qsTr("Strip of all pictures")
+        shortcut: "F9"
+        enabled: Viewer.documents.count > 1
+        onTriggered: commands.stripRequested()
+    }
+    readonly property Command goTo: Command {
+        text: qsTr("Go to…")
+        hint: qsTr("Go to a picture: its number, or a part of its name")
+        shortcut: "G"
+        enabled: Viewer.documents.count > 1
+        onTriggered: commands.goToRequested()
     }
     readonly property Command undo: Command {
         text: qsTr("↶ Undo")
@@ -241,7 +257,7 @@ Item {
     }
 
     // In the order of the list of keys; the kinds follow, under their numbers.
-    readonly property var all: [open, save, copy, previous, next, undo, redo, giveUp, dropLastPoint,
+    readonly property var all: [open, save, copy, previous, next, strip, goTo, undo, redo, giveUp, dropLastPoint,
                                 confirm, measureAgain, another, nextMeasurement, rename, remove,
                                 showAll, clickPoints, clickJoint, clickLine, snap, unit,
                                 map, wall, film, zoomIn, zoomOut, fit, actualSize, showValue, showFields,

@@ -10,6 +10,8 @@ ApplicationWindow {
     // Height is scarce on a small screen that lies, width on one that stands.
     readonly property bool isLow: height < 700
     readonly property bool isUpright: height > width
+    // On a small screen it takes too much of the picture to stay.
+    property bool showsStrip: !isLow
 
     visible: true
     width: Math.min(Viewer.preferences.windowSize.width, Screen.desktopAvailableWidth)
@@ -64,7 +66,7 @@ ApplicationWindow {
     }
     PictureStage {
         id: stage
-        anchors { left: work.left; right: wallPanel.left; top: work.top; bottom: work.bottom }
+        anchors { left: work.left; right: wallPanel.left; top: work.top; bottom: strip.top }
         commands: commands
         isBehindDialog: fileChooser.isOpen || [filmPanel, recordDialog, nameDialog, cameraDialog, keyList, saveDialog, unsavedDialog]
                                               .some(dialog => dialog.visible)
@@ -72,9 +74,16 @@ ApplicationWindow {
     WallPanel {
         id: wallPanel
         objectName: "wallPanel"
-        anchors { right: work.right; top: work.top; bottom: work.bottom }
+        anchors { right: work.right; top: work.top; bottom: strip.top }
         width: visible ? Math.round(work.width / 2) : 0
         visible: Viewer.wall.isShown
+    }
+    PictureStrip {
+        id: strip
+        anchors { left: work.left; right: work.right; bottom: work.bottom }
+        height: visible ? implicitHeight : 0
+        visible: window.showsStrip && Viewer.documents.count > 1
+        onPictureChosen: window.showsStrip = !window.isLow
     }
     StatusLine {
         id: statusLine
@@ -182,6 +191,14 @@ ApplicationWindow {
         stage: stage
         side: side
         onOpenRequested: fileChooser.openPictures()
+        onStripRequested: {
+            window.showsStrip = !window.showsStrip
+            window.showsStrip ? strip.focusList() : stage.forceActiveFocus()
+        }
+        onGoToRequested: {
+            window.showsStrip = true
+            strip.focusSearch()
+        }
         onNameRequested: nameDialog.open()
         onKeysRequested: keyList.open()
     }

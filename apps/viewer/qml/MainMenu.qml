@@ -35,6 +35,11 @@ ViewerMenu {
         onTriggered: menu.cameraRequested()
     }
     ViewerMenuItem { action: menu.commands.film }
+    ViewerMenuItem {
+        text: menu.commands.strip.hint
+        enabled: menu.commands.strip.enabled
+        onTriggered: menu.commands.strip.trigger()
+    }
     ViewerMenuItem { action: menu.commands.map }
     ViewerMenuItem { action: menu.commands.wall }
     ViewerMenu {

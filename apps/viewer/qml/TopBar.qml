@@ -119,34 +119,47 @@ Rectangle {
             width: Theme.touch
             font.pixelSize: 26
         }
-        Column {
+        ToolKey {
+            id: stripKey
+            objectName: "stripKey"
+            action: bar.commands.strip
             readonly property real taken: bar.isLow ? bar.zoomKeysX + 5 * (Theme.touch + 4)
                                                     : left.x + left.width
-            width: Math.max(40, Math.min(240, bar.width - taken
+            width: Math.max(44, Math.min(240, bar.width - taken
                                               - (bar.isLow ? 2 : 3) * (Theme.touch + 4) - 20))
-            anchors.verticalCenter: parent.verticalCenter
             visible: Viewer.documents.count > 0
-            Text {
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                elide: Text.ElideMiddle
-                text: Viewer.documents.pictureName
-                color: Theme.text
-                font { family: Theme.family; pixelSize: Theme.normal }
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-            }
-            Text {
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                elide: Text.ElideRight
-                text: qsTr("%1 of %2").arg(Viewer.documents.currentIndex + 1).arg(Viewer.documents.count)
-                      + (Viewer.documents.hasPicture && !bar.isLow ? qsTr(" · %1 × %2").arg(Viewer.documents.pictureSize.width)
-                                             .arg(Viewer.documents.pictureSize.height) : "")
-                color: Theme.quiet
-                font { family: Theme.family; pixelSize: 12 }
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
+            // No room for a name.
+            readonly property bool isTight: width < 100
+            readonly property string place: isTight
+                ? (Viewer.documents.currentIndex + 1) + "/" + Viewer.documents.count
+                : qsTr("%1 of %2").arg(Viewer.documents.currentIndex + 1).arg(Viewer.documents.count)
+            readonly property string size: Viewer.documents.hasPicture
+                ? qsTr(" · %1 × %2").arg(Viewer.documents.pictureSize.width)
+                                    .arg(Viewer.documents.pictureSize.height) : ""
+            Accessible.name: [Viewer.documents.pictureName, place, hint].join(", ")
+            contentItem: Column {
+                topPadding: stripKey.isTight ? 14 : 4
+                Text {
+                    id: pictureName
+                    visible: !stripKey.isTight
+                    width: parent.width
+                    horizontalAlignment: Text.AlignHCenter
+                    elide: Text.ElideMiddle
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPixelSize: 11
+                    text: stripKey.isTight ? "" : Viewer.documents.pictureName
+                    color: Theme.text
+                    font { family: Theme.family; pixelSize: Theme.normal }
+                }
+                Text {
+                    width: parent.width
+                    horizontalAlignment: Text.AlignHCenter
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPixelSize: 9
+                    text: stripKey.isTight || bar.isLow ? stripKey.place : stripKey.place + stripKey.size
+                    color: Theme.quiet
+                    font { family: Theme.family; pixelSize: 12 }
+                }
             }
         }
         ToolKey {

@@ -500,6 +500,22 @@
         <source>The film, to measure another of its frames</source>
         <translation>Der Film, um ein weiteres seiner Bilder zu messen</translation>
     </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Strip of all pictures</source>
+        <translation>Streifen mit allen Bildern</translation>
+    </message>
+    <message>
+        <source>Go to…</source>
+        <translation>Gehe zu …</translation>
+    </message>
+    <message>
+        <source>Go to a picture: its number, or a part of its name</source>
+        <translation>Zu einem Bild: seine Nummer oder ein Teil des Namens</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1566,6 +1582,21 @@
     </message>
 </context>
 <context>
+    <name>PictureCard</name>
+    <message>
+        <source>trouble</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>not saved</source>
+        <translation>nicht gesichert</translation>
+    </message>
+    <message>
+        <source>measured</source>
+        <translation>gemessen</translation>
+    </message>
+</context>
+<context>
     <name>PictureStage</name>
     <message>
         <source>Picture %1</source>
@@ -1578,6 +1609,49 @@
     <message>
         <source>Open pictures</source>
         <translation>Bilder öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>PictureStrip</name>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <source>Not measured</source>
+        <translation>Nicht gemessen</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Nicht gesichert</translation>
+    </message>
+    <message>
+        <source>Trouble</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Number or name</source>
+        <translation>Nr. oder Name</translation>
+    </message>
+    <message>
+        <source>Go to a picture: its number, or a part of its name</source>
+        <translation>Zu einem Bild: seine Nummer oder ein Teil des Namens</translation>
+    </message>
+    <message>
+        <source>Which pictures are listed: %1</source>
+        <translation>Welche Bilder die Liste zeigt: %1</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>None of the pictures is like that</source>
+        <translation>Kein Bild ist so</translation>
     </message>
 </context>
 <context>

@@ -500,6 +500,22 @@
         <source>The film, to measure another of its frames</source>
         <translation>Le film, pour mesurer une autre de ses images</translation>
     </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Strip of all pictures</source>
+        <translation>Bande de toutes les images</translation>
+    </message>
+    <message>
+        <source>Go to…</source>
+        <translation>Aller à…</translation>
+    </message>
+    <message>
+        <source>Go to a picture: its number, or a part of its name</source>
+        <translation>Aller à une image : son numéro ou une partie du nom</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1566,6 +1582,21 @@
     </message>
 </context>
 <context>
+    <name>PictureCard</name>
+    <message>
+        <source>trouble</source>
+        <translation>problème</translation>
+    </message>
+    <message>
+        <source>not saved</source>
+        <translation>non enregistrée</translation>
+    </message>
+    <message>
+        <source>measured</source>
+        <translation>mesurée</translation>
+    </message>
+</context>
+<context>
     <name>PictureStage</name>
     <message>
         <source>Picture %1</source>
@@ -1578,6 +1609,49 @@
     <message>
         <source>Open pictures</source>
         <translation>Ouvrir des images</translation>
+    </message>
+</context>
+<context>
+    <name>PictureStrip</name>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Mesurées</translation>
+    </message>
+    <message>
+        <source>Not measured</source>
+        <translation>Non mesurées</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Non enregistrées</translation>
+    </message>
+    <message>
+        <source>Trouble</source>
+        <translation>Problème</translation>
+    </message>
+    <message>
+        <source>Number or name</source>
+        <translation>N° ou nom</translation>
+    </message>
+    <message>
+        <source>Go to a picture: its number, or a part of its name</source>
+        <translation>Aller à une image : son numéro ou une partie du nom</translation>
+    </message>
+    <message>
+        <source>Which pictures are listed: %1</source>
+        <translation>Images de la liste : %1</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>None of the pictures is like that</source>
+        <translation>Aucune image de ce genre</translation>
     </message>
 </context>
 <context>

@@ -89,8 +89,9 @@ public:
             auto *accessible = QAccessible::queryAccessibleInterface(item);
             const QString label = accessible ? accessible->text(QAccessible::Name) : QString();
             const QRectF place = item->mapRectToScene(item->boundingRect());
-            const bool isInside =
-                isScrolled(item) ? place.right() <= whole.right() : whole.contains(place);
+            const QQuickItem *area = scrolledArea(item);
+            const bool isInside = !area ? whole.contains(place)
+                                        : isWiderInside(area) || place.right() <= whole.right();
             const double side = std::min(item->width(), item->height());
             if (label.isEmpty() || side < smallestForAFinger || !isInside || isCutOff(item)) {
                 unfit += QStringLiteral("%1 \"%2\"").arg(item->objectName(), label);
@@ -239,7 +240,11 @@ private:
                    return item->property("truncated").toBool();
                });
     }
-    static bool isScrolled(const QQuickItem *item)
+    static bool isWiderInside(const QQuickItem *area)
+    {
+        return area->property("contentWidth").toDouble() > area->width();
+    }
+    static const QQuickItem *scrolledArea(const QQuickItem *item)
     {
         while (item && !item->inherits("QQuickFlickable")) {
             item = item->parentItem();

@@ -16,6 +16,7 @@
 #include <QProcess>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStyleHints>
 
@@ -92,6 +93,7 @@ private slots:
     void pictureVanishesWhileItIsOpen();
     void picksFiles();
     void severalPictures();
+    void findsOneOfManyPictures();
     void recordSetsTheDiameter();
     void overlayHidesWhileHeld();
     void jointsAlignTheModel();
@@ -774,6 +776,83 @@ void TestViewer::severalPictures()
     d.key(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(d.editor.points()->count(), 0);
     QCOMPARE(d.viewer.preferences()->recentFiles().first(), first);
+}
+
+void TestViewer::findsOneOfManyPictures()
+{
+    ViewerDriver d;
+    QVERIFY(writeBytes(d.folder.filePath("Pipe 2.jpg"), "not a picture"));
+    for (const char *copy : {"crack.jpg:pipe 10.jpg", "water.jpg:pipe 12.jpg",
+                             "crack.jpg.zalento.json:pipe 10.jpg.zalento.json",
+                             "dimension.jpg:pipe 1.jpg", "section.jpg:pipe 20.jpg"}) {
+        d.copySample(QString(copy).section(':', 0, 0), QString(copy).section(':', 1));
+    }
+    QVERIFY(writeBytes(d.folder.filePath("pipe 12.jpg.zalento.json"), "{"));
+    d.documents.openPaths({d.folder.path()});
+    const auto told = [&d] {
+        QStringList names;
+        for (QQuickItem *card : ViewerDriver::below(d.find("strip"))) {
+            if (card->isVisible() && card->objectName().startsWith("picture.")) {
+                auto *accessible = QAccessible::queryAccessibleInterface(card);
+                names += accessible->text(QAccessible::Name);
+            }
+        }
+        names.sort();
+        return names;
+    };
+    QTRY_COMPARE(told(),
+                 QStringList({"1: pipe 1.jpg", "2: Pipe 2.jpg, trouble", "3: pipe 10.jpg, measured",
+                              "4: pipe 12.jpg, trouble", "5: pipe 20.jpg"}));
+    d.click(110, 288);
+    d.click(640, 300);
+    QCOMPARE(told().first(), QString("1: pipe 1.jpg, not saved, measured"));
+    d.screenshot("strip");
+
+    const auto goTo = [&d](const QString &text) {
+        d.key(Qt::Key_G);
+        d.type("stripSearch", text);
+        return d.documents.pictureName();
+    };
+    QCOMPARE(goTo("PE 12"), QString("pipe 12.jpg"));
+    QCOMPARE(goTo("1"), QString("pipe 1.jpg"));
+    QCOMPARE(goTo("5"), QString("pipe 20.jpg"));
+    QCOMPARE(goTo("none"), QString("pipe 20.jpg"));
+    QTRY_VERIFY(told().isEmpty());
+    d.key(Qt::Key_Escape);
+    QTRY_COMPARE(told().size(), 5);
+    d.clickItem("picture.4");
+    QCOMPARE(d.documents.pictureName(), QString("pipe 12.jpg"));
+
+    // The strip goes, and comes with the keys.
+    d.clickItem("stripKey");
+    QVERIFY(told().isEmpty());
+    d.key(Qt::Key_F9);
+    d.key(Qt::Key_Home);
+    d.key(Qt::Key_Right);
+    d.key(Qt::Key_Right);
+    d.key(Qt::Key_Return);
+    QCOMPARE(d.documents.pictureName(), QString("pipe 10.jpg"));
+
+    const QVector<QStringList> listed{{"1", "3"}, {"2", "4", "5"}, {"1"}, {"2", "4"}};
+    for (int state = 1; state <= listed.size(); ++state) {
+        d.clickItem("stripState");
+        d.waitForDialog("stripStateMenu");
+        d.clickItem(QStringLiteral("stripState.%1").arg(state));
+        QTRY_COMPARE(told().replaceInStrings(QRegularExpression(":.*"), QString()),
+                     listed[state - 1]);
+    }
+
+    // On a small screen it leaves the picture its place again.
+    ViewerDriver small(QSize(800, 480), "de");
+    small.documents.openPaths({d.folder.path()});
+    const QQuickItem *strip = small.find("strip");
+    QVERIFY(!strip->isVisible());
+    small.key(Qt::Key_F9);
+    QVERIFY(strip->isVisible());
+    small.screenshot("strip-small");
+    QVERIFY2(small.unfitControls().isEmpty(), qPrintable(small.unfitControls().join(", ")));
+    small.clickItem("picture.2");
+    QVERIFY(!strip->isVisible() && small.documents.currentIndex() == 1);
 }
 
 void TestViewer::recordSetsTheDiameter()
