@@ -1,5 +1,7 @@
 #include "measure/ValuePrinter.h"
 
+#include "measuring/UncertaintyText.h"
+
 namespace Drevon::Zalento::Apps {
 
 namespace {
@@ -32,8 +34,8 @@ QByteArray textLines(const PictureValues &result)
     QByteArray lines;
     for (const Value &value : result.values) {
         lines += QStringLiteral("%1: %2 %3 (%4 %5)%6\n")
-                     .arg(place, value.name, value.fullText(), numberText(value.number), value.unit,
-                          decisionOf(value))
+                     .arg(place, value.name, inTableUnit(value).fullText(),
+                          numberText(value.number), value.unit, decisionOf(value))
                      .toUtf8();
     }
     return lines;

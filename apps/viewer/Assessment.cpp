@@ -202,7 +202,7 @@ QString Assessment::repeats() const
     if (!statistics) {
         return {};
     }
-    Measuring::Value mean = values.first();
+    Measuring::Value mean = Measuring::inTableUnit(values.first());
     mean.number = statistics->mean;
     return tr("%n results: mean %1, spread %2, of the mean %3", nullptr, statistics->count)
         .arg(Measuring::textWithUncertainty(mean, Measuring::coverageFactor *

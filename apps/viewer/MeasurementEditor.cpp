@@ -8,6 +8,7 @@
 #include "measuring/Repeats.h"
 #include "measuring/Replay.h"
 #include "measuring/SessionFit.h"
+#include "measuring/UncertaintyText.h"
 
 #include <drevon/AppState.h>
 
@@ -179,8 +180,11 @@ MeasurementEditor::Shown MeasurementEditor::shownNow() const
     const auto &values = m_measurement.values;
     now.kind = infoOf(s.kind).nameText();
     now.hasModel = infoOf(s.kind).has(Uses::Model);
-    now.value = values.isEmpty() ? QString() : values.first().fullText();
-    now.secondValue = values.size() > 1 ? values.at(1).fullText() : QString();
+    const auto textAt = [&values](int i) {
+        return i < values.size() ? Measuring::inTableUnit(values[i]).fullText() : QString();
+    };
+    now.value = textAt(0);
+    now.secondValue = textAt(1);
     now.isSet = s.isSet;
     now.valueNote = noteOn(s, values);
     now.isImperial = s.unit != MeasureUnit::Metric;

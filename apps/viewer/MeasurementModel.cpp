@@ -1,6 +1,7 @@
 #include "MeasurementModel.h"
 
 #include "measuring/Measurands.h"
+#include "measuring/UncertaintyText.h"
 
 namespace Drevon::Zalento {
 
@@ -45,7 +46,9 @@ void MeasurementModel::follow()
         chosen = Measuring::measurandAtHand(session);
         Measuring::forEachMeasurand(session, [&rows](const Session &measured) {
             const auto values = Measuring::measure(measured).values;
-            rows.append({nameOf(measured), values.isEmpty() ? QString() : values.first().text});
+            const QString value =
+                values.isEmpty() ? QString() : Measuring::inTableUnit(values.first()).text;
+            rows.append({nameOf(measured), value});
         });
     }
     setRows(rows, chosen);

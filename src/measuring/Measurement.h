@@ -33,7 +33,7 @@ struct Value
     /** Filled likewise, with the results that the session kept; nothing for fewer than two. */
     std::optional<RepeatStatistics> repeats;
 
-    /** The text with the expanded uncertainty, where there is one. */
+    /** The text with the expanded uncertainty, where there is one; inTableUnit() for tables. */
     ZALENTO_MEASURING_EXPORT QString fullText() const;
 };
 

@@ -1,6 +1,7 @@
 #include "measuring/ReportText.h"
 
 #include "measuring/Text.h"
+#include "measuring/UncertaintyText.h"
 
 #include <QFileInfo>
 #include <QStringList>
@@ -306,7 +307,9 @@ QString overviewRow(const QString &picture, int number, const ReportMeasurement 
     QStringList values;
     QStringList limits;
     for (const Value &value : measurement.values.values) {
-        values += QStringLiteral("%1 %2").arg(valueName(value), value.fullText()).toHtmlEscaped();
+        values += QStringLiteral("%1 %2")
+                      .arg(valueName(value), inTableUnit(value).fullText())
+                      .toHtmlEscaped();
         limits += limitText(measurement, value).toHtmlEscaped();
     }
     const QLatin1String newLine("<br>");
@@ -346,7 +349,7 @@ QString measurementHtml(const ReportMeasurement &measurement)
                                 {Text::tr("uncertain by"), 30}});
     for (const Value &value : measured.values) {
         rows += row({valueName(value).toHtmlEscaped(),
-                     QStringLiteral("<b>%1</b>").arg(value.fullText().toHtmlEscaped()),
+                     QStringLiteral("<b>%1</b>").arg(inTableUnit(value).fullText().toHtmlEscaped()),
                      limitText(measurement, value).toHtmlEscaped(), budgetText(value)});
     }
     return QString(grid).arg(rows) + repeatsHtml(measured);

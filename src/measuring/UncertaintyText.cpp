@@ -20,35 +20,51 @@ struct ShownUnit
 {
     QString suffix; ///< with the space before it
     double size;    ///< in the value's unit
+    /** Of the unit that tables have instead. */
+    QString tableSuffix;
+    int tableDecimals; ///< with which a table tells as much as the overlay does in this unit
 };
 
 // The suffixes of UnitConv's texts and of percentages and angles, longer ones first.
 const std::array<ShownUnit, 11> &shownUnits()
 {
+    const QString mm = QStringLiteral(" mm");
+    const QString cm2 = QStringLiteral(" cm²");
+    const QString inch = QStringLiteral("''");
+    const QString inch2 = QStringLiteral(" inch²");
+    const QString percent = QStringLiteral(" %");
+    const QString degree = QStringLiteral("°");
     static const std::array<ShownUnit, 11> units{{
-        {QStringLiteral(" cm²"), 100.0},
-        {QStringLiteral(" m²"), 1e6},
-        {QStringLiteral(" inch²"), mmPerInch * mmPerInch},
-        {QStringLiteral(" ft²"), mmPerFoot * mmPerFoot},
-        {QStringLiteral(" mm"), 1.0},
-        {QStringLiteral(" cm"), 10.0},
-        {QStringLiteral(" m"), 1000.0},
-        {QStringLiteral("''"), mmPerInch},
-        {QStringLiteral("'"), mmPerFoot},
-        {QStringLiteral(" %"), 1.0},
-        {QStringLiteral("°"), 1.0},
+        {cm2, 100.0, cm2, 1},
+        {QStringLiteral(" m²"), 1e6, cm2, -2},
+        {inch2, mmPerInch * mmPerInch, inch2, 1},
+        {QStringLiteral(" ft²"), mmPerFoot * mmPerFoot, inch2, 0},
+        {mm, 1.0, mm, 0},
+        {QStringLiteral(" cm"), 10.0, mm, 0},
+        {QStringLiteral(" m"), 1000.0, mm, 0},
+        {inch, mmPerInch, inch, 2},
+        {QStringLiteral("'"), mmPerFoot, inch, 2},
+        {percent, 1.0, percent, 0},
+        {degree, 1.0, degree, 0},
     }};
     return units;
 }
 
-ShownUnit shownUnitOf(const Value &value)
+// Of a value in @p unit with this text.
+ShownUnit shownUnitOf(const QString &text, const QString &unit)
 {
-    for (const ShownUnit &unit : shownUnits()) {
-        if (value.text.endsWith(unit.suffix)) {
-            return unit;
+    for (const ShownUnit &shown : shownUnits()) {
+        if (text.endsWith(shown.suffix)) {
+            return shown;
         }
     }
-    return {QLatin1Char(' ') + value.unit, 1.0};
+    const QString suffix = QLatin1Char(' ') + unit;
+    return {suffix, 1.0, suffix, 0};
+}
+
+ShownUnit shownUnitOf(const Value &value)
+{
+    return shownUnitOf(value.text, value.unit);
 }
 
 // Decimals with which an uncertainty is told; fewer than none for one of tens or hundreds.
@@ -95,6 +111,17 @@ QString uncertaintyText(const Value &value, double expanded)
     const double shown = expanded / unit.size;
     return QStringLiteral("± %1%2").arg(marked(value, rounded(shown, decimalsOf(shown))),
                                         unit.suffix);
+}
+
+Value inTableUnit(Value value)
+{
+    const ShownUnit shown = shownUnitOf(value);
+    if (shown.tableSuffix != shown.suffix) {
+        const ShownUnit table = shownUnitOf(shown.tableSuffix, value.unit);
+        value.text =
+            marked(value, rounded(value.number / table.size, shown.tableDecimals)) + table.suffix;
+    }
+    return value;
 }
 
 } // namespace Drevon::Zalento::Measuring

@@ -17,4 +17,12 @@ ZALENTO_MEASURING_EXPORT QString textWithUncertainty(const Value &value, double 
 /** The uncertainty alone: "± 0.3 cm". */
 ZALENTO_MEASURING_EXPORT QString uncertaintyText(const Value &value, double expanded);
 
+/**
+ * The value with a text for tables, and wherever one is read after the other: the overlay's "15.9
+ * cm" becomes "159 mm". Lengths are in mm or inches and areas in cm² or square inches, whatever
+ * their size; the last digit stands for as much as the overlay's. With its uncertainty, fullText()
+ * ends at the uncertainty's place.
+ */
+ZALENTO_MEASURING_EXPORT Value inTableUnit(Value value);
+
 } // namespace Drevon::Zalento::Measuring

@@ -505,24 +505,28 @@ void TestUncertainty::isTold_data()
     QTest::addColumn<double>("number");
     QTest::addColumn<double>("expanded");
     QTest::addColumn<QString>("told");
+    QTest::addColumn<QString>("tabled"); // without its uncertainty and with it
     const auto row = [](const char *text, const char *unit, double number, double expanded,
-                        const char *told) {
+                        const char *told, const char *tabled) {
         QTest::newRow(told) << QString::fromUtf8(text) << QString::fromUtf8(unit) << number
-                            << expanded << QString::fromUtf8(told);
+                            << expanded << QString::fromUtf8(told) << QString::fromUtf8(tabled);
     };
-    row("0 mm", "mm", 0.42, 0.22, "0.42 mm ± 0.22 mm");
-    row("0 mm", "mm", 0.42, 0.31, "0.4 mm ± 0.3 mm");
-    row("15.9 cm", "mm", 159.26, 2.902, "15.93 cm ± 0.29 cm");
-    row("15 %", "%", 15.3, 3.4, "15 % ± 3 %");
-    row("15.9 cm", "mm", 159.26, 2.951, "15.9 cm ± 0.3 cm");
-    row("50.0 %", "%", 50.04, 0.0962, "50.04 % ± 0.10 %");
-    row("12.345 m", "mm", 12345.6, 1234.0, "12.3 m ± 1.2 m");
-    row("87 mm", "mm", 87.0, 39.0, "90 mm ± 40 mm");
-    row("6.27''", "mm", 159.26, 2.951, "6.27'' ± 0.12''");
-    row("1.312'", "mm", 400.0, 30.48, "1.31' ± 0.10'");
-    row("116.1 cm²", "mm²", 11613.4, 460.0, "116 cm² ± 5 cm²");
-    row("45°", "deg", 45.0, 9.96, "45° ± 10°");
-    row("45°", "deg", 45.0, 0.0, "45° ± 0°");
+    row("0 mm", "mm", 0.42, 0.22, "0.42 mm ± 0.22 mm", "0 mm, 0.42 mm ± 0.22 mm");
+    row("0 mm", "mm", 0.42, 0.31, "0.4 mm ± 0.3 mm", "0 mm, 0.4 mm ± 0.3 mm");
+    row("15.9 cm", "mm", 159.26, 2.902, "15.93 cm ± 0.29 cm", "159 mm, 159.3 mm ± 2.9 mm");
+    row("15 %", "%", 15.3, 3.4, "15 % ± 3 %", "15 %, 15 % ± 3 %");
+    row("15.9 cm", "mm", 159.26, 2.951, "15.9 cm ± 0.3 cm", "159 mm, 159 mm ± 3 mm");
+    row("50.0 %", "%", 50.04, 0.0962, "50.04 % ± 0.10 %", "50.0 %, 50.04 % ± 0.10 %");
+    row("12.345 m", "mm", 12345.6, 1234.0, "12.3 m ± 1.2 m", "12346 mm, 12300 mm ± 1200 mm");
+    row("87 mm", "mm", 87.0, 39.0, "90 mm ± 40 mm", "87 mm, 90 mm ± 40 mm");
+    row("6.27''", "mm", 159.26, 2.951, "6.27'' ± 0.12''", "6.27'', 6.27'' ± 0.12''");
+    row("1.312'", "mm", 400.0, 30.48, "1.31' ± 0.10'", "15.75'', 15.7'' ± 1.2''");
+    row("116.1 cm²", "mm²", 11613.4, 460.0, "116 cm² ± 5 cm²", "116.1 cm², 116 cm² ± 5 cm²");
+    row("0.28 m²", "mm²", 282743.0, 4600.0, "0.283 m² ± 0.005 m²", "2800 cm², 2830 cm² ± 50 cm²");
+    row("1.50 ft²", "mm²", 139355.0, 9290.3, "1.50 ft² ± 0.10 ft²",
+        "216 inch², 216 inch² ± 14 inch²");
+    row("45°", "deg", 45.0, 9.96, "45° ± 10°", "45°, 45° ± 10°");
+    row("45°", "deg", 45.0, 0.0, "45° ± 0°", "45°, 45° ± 0°");
 }
 
 void TestUncertainty::isTold()
@@ -534,6 +538,8 @@ void TestUncertainty::isTold()
     QFETCH(QString, told);
     const Value value{QStringLiteral("value"), number, unit, text, {}, {}};
     QCOMPARE(textWithUncertainty(value, expanded), told);
+    const Value table = inTableUnit(value);
+    QTEST(table.text + ", " + textWithUncertainty(table, expanded), "tabled");
 }
 
 void TestUncertainty::limitsAreRead()
