@@ -335,7 +335,7 @@ QImage FilmDecoder::image()
     }
     setColours();
     std::uint8_t *const lines[] = {image.bits()};
-    const int strides[] = {image.bytesPerLine()};
+    const int strides[] = {static_cast<int>(image.bytesPerLine())};
     sws_scale(m_scaler.get(), m_frame->data, m_frame->linesize, 0, m_frame->height, lines, strides);
     image = image.copy(QRect(QPoint(), size));
     const double rotation = rotationDEG();

@@ -46,8 +46,8 @@ Popup {
             asynchronous: false
             mipmap: true
             activeFocusOnTab: true
-            Keys.onLeftPressed: panel.step(event.modifiers & Qt.ShiftModifier ? -panel.longStep : -1)
-            Keys.onRightPressed: panel.step(event.modifiers & Qt.ShiftModifier ? panel.longStep : 1)
+            Keys.onLeftPressed: event => panel.step(event.modifiers & Qt.ShiftModifier ? -panel.longStep : -1)
+            Keys.onRightPressed: event => panel.step(event.modifiers & Qt.ShiftModifier ? panel.longStep : 1)
             Keys.onReturnPressed: panel.take()
             Keys.onEnterPressed: panel.take()
             Accessible.role: Accessible.Graphic

@@ -63,7 +63,7 @@ Rectangle {
         color: list.count > 0 ? Theme.text : Theme.warning
         font { family: Theme.family; pixelSize: Theme.small }
         Accessible.name: qsTr("Go to a picture: its number, or a part of its name")
-        Keys.onShortcutOverride: event.accepted = event.key === Qt.Key_Escape
+        Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
         Keys.onEscapePressed: {
             text = ""
             Viewer.focusStage()
@@ -123,7 +123,7 @@ Rectangle {
         Keys.onSpacePressed: if (currentItem) currentItem.clicked()
         Keys.onReturnPressed: if (currentItem) currentItem.clicked()
         Keys.onEnterPressed: if (currentItem) currentItem.clicked()
-        Keys.onPressed: {
+        Keys.onPressed: event => {
             const ends = {}
             ends[Qt.Key_Home] = 0
             ends[Qt.Key_End] = count - 1
@@ -131,7 +131,7 @@ Rectangle {
             if (event.accepted)
                 currentIndex = ends[event.key]
         }
-        Keys.onShortcutOverride: event.accepted = event.key === Qt.Key_Escape
+        Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
         Keys.onEscapePressed: Viewer.focusStage()
         ScrollBar.horizontal: ScrollBar { height: 10 }
         delegate: PictureCard {
