@@ -648,20 +648,22 @@ void Batch::drawOverlay(Work &work) const
             work.others = std::make_shared<OtherOverlays>(work.session);
         }
         work.item = std::make_shared<ZaItem>();
-        showSession(work.session, *work.item);
+        showSession(work.session, *work.item, overlayScale(work.picture.image.size()));
     });
     if (work.result.values.status == Status::NotSet) {
         work.result.warnings += QStringLiteral("nobody has set what the overlay shows: %1")
                                     .arg(neededOption(infoOf(work.session.kind)));
     }
     const QString &picture = work.result.values.picture;
+    const PaintedOverlay overlay{*work.item, overlayScale(work.picture.image.size()),
+                                 work.others.get()};
     if (m_command.writesPng) {
         work.drawn.append({overlayPathOf(picture, m_command.outputFolder, QStringLiteral("png")),
-                           overlayPng(*work.item, work.picture.image, work.others.get())});
+                           overlayPng(overlay, work.picture.image)});
     }
     if (m_command.writesSvg) {
         work.drawn.append({overlayPathOf(picture, m_command.outputFolder, QStringLiteral("svg")),
-                           overlaySvg(*work.item, work.picture.image.size(), work.others.get())});
+                           overlaySvg(overlay, work.picture.image.size())});
     }
 }
 

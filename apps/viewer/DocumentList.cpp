@@ -7,6 +7,7 @@
 #include "measuring/Film.h"
 #include "measuring/Kind.h"
 #include "measuring/Measurands.h"
+#include "measuring/Replay.h"
 #include "measuring/SessionFile.h"
 #include "measuring/SessionFit.h"
 #include "measuring/SessionLens.h"
@@ -71,6 +72,11 @@ DocumentList::~DocumentList() = default;
 Document *DocumentList::current() const
 {
     return m_index < 0 ? nullptr : m_documents[static_cast<std::size_t>(m_index)].get();
+}
+
+double DocumentList::overlayScale() const
+{
+    return Measuring::overlayScale(pictureSize());
 }
 
 QString DocumentList::pictureSource() const

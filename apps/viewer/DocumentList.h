@@ -40,6 +40,8 @@ class DocumentList : public QAbstractListModel
     /** As it is shown: without the distortion of the session's lens. */
     Q_PROPERTY(QImage picture READ picture NOTIFY pictureChanged)
     Q_PROPERTY(QSize pictureSize READ pictureSize NOTIFY currentChanged)
+    /** That the measuring item is shown with, see measuring/Replay.h. */
+    Q_PROPERTY(double overlayScale READ overlayScale NOTIFY currentChanged)
     Q_PROPERTY(QString pictureSource READ pictureSource NOTIFY pictureChanged)
     Q_PROPERTY(QString pictureName READ pictureName NOTIFY currentChanged)
     Q_PROPERTY(QString pictureProblem READ pictureProblem NOTIFY currentChanged)
@@ -67,6 +69,7 @@ public:
     bool hasPicture() const { return m_picture.has_value(); }
     QImage picture() const { return m_shownPicture; }
     QSize pictureSize() const { return m_shownPicture.size(); }
+    double overlayScale() const;
     QString pictureSource() const;
     QString pictureName() const;
     QString pictureProblem() const;

@@ -287,13 +287,13 @@ bool Exporter::exportReport(const QString &path)
 
 QByteArray Exporter::exported(const QString &what) const
 {
+    const Measuring::PaintedOverlay overlay{*m_editor.item(), m_documents.overlayScale(),
+                                            m_measurements.others()};
     if (what == png) {
-        return Measuring::overlayPng(*m_editor.item(), m_documents.picture(),
-                                     m_measurements.others());
+        return Measuring::overlayPng(overlay, m_documents.picture());
     }
     if (what == svg) {
-        return Measuring::overlaySvg(*m_editor.item(), m_documents.pictureSize(),
-                                     m_measurements.others());
+        return Measuring::overlaySvg(overlay, m_documents.pictureSize());
     }
     const auto values = valuesOfAll(m_documents);
     return what == csv ? valuesAsCsv(values) : Measuring::jsonDocument(values);

@@ -144,7 +144,7 @@ void MeasurementEditor::show(Session session)
     m_documents.current()->session = session;
     m_documents.showLens();
     if (isReady()) {
-        Measuring::showSession(session, *m_item);
+        Measuring::showSession(session, *m_item, m_documents.overlayScale());
     }
     assess(m_gestureStart ? Measuring::UncertaintyEffort::FirstOrder
                           : Measuring::UncertaintyEffort::Checked);

@@ -1,5 +1,7 @@
 #include "OverlayView.h"
 
+#include "measuring/OverlayExport.h"
+
 #include <QPainter>
 
 #include <cmath>
@@ -29,6 +31,16 @@ void OverlayView::setItem(ZaItem *item)
     m_item = item;
     update();
     Q_EMIT itemChanged();
+}
+
+void OverlayView::setItemScale(double scale)
+{
+    if (scale == m_itemScale) {
+        return;
+    }
+    m_itemScale = scale;
+    update();
+    Q_EMIT itemScaleChanged();
 }
 
 void OverlayView::setMeasurements(MeasurementModel *measurements)
@@ -101,14 +113,12 @@ void OverlayView::paint(QPainter *painter)
 
 void OverlayView::paintOverlays(QPainter &painter) const
 {
+    const double scale = m_itemScale * contentsScale();
     QFont font = painter.font();
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(m_labelPx / contentsScale()))));
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(m_labelPx / scale))));
     painter.setFont(font);
-    if (m_measurements && m_measurements->others()) {
-        m_measurements->others()->paint(painter);
-    }
-    painter.translate(m_item->position());
-    m_item->paint(&painter);
+    const Measuring::OtherOverlays *others = m_measurements ? m_measurements->others() : nullptr;
+    Measuring::PaintedOverlay{*m_item, m_itemScale, others}.paint(painter);
 }
 
 void OverlayView::paintPicture(QPainter &painter) const

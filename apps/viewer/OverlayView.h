@@ -15,7 +15,7 @@ namespace Drevon::Zalento {
 /**
  * Shows the measuring item through a view: the stage, or the loupe.
  *
- * The item itself lies at the picture's own pixel size, so that its pixels are picture pixels. Its
+ * The item itself lies at the picture's own pixel size, in large pictures at a fraction of it. Its
  * own texture would grow with the square of the zoom; this one is as large as the view and is
  * painted through contentsScale, so lines and labels are crisp at every zoom.
  */
@@ -25,6 +25,8 @@ class OverlayView : public QQuickPaintedItem
 
     /** The item whose overlay is shown; it may be invisible. */
     Q_PROPERTY(Drevon::Zalento::ZaItem *item READ item WRITE setItem NOTIFY itemChanged)
+    /** That the item is shown with: picture pixels to one of its own. */
+    Q_PROPERTY(double itemScale READ itemScale WRITE setItemScale NOTIFY itemScaleChanged)
     /** What the overlays of the other measurements are taken from; may be null. */
     Q_PROPERTY(Drevon::Zalento::MeasurementModel *measurements READ measurements WRITE
                    setMeasurements NOTIFY measurementsChanged)
@@ -45,6 +47,8 @@ public:
 
     ZaItem *item() const { return m_item; }
     void setItem(ZaItem *item);
+    double itemScale() const { return m_itemScale; }
+    void setItemScale(double scale);
     MeasurementModel *measurements() const { return m_measurements; }
     void setMeasurements(MeasurementModel *measurements);
     QPointF origin() const { return m_origin; }
@@ -62,6 +66,7 @@ public:
 
 Q_SIGNALS:
     void itemChanged();
+    void itemScaleChanged();
     void measurementsChanged();
     void originChanged();
     void pictureChanged();
@@ -75,6 +80,7 @@ private:
     void paintMarks(QPainter &painter) const;
 
     QPointer<ZaItem> m_item;
+    double m_itemScale = 1.0;
     QPointer<MeasurementModel> m_measurements;
     QPointF m_origin;
     QImage m_picture;

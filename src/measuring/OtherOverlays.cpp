@@ -10,6 +10,7 @@
 #include <QFontMetricsF>
 #include <QPolygonF>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Drevon::Zalento::Measuring {
@@ -19,10 +20,12 @@ namespace {
 constexpr double mPerMM = 0.001;
 constexpr double fractionPerPercent = 0.01;
 
-// From the middle of what it names to the middle of a name, in lines of text upwards: above the two
-// lines of the item's own label, on the line beside it, and on the rim.
-constexpr double linesAboveLabel = 2.5;
-constexpr double linesAboveWater = 0.6;
+// From the middle of what it names to the middle of a name, in lines of text: beyond the two lines
+// of the item's own label, on the line beside it, and on the rim.
+constexpr double linesFromLabel = 2.5;
+constexpr double linesFromWater = 0.6;
+// The same from the outermost of the points that it names.
+constexpr double linesFromPoints = 1.2;
 const QColor background(0, 0, 0, 180); // as that of the item's labels
 const QColor ink(Qt::white);
 
@@ -32,12 +35,12 @@ bool hasNothingToShow(const Session &session)
     return infoOf(session.kind).has(Uses::Points) ? session.points.isEmpty() : !session.isSet;
 }
 
-double linesAbove(const Session &session)
+double linesFromMiddle(const Session &session)
 {
     if (infoOf(session.kind).has(Uses::Points)) {
-        return linesAboveLabel;
+        return linesFromLabel;
     }
-    return session.kind == Kind::WaterLevel ? linesAboveWater : 0.0;
+    return session.kind == Kind::WaterLevel ? linesFromWater : 0.0;
 }
 
 // A branch or a bend is nothing but a pipe: its first and last rings have to do.
@@ -48,31 +51,39 @@ ViewStyle styleBesideOthers(const Session &session)
                : ViewStyle::MeasureOnly;
 }
 
-// Of the points; beside the label on the water's surface; or where branch and bend point on the
-// mouth.
-QPointF middleOf(const Session &session)
+QRectF placeOfPoints(const Session &session)
 {
     const PipeView view(session);
-    if (infoOf(session.kind).has(Uses::Points)) {
-        QPolygonF pixels;
-        for (const SessionPoint &point : session.points) {
-            pixels += view.project(point.position.value_or(Vec3()));
-        }
-        return pixels.boundingRect().center();
+    QPolygonF pixels;
+    for (const SessionPoint &point : session.points) {
+        pixels += view.project(point.position.value_or(Vec3()));
     }
+    return pixels.boundingRect();
+}
+
+// The points; beside the label on the water's surface; or where branch and bend point on the mouth.
+QRectF placeOf(const Session &session)
+{
+    if (infoOf(session.kind).has(Uses::Points)) {
+        return placeOfPoints(session);
+    }
+    const PipeView view(session);
     const double diameterM = session.diameterMM * mPerMM;
     const double share = session.percentage * fractionPerPercent;
     if (session.kind == Kind::WaterLevel) {
         const double halfWidthM = diameterM * std::sqrt(share * (1.0 - share));
-        return view.project({halfWidthM * 0.5, (share - 0.5) * diameterM, 0});
+        return {view.project({halfWidthM * 0.5, (share - 0.5) * diameterM, 0}), QSizeF()};
     }
     const double clock = session.clockDEG * radiansPerDegree;
-    return view.project({-std::sin(clock) * diameterM * 0.5, std::cos(clock) * diameterM * 0.5, 0});
+    const Vec3 onMouth(-std::sin(clock) * diameterM * 0.5, std::cos(clock) * diameterM * 0.5, 0);
+    return {view.project(onMouth), QSizeF()};
 }
 
 } // namespace
 
 OtherOverlays::OtherOverlays(const Session &session)
+    : m_picture(session.picture.size)
+    , m_scale(overlayScale(session.picture.size))
 {
     const int atHand = measurandAtHand(session);
     for (int number = 0; number < measurandsOf(session).size(); ++number) {
@@ -84,7 +95,7 @@ OtherOverlays::OtherOverlays(const Session &session)
         if (number != atHand) {
             other.viewStyle = styleBesideOthers(other);
             m_items.push_back(std::make_unique<ZaItem>());
-            showSession(other, *m_items.back());
+            showSession(other, *m_items.back(), m_scale);
         }
     }
 }
@@ -92,7 +103,8 @@ OtherOverlays::OtherOverlays(const Session &session)
 // The item writes no angle beside a branch or a bend.
 OtherOverlays::Name OtherOverlays::nameOf(const Session &session)
 {
-    Name name{middleOf(session), linesAbove(session), session.name};
+    const double fromEdge = infoOf(session.kind).has(Uses::Points) ? linesFromPoints : 0.0;
+    Name name{placeOf(session), linesFromMiddle(session), fromEdge, session.name};
     const Measurement measurement = measure(session);
     if (infoOf(session.kind).has(Uses::Angle) && !measurement.values.isEmpty()) {
         name.text += QStringLiteral(": ") + measurement.values.first().text;
@@ -102,24 +114,32 @@ OtherOverlays::Name OtherOverlays::nameOf(const Session &session)
 
 void OtherOverlays::paint(QPainter &painter) const
 {
+    painter.save();
+    painter.scale(m_scale, m_scale);
     for (const std::unique_ptr<ZaItem> &item : m_items) {
         painter.save();
         painter.translate(item->position());
         item->paint(&painter);
         painter.restore();
     }
-    painter.save();
     for (const Name &name : m_names) {
         paintName(painter, name);
     }
     painter.restore();
 }
 
+// Above what it names, below where the picture ends before.
 void OtherOverlays::paintName(QPainter &painter, const Name &name) const
 {
+    const QRectF named(name.named.topLeft() / m_scale, name.named.size() / m_scale);
     const QFontMetricsF metrics = painter.fontMetrics();
     QRectF box = metrics.boundingRect(QLatin1Char(' ') + name.text + QLatin1Char(' '));
-    box.moveCenter(name.pixel - QPointF(0, name.linesAbove * box.height()));
+    const double away = std::max(name.linesFromMiddle * box.height(),
+                                 named.height() * 0.5 + name.linesFromEdge * box.height());
+    box.moveCenter(named.center() - QPointF(0, away));
+    if (box.top() < 0.0) {
+        box.moveCenter(named.center() + QPointF(0, away));
+    }
     painter.fillRect(box, background);
     painter.setPen(ink);
     painter.drawText(box, Qt::AlignCenter, name.text);

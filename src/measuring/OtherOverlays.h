@@ -6,7 +6,8 @@
 #include "zalento/item/ZaItem.h"
 
 #include <QPainter>
-#include <QPointF>
+#include <QRectF>
+#include <QSize>
 #include <QString>
 
 #include <memory>
@@ -30,13 +31,17 @@ public:
 private:
     struct Name
     {
-        QPointF pixel;           ///< the middle of what it names
-        double linesAbove = 0.0; ///< it stands so many lines of text above
+        QRectF named;                 ///< the place of what it names, in picture pixels
+        double linesFromMiddle = 0.0; ///< at least so many lines of text away
+        double linesFromEdge = 0.0;
         QString text;
     };
 
     static Name nameOf(const Session &session);
     void paintName(QPainter &painter, const Name &name) const;
+
+    QSize m_picture;
+    double m_scale; ///< of lines and names
 
     std::vector<std::unique_ptr<ZaItem>> m_items;
     QVector<Name> m_names;

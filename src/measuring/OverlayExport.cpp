@@ -4,7 +4,6 @@
 
 #include <QBuffer>
 #include <QFontMetrics>
-#include <QPainter>
 #include <QSvgGenerator>
 
 #include <algorithm>
@@ -62,15 +61,6 @@ void paintLegend(QPainter &painter, const QSize &picture, MapQuantity quantity)
     }
 }
 
-void paintOverlays(QPainter &painter, ZaItem &item, const OtherOverlays *others)
-{
-    if (others) {
-        others->paint(painter);
-    }
-    painter.translate(item.position());
-    item.paint(&painter);
-}
-
 } // namespace
 
 QString overlayPathOf(const QString &picturePath, const QString &folder, const QString &suffix)
@@ -95,23 +85,33 @@ QByteArray mapPng(const QImage &map, MapQuantity quantity, const QImage &picture
     return pngBytes(image);
 }
 
-QImage pictureWithOverlay(ZaItem &item, const QImage &picture, const OtherOverlays *others)
+void PaintedOverlay::paint(QPainter &painter) const
+{
+    if (others) {
+        others->paint(painter);
+    }
+    painter.scale(scale, scale);
+    painter.translate(item.position());
+    item.paint(&painter);
+}
+
+QImage pictureWithOverlay(const PaintedOverlay &overlay, const QImage &picture)
 {
     QImage image = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(1.0);
     QPainter painter(&image);
-    paintOverlays(painter, item, others);
+    overlay.paint(painter);
     return image;
 }
 
-QByteArray overlayPng(ZaItem &item, const QImage &picture, const OtherOverlays *others)
+QByteArray overlayPng(const PaintedOverlay &overlay, const QImage &picture)
 {
-    const QImage image = pictureWithOverlay(item, picture, others);
+    const QImage image = pictureWithOverlay(overlay, picture);
     return pngBytes(picture.hasAlphaChannel() ? image
                                               : image.convertToFormat(QImage::Format_RGB32));
 }
 
-QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize, const OtherOverlays *others)
+QByteArray overlaySvg(const PaintedOverlay &overlay, const QSize &pictureSize)
 {
     QBuffer buffer;
     QSvgGenerator generator;
@@ -121,7 +121,7 @@ QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize, const OtherOverlay
     generator.setSize(pictureSize);
     generator.setViewBox(QRect(QPoint(), pictureSize));
     QPainter painter(&generator);
-    paintOverlays(painter, item, others);
+    overlay.paint(painter);
     painter.end();
     return buffer.data();
 }

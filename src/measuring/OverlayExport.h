@@ -9,6 +9,7 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QPainter>
 #include <QSize>
 #include <QString>
 
@@ -25,19 +26,27 @@ ZALENTO_MEASURING_EXPORT QString mapPathOf(const QString &picturePath, const QSt
 ZALENTO_MEASURING_EXPORT QByteArray mapPng(const QImage &map, MapQuantity quantity,
                                            const QImage &picture);
 
-/**
- * The picture with the item's overlay over it, pixel for pixel.
- * @param others below it; may be null
- */
-ZALENTO_MEASURING_EXPORT QImage pictureWithOverlay(ZaItem &item, const QImage &picture,
-                                                   const OtherOverlays *others = nullptr);
+/** What is painted over a picture. */
+struct PaintedOverlay
+{
+    ZaItem &item;
+    double scale = 1.0;                    ///< that the session was shown with
+    const OtherOverlays *others = nullptr; ///< below the item's; may be null
+
+    /** In picture pixels. */
+    ZALENTO_MEASURING_EXPORT void paint(QPainter &painter) const;
+};
+
+/** The picture with its overlay. */
+ZALENTO_MEASURING_EXPORT QImage pictureWithOverlay(const PaintedOverlay &overlay,
+                                                   const QImage &picture);
 
 /** The same as a PNG file's bytes. */
-ZALENTO_MEASURING_EXPORT QByteArray overlayPng(ZaItem &item, const QImage &picture,
-                                               const OtherOverlays *others = nullptr);
+ZALENTO_MEASURING_EXPORT QByteArray overlayPng(const PaintedOverlay &overlay,
+                                               const QImage &picture);
 
 /** The overlay alone, as vectors, in an SVG document of the picture's size. */
-ZALENTO_MEASURING_EXPORT QByteArray overlaySvg(ZaItem &item, const QSize &pictureSize,
-                                               const OtherOverlays *others = nullptr);
+ZALENTO_MEASURING_EXPORT QByteArray overlaySvg(const PaintedOverlay &overlay,
+                                               const QSize &pictureSize);
 
 } // namespace Drevon::Zalento::Measuring

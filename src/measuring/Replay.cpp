@@ -1,13 +1,20 @@
 #include "measuring/Replay.h"
 
+#include "measuring/Editing.h"
 #include "measuring/PipeView.h"
 
 #include "zalento/pipes/ViewObject.h"
 #include "zalento/pipes/gestureUnits.h"
 
+#include <algorithm>
+#include <optional>
+
 namespace Drevon::Zalento::Measuring {
 
 namespace {
+
+// Of the largest picture whose overlay is drawn pixel for pixel.
+constexpr double unscaledLines = 720.0;
 
 // The straight pipe, which clearing and choosing a kind without another object put on view.
 Pipe &straightPipe(ZaItem &item)
@@ -15,11 +22,11 @@ Pipe &straightPipe(ZaItem &item)
     return dynamic_cast<Pipe &>(item.getCurrentViewObject());
 }
 
-void layOut(const Session &session, ZaItem &item)
+void layOut(const Session &session, ZaItem &item, double scale)
 {
     const QRectF geometry = itemLayout(session).geometry;
-    item.setPosition(geometry.topLeft());
-    item.setSize(geometry.size());
+    item.setPosition(geometry.topLeft() / scale);
+    item.setSize(geometry.size() / scale);
 }
 
 // Without these an earlier session would show through.
@@ -36,12 +43,13 @@ void forgetPrevious(ZaItem &item)
 }
 
 // The diameter comes after the calibration text: setting it reads the text.
-void showScale(const Session &session, ZaItem &item)
+void showScale(const Session &session, ZaItem &item, double scale)
 {
     straightPipe(item).setCameraCrackIni(session.calibrationText.toStdString());
     item.setDiameter(session.diameterMM);
-    if (session.mmPerPixel) {
-        item.requestCameraCalibration(*session.mmPerPixel);
+    const std::optional<double> mmPerPixel = scale == 1.0 ? session.mmPerPixel : scaleOf(session);
+    if (mmPerPixel) {
+        item.requestCameraCalibration(*mmPerPixel * scale);
     }
 }
 
@@ -90,16 +98,21 @@ void showPoints(const Session &session, ZaItem &item)
 
 } // namespace
 
-void showSession(const Session &session, ZaItem &item)
+void showSession(const Session &session, ZaItem &item, double scale)
 {
-    layOut(session, item);
+    layOut(session, item, scale);
     forgetPrevious(item);
-    showScale(session, item);
+    showScale(session, item, scale);
     showKind(session, item);
     item.setMeasureUnit(static_cast<int>(session.unit));
     item.setViewStyle(static_cast<int>(session.viewStyle));
     showAlignment(session, item);
     showPoints(session, item);
+}
+
+double overlayScale(const QSize &picture)
+{
+    return std::max(1.0, std::min(picture.width(), picture.height()) / unscaledLines);
 }
 
 } // namespace Drevon::Zalento::Measuring

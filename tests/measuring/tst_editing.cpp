@@ -69,7 +69,7 @@ Session emptySession(Kind kind)
 QImage painted(const Session &session, ZaItem &item)
 {
     showSession(session, item);
-    return pictureWithOverlay(item, greyPicture(pictureSize));
+    return pictureWithOverlay({item, 1.0, nullptr}, greyPicture(pictureSize));
 }
 
 } // namespace
@@ -83,6 +83,8 @@ private slots:
     void itemShowsWhatIsMeasured();
     void replaysWhateverWasBefore_data();
     void replaysWhateverWasBefore();
+    void largePicturesHaveLargerLines_data();
+    void largePicturesHaveLargerLines();
     void everyFieldShows_data();
     void everyFieldShows();
     void measuresValuesAndTexts_data();
@@ -124,7 +126,7 @@ void TestEditing::itemShowsWhatIsMeasured()
         session.points.append({point.pixel, {}, {}});
     }
     QVERIFY(placePoints(session).isEmpty());
-    pictureWithOverlay(item, greyPicture(pictureSize));
+    pictureWithOverlay({item, 1.0, nullptr}, greyPicture(pictureSize));
     const PipeView view(session);
     const auto &hitPoints = static_cast<Pipe &>(item.getCurrentViewObject()).hitPoints;
     QCOMPARE(int(hitPoints.size()), session.points.size());
@@ -168,6 +170,38 @@ void TestEditing::replaysWhateverWasBefore()
         painted(other, second);
         QCOMPARE(painted(*stored, second), expected);
     }
+}
+
+void TestEditing::largePicturesHaveLargerLines_data()
+{
+    replaysWhateverWasBefore_data();
+}
+
+// Three times the pixels and their clicks: the same overlay, three times as large.
+void TestEditing::largePicturesHaveLargerLines()
+{
+    constexpr int scale = 3;
+    QFETCH(Session, session);
+    session.mouthPercent = 80;
+    Session large = session;
+    large.picture.size *= scale;
+    large.mmPerPixel.reset();
+    large.calibrationText = QStringLiteral("218;10;20");
+    session.mmPerPixel = scale * scaleOf(large).value_or(0.0);
+
+    ZaItem item;
+    showSession(session, item);
+    QImage expected =
+        greyPicture(large.picture.size).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&expected);
+    painter.scale(scale, scale);
+    PaintedOverlay{item, 1.0, nullptr}.paint(painter);
+    painter.end();
+    showSession(large, item, scale);
+    QCOMPARE(pictureWithOverlay({item, scale, nullptr}, greyPicture(large.picture.size)), expected);
+    QCOMPARE(overlayScale({5120, 2880}), 4.0);
+    QCOMPARE(overlayScale({1280, 720}), 1.0);
+    QCOMPARE(overlayScale({320, 240}), 1.0);
 }
 
 void TestEditing::everyFieldShows_data()

@@ -122,9 +122,9 @@ void TestMeasurands::overlayOfAll()
         greyPicture(pictureSize).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     ZaItem item;
     showSession(session, item);
-    const QImage alone = pictureWithOverlay(item, picture);
+    const QImage alone = pictureWithOverlay({item, 1.0, nullptr}, picture);
     const OtherOverlays others(session);
-    const QImage all = pictureWithOverlay(item, picture, &others);
+    const QImage all = pictureWithOverlay({item, 1.0, &others}, picture);
     const QRect aroundLength(240, 155, 70, 50);
     const QRect aroundCrack(595, 495, 50, 30);
     const QRect aboveCrack(560, 440, 120, 40); // its name

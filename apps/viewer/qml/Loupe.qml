@@ -32,6 +32,7 @@ Rectangle {
         id: lens
         objectName: "lens"
         anchors { fill: parent; margins: 4 }
+        itemScale: Viewer.documents.overlayScale
         measurements: Viewer.measurements
         picture: Viewer.documents.picture
         contentsScale: loupe.magnification

@@ -123,7 +123,7 @@ FocusScope {
         cache: false
         asynchronous: false
     }
-    // As large as the picture, so that its pixels are the picture's; OverlayView shows it.
+    // As large as the picture, or a fraction of it; OverlayView shows it.
     ZaItem {
         id: item
         objectName: "item"
@@ -136,8 +136,9 @@ FocusScope {
         anchors.fill: parent
         visible: Viewer.documents.hasPicture && !stage.isOverlayHidden
         // Its lines grow with the picture: zoomed in, what lies below them shines through.
-        opacity: Math.max(0.3, Math.min(1, 2 / stageView.scale))
+        opacity: Math.max(0.3, Math.min(1, 2 / (stageView.scale * itemScale)))
         item: item
+        itemScale: Viewer.documents.overlayScale
         measurements: Viewer.measurements
         contentsScale: stageView.scale
         origin: stageView.origin
