@@ -1,11 +1,20 @@
 # The install tree: library, headers, QML module, programs, and the package for find_package().
 include(CMakePackageConfigHelpers)
 
+# install_beside_libraries(<folder> <target>...): a program or a library that finds our libraries
+# from wherever the tree has been moved to.
+function(install_beside_libraries folder)
+  file(RELATIVE_PATH to_libraries "/${folder}" "/${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(${ARGN} PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
+  install(TARGETS ${ARGN} RUNTIME DESTINATION "${folder}" LIBRARY DESTINATION "${folder}")
+endfunction()
+
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Zalento")
 set(installed_targets zalento zalentomeasuring)
 if(NOT ZALENTO_HOST_TARGET)
   list(APPEND installed_targets drevonhost)
 endif()
+set_target_properties(${installed_targets} PROPERTIES INSTALL_RPATH "$ORIGIN")
 
 install(TARGETS ${installed_targets} EXPORT ZalentoTargets
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
@@ -27,14 +36,21 @@ if(NOT ZALENTO_HOST_TARGET)
 endif()
 
 # The QML module. Qt finds it where its own modules lie in a system prefix; elsewhere the folder
-# goes into QML2_IMPORT_PATH. It finds the library from wherever the tree has been moved to.
+# goes into QML2_IMPORT_PATH.
 set(qml_module_dir "${CMAKE_INSTALL_LIBDIR}/qt${ZALENTO_QT}/qml/Drevon/Zalento")
-install(TARGETS zalentoplugin LIBRARY DESTINATION "${qml_module_dir}")
+install_beside_libraries("${qml_module_dir}" zalentoplugin)
 install(FILES "${PROJECT_SOURCE_DIR}/qml/qmldir" "${PROJECT_SOURCE_DIR}/qml/plugins.qmltypes"
   DESTINATION "${qml_module_dir}")
-file(RELATIVE_PATH module_to_libraries "/${qml_module_dir}" "/${CMAKE_INSTALL_LIBDIR}")
-set_target_properties(zalentoplugin PROPERTIES INSTALL_RPATH "$ORIGIN/${module_to_libraries}")
-set_target_properties(${installed_targets} PROPERTIES INSTALL_RPATH "$ORIGIN")
+
+if(ZALENTO_BUILD_APPS)
+  install_beside_libraries("${CMAKE_INSTALL_BINDIR}" zalento-measure zalento-viewer)
+  install(FILES "${PROJECT_SOURCE_DIR}/apps/viewer/zalento-viewer.desktop"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+  install(FILES
+    "${PROJECT_SOURCE_DIR}/docs/man/zalento-measure.1"
+    "${PROJECT_SOURCE_DIR}/docs/man/zalento-viewer.1"
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+endif()
 
 install(EXPORT ZalentoTargets NAMESPACE Zalento:: DESTINATION "${package_dir}")
 

@@ -1,4 +1,5 @@
 # Installs the build tree BUILD into the empty folder STAGE and looks through the package files.
+# With PROGRAMS it starts the programs.
 file(REMOVE_RECURSE "${STAGE}")
 execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${STAGE}"
   COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
@@ -17,3 +18,11 @@ foreach(file IN LISTS package_files)
     endif()
   endforeach()
 endforeach()
+
+if(PROGRAMS)
+  foreach(program IN ITEMS zalento-measure zalento-viewer)
+    execute_process(
+      COMMAND "${CMAKE_COMMAND}" -E env --unset=LD_LIBRARY_PATH "${STAGE}/bin/${program}" --version
+      COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
+  endforeach()
+endif()
