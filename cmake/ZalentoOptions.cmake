@@ -1,7 +1,11 @@
 # Options of the build. Everything beside the library is on only when this is the top-level
 # project, so that a host that adds the checkout as a subdirectory builds the library alone.
 
-option(BUILD_SHARED_LIBS "Build shared libraries" ON)
+if(PROJECT_IS_TOP_LEVEL)
+  option(BUILD_SHARED_LIBS "Build shared libraries" ON)
+elseif(NOT DEFINED BUILD_SHARED_LIBS)
+  set(BUILD_SHARED_LIBS ON) # here alone: the host's own libraries are its own business
+endif()
 option(ZALENTO_BUILD_APPS "Build the viewer, the command-line program and the tools"
        ${PROJECT_IS_TOP_LEVEL})
 option(ZALENTO_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
@@ -26,11 +30,10 @@ set(ZALENTO_SANITIZE "" CACHE STRING "Sanitizers for -fsanitize=, comma separate
 set(ZALENTO_HOST_TARGET "" CACHE STRING
     "Target that offers the drevon/ headers; empty builds the stand-in")
 
-if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
-  set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
-endif()
-
 if(PROJECT_IS_TOP_LEVEL)
+  if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+  endif()
   set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
   set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
   set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")

@@ -1,6 +1,6 @@
 # What every target of ours is compiled with.
 
-# zalento_target(<target>): language level, warnings as errors, hidden symbols, moc, sanitizers.
+# zalento_target(<target>): language level, warnings, hidden symbols, moc, sanitizers.
 function(zalento_target target)
   target_compile_features(${target} PUBLIC cxx_std_17)
   set_target_properties(${target} PROPERTIES
@@ -10,7 +10,7 @@ function(zalento_target target)
     VISIBILITY_INLINES_HIDDEN ON
     POSITION_INDEPENDENT_CODE ON)
   target_compile_options(${target} PRIVATE
-    -Wall -Wextra -Wconversion -Wshadow -Wpedantic -Werror)
+    -Wall -Wextra -Wconversion -Wshadow -Wpedantic)
   # A multiplication fused with an addition rounds once instead of twice; results would then
   # depend on the processor.
   target_compile_options(${target} PRIVATE -ffp-contract=off)
