@@ -37,10 +37,12 @@ endif()
 
 # The QML module. Qt finds it where its own modules lie in a system prefix; elsewhere the folder
 # goes into QML2_IMPORT_PATH.
-set(qml_module_dir "${CMAKE_INSTALL_LIBDIR}/qt${ZALENTO_QT}/qml/Drevon/Zalento")
-install_beside_libraries("${qml_module_dir}" zalentoplugin)
-install(FILES "${PROJECT_SOURCE_DIR}/qml/qmldir" "${PROJECT_SOURCE_DIR}/qml/plugins.qmltypes"
-  DESTINATION "${qml_module_dir}")
+if(TARGET zalentoplugin)
+  set(qml_module_dir "${CMAKE_INSTALL_LIBDIR}/qt${ZALENTO_QT}/qml/Drevon/Zalento")
+  install_beside_libraries("${qml_module_dir}" zalentoplugin)
+  install(FILES "${PROJECT_SOURCE_DIR}/qml/qmldir" "${PROJECT_SOURCE_DIR}/qml/plugins.qmltypes"
+    DESTINATION "${qml_module_dir}")
+endif()
 
 if(ZALENTO_BUILD_APPS)
   install_beside_libraries("${CMAKE_INSTALL_BINDIR}" zalento-measure zalento-viewer)

@@ -3,8 +3,6 @@
 
 if(PROJECT_IS_TOP_LEVEL)
   option(BUILD_SHARED_LIBS "Build shared libraries" ON)
-elseif(NOT DEFINED BUILD_SHARED_LIBS)
-  set(BUILD_SHARED_LIBS ON) # here alone: the host's own libraries are its own business
 endif()
 option(ZALENTO_BUILD_APPS "Build the viewer, the command-line program and the tools"
        ${PROJECT_IS_TOP_LEVEL})
