@@ -27,6 +27,7 @@ public:
     void setActiveStructure(QSharedPointer<Database::CDomainObject> structure);
 
 Q_SIGNALS:
+    /** Another record is active (null: none), or the fields of the active one have changed. */
     void activeStructureChanged(const QSharedPointer<Drevon::Database::CDomainObject> &structure);
 
 private:

@@ -32,15 +32,16 @@ using AlignmentNumbers = std::array<double, alignmentFieldCount>;
 /** Where the pipe's model stands before the picture; the fields are those of a session. */
 struct Alignment
 {
-    double offset = 0.0;
-    double cameraHeightPercent = 50.0;
-    double rearCircleX = 0.0;
-    double rearCircleY = 0.0;
+    double offset = 0.0;               ///< Session::offset
+    double cameraHeightPercent = 50.0; ///< Session::cameraHeightPercent
+    double rearCircleX = 0.0;          ///< Session::rearCircleX
+    double rearCircleY = 0.0;          ///< Session::rearCircleY
     double mouthPercent = 100.0; ///< side of the drawing area over the shorter side of the picture
     double fovYDEG = 37.5;       ///< of the picture's largest centred square
 
     /** The fields in the order of AlignmentField, and back. */
     ZALENTO_MEASURING_EXPORT AlignmentNumbers numbers() const;
+    /** The inverse of numbers(). */
     ZALENTO_MEASURING_EXPORT static Alignment of(const AlignmentNumbers &numbers);
 };
 
@@ -77,23 +78,23 @@ struct LineClicks
 struct AlignmentClicks
 {
     QVector<RingClicks> rings; ///< the first one with three clicks becomes the mouth
-    QVector<LineClicks> lines;
-    bool fitsFov = false; ///< the field of view is asked for; two rings with distances give it
+    QVector<LineClicks> lines; ///< lines along the pipe
+    bool fitsFov = false;      ///< the field of view is asked for; two rings with distances give it
 };
 
 /** Names one click: of a ring, or of a line. */
 struct ClickIndex
 {
-    bool isLine = false;
-    int feature = 0; ///< index in AlignmentClicks::rings or lines
-    int point = 0;
+    bool isLine = false; ///< of a line, else of a ring
+    int feature = 0;     ///< index in AlignmentClicks::rings or lines
+    int point = 0;       ///< index in the clicks of the ring or the line
 };
 
 /** What the clicks say of the alignment, and how well. */
 struct AlignmentFit
 {
-    Alignment alignment; ///< fields that were not fitted stand as they were
-    QVector<AlignmentField> fitted;
+    Alignment alignment;            ///< fields that were not fitted stand as they were
+    QVector<AlignmentField> fitted; ///< in the order of AlignmentField
     /** Fields that were asked for, but that the clicks do not determine. */
     QVector<AlignmentField> undetermined;
     /** Of the fitted fields, in the order of AlignmentField and squared units of the session;
@@ -109,13 +110,13 @@ struct AlignmentFit
     /** Distances of the clicks that count from the curves that are drawn, in pixels. A click that
         is suspicious, or on a line that could not be used, does not count. */
     double rmsPX = 0.0;
-    double largestPX = 0.0;
-    QVector<ClickIndex> suspicious;
+    double largestPX = 0.0;         ///< the largest of these distances
+    QVector<ClickIndex> suspicious; ///< left out: the others contradict them
 
     /** From the drawn curve's nearest point to each click, in pixels, as the clicks stand in
         AlignmentClicks. Empty for a ring or a line that was left out. */
     QVector<QVector<QPointF>> ringResiduals;
-    QVector<QVector<QPointF>> lineResiduals;
+    QVector<QVector<QPointF>> lineResiduals; ///< the same for the lines
     /** Of each ring behind the mouth, in mm; empty for a ring that was left out. */
     QVector<std::optional<double>> ringDepthsMM;
     /** Where each line runs along the wall, in degrees clockwise from the top of the mouth as it

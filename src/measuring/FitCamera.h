@@ -15,9 +15,12 @@ namespace Drevon::Zalento::Measuring {
 template <typename T>
 struct FitVector
 {
+    /** Components in metres. */
+    ///@{
     T x;
     T y;
     T z;
+    ///@}
 };
 
 /** A pixel's distance from a curve that cannot be seen from there, in pixels: far enough that no
@@ -37,6 +40,7 @@ template <typename T>
 class FitCamera
 {
 public:
+    /** @param fields in the order of AlignmentField */
     FitCamera(const std::array<T, alignmentFieldCount> &fields, const QSize &picture)
         : m_centre(picture.width() * 0.5, picture.height() * 0.5)
     {

@@ -14,6 +14,7 @@ namespace Drevon::Zalento::Measuring {
 class FitDrawing
 {
 public:
+    /** The pipe of this inner diameter, aligned so. */
     FitDrawing(const Alignment &alignment, double diameterMM, const QSize &picture);
 
     /** True when drawing turns the view because the far end would leave the mouth. */

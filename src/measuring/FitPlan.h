@@ -9,8 +9,9 @@ struct FitTargets
 {
     bool place = false;     ///< offset, camera height and size of the mouth
     bool direction = false; ///< rear circle
-    bool fov = false;
+    bool fov = false;       ///< vertical field of view
 
+    /** Nothing is to be fitted. */
     bool isEmpty() const { return !place && !direction && !fov; }
 };
 

@@ -11,9 +11,9 @@ namespace Drevon::Zalento::Measuring {
 /** A click with the feature's own number that it depends on beside the alignment. */
 struct FitClick
 {
-    QPointF pixel;
-    ClickIndex index;
-    int own = 0; ///< place in FitProblem::values: the ring's depth or the line's clock angle
+    QPointF pixel;    ///< where it was clicked
+    ClickIndex index; ///< which one it is
+    int own = 0;      ///< place in FitProblem::values: the ring's depth or the line's clock angle
 };
 
 /**
@@ -22,19 +22,20 @@ struct FitClick
  */
 struct FitProblem
 {
-    QSize picture;
-    double diameterMM = 0.0;
+    QSize picture;           ///< upright, in pixels
+    double diameterMM = 0.0; ///< inner diameter of the pipe
     /** The alignment in the order of AlignmentField, then the depth of each ring in mm, then the
         clock angle of each line in degrees. */
     std::vector<double> values;
-    std::vector<int> free; ///< places in #values that the search may change
-    std::vector<FitClick> clicks;
+    std::vector<int> free;        ///< places in #values that the search may change
+    std::vector<FitClick> clicks; ///< those that count
 
     /** Clicks beyond those that the free numbers need. */
     int degreesOfFreedom() const
     {
         return static_cast<int>(clicks.size()) - static_cast<int>(free.size());
     }
+    /** The alignment among #values. */
     AlignmentNumbers fields() const;
 };
 
@@ -67,8 +68,8 @@ Eigen::VectorXd responseTo(const FitProblem &problem, const Eigen::VectorXd &cha
     finds none. @return also the loss there, in px². */
 struct FitOutcome
 {
-    bool converged = false;
-    double loss = 0.0;
+    bool converged = false; ///< a minimum was found
+    double loss = 0.0;      ///< there, in px²
 };
 FitOutcome minimize(FitProblem &problem, FitLoss loss);
 

@@ -43,7 +43,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(UsesFlags)
 /** What a kind's percentage sets. */
 struct PercentageRow
 {
-    double initial = 0.0;
+    double initial = 0.0;     ///< what a new session has, in percent
     const char *label = "";   ///< "Water level"
     const char *meaning = ""; ///< "water level in percent of the diameter"
 };
@@ -51,28 +51,30 @@ struct PercentageRow
 /** The angles that a kind can have. */
 struct AngleRow
 {
-    double initialDEG = 90.0;
-    double smallestDEG = 0.0;
-    double largestDEG = 180.0;
-    double stepDEG = 1.0; ///< to which the item rounds, or by which a key moves
+    double initialDEG = 90.0;  ///< what a new session has
+    double smallestDEG = 0.0;  ///< inclusive, as is the largest
+    double largestDEG = 180.0; ///< see #smallestDEG
+    double stepDEG = 1.0;      ///< to which the item rounds, or by which a key moves
 };
 
 /** Everything that depends on the kind alone. Texts for people are translated by translated(). */
 struct KindInfo
 {
-    Kind kind;
-    const char *name;        ///< in files, on the command line and of the item
-    const char *title;       ///< for people: "Crack width"
-    const char *description; ///< one sentence: what is measured, and how
-    ViewObject object;       ///< on view
-    MeasureMode mode;        ///< of the straight pipe
-    UsesFlags uses;
-    PercentageRow percentage;
-    AngleRow angle;
+    Kind kind;                ///< the kind of this row
+    const char *name;         ///< in files, on the command line and of the item
+    const char *title;        ///< for people: "Crack width"
+    const char *description;  ///< one sentence: what is measured, and how
+    ViewObject object;        ///< on view
+    MeasureMode mode;         ///< of the straight pipe
+    UsesFlags uses;           ///< fields of a session that matter
+    PercentageRow percentage; ///< for Uses::Percentage
+    AngleRow angle;           ///< for Uses::Angle
     /** What to do next: without points, with one, with more, and after a closed outline. */
     std::array<const char *, 4> guidance;
 
+    /** The name as Qt takes it. */
     QString nameText() const { return QLatin1String(name); }
+    /** Whether the kind uses that field of a session. */
     bool has(Uses use) const { return uses.testFlag(use); }
 };
 

@@ -36,18 +36,20 @@ ZALENTO_MEASURING_EXPORT std::optional<LensView> lensViewNamed(const QString &na
  */
 struct Lens
 {
-    QString name;
-    QSize size; ///< of the upright pictures that it holds for, in pixels
+    QString name; ///< for people
+    QSize size;   ///< of the upright pictures that it holds for, in pixels
     /** Row by row: fx, 0, cx, 0, fy, cy, 0, 0, 1, in pixels. */
     std::array<double, 9> cameraMatrix{};
     /** k1, k2, p1, p2, then k3, then k4, k5, k6. */
     QVector<double> distortion;
-    LensView view = LensView::Square;
+    LensView view = LensView::Square; ///< of the undistorted picture
     /** Standard deviation of the focal length in pixels, where it is known. */
     std::optional<double> focalLengthSDPX;
-    QJsonObject unknownFields;
+    QJsonObject unknownFields; ///< of a file written by a later version; kept
 
+    /** Focal length across, in pixels. */
     double fx() const { return cameraMatrix[0]; }
+    /** Focal length down, in pixels. */
     double fy() const { return cameraMatrix[4]; }
 };
 

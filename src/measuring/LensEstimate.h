@@ -10,8 +10,8 @@ namespace Drevon::Zalento::Measuring {
 /** A lens with one radial coefficient that the joints of a session tell of. */
 struct RadialEstimate
 {
-    Lens lens;
-    double k1 = 0.0;
+    Lens lens;                        ///< with #k1 as its only coefficient
+    double k1 = 0.0;                  ///< of r², without unit
     double standardUncertainty = 0.0; ///< of #k1
 };
 

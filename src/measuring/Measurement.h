@@ -15,10 +15,10 @@ namespace Drevon::Zalento::Measuring {
 /** What the results of a measurement that was repeated say of it (JCGM 100, 4.2). */
 struct RepeatStatistics
 {
-    int count = 0;
-    double mean = 0.0;
-    double standardDeviation = 0.0; ///< of one result
-    double standardDeviationOfMean = 0.0;
+    int count = 0;                        ///< results
+    double mean = 0.0;                    ///< of the results, in the unit of the value
+    double standardDeviation = 0.0;       ///< of one result
+    double standardDeviationOfMean = 0.0; ///< of their mean
 };
 
 /** A measured value. */
@@ -48,9 +48,9 @@ enum class MeasureState {
 /** What a session measures. */
 struct Measurement
 {
-    MeasureState state = MeasureState::NeedsPoints;
-    QVector<Value> values; ///< empty unless measured
-    QString note;          ///< what to do when nothing is measured; else empty
+    MeasureState state = MeasureState::NeedsPoints; ///< whether there are values, or why not
+    QVector<Value> values;                          ///< empty unless measured
+    QString note; ///< what to do when nothing is measured; else empty
 };
 
 /** Measures a session; points without a position are looked up where they were clicked. */

@@ -15,11 +15,11 @@ namespace Drevon::Zalento::Measuring {
  * each in turn.
  */
 namespace ModelInput {
-constexpr Eigen::Index diameterMM = alignmentFieldCount;
-constexpr Eigen::Index planePercent = diameterMM + 1; ///< of a cross section
-constexpr Eigen::Index setting = planePercent + 1;    ///< what is matched by eye: percent, degrees
-constexpr Eigen::Index mmPerPixel = setting + 1;
-constexpr Eigen::Index firstClick = mmPerPixel + 1;
+constexpr Eigen::Index diameterMM = alignmentFieldCount; ///< inner diameter of the pipe
+constexpr Eigen::Index planePercent = diameterMM + 1;    ///< of a cross section
+constexpr Eigen::Index setting = planePercent + 1;  ///< what is matched by eye: percent, degrees
+constexpr Eigen::Index mmPerPixel = setting + 1;    ///< scale of a crack
+constexpr Eigen::Index firstClick = mmPerPixel + 1; ///< x and y of each click follow
 } // namespace ModelInput
 
 /**
@@ -39,6 +39,7 @@ public:
 
     /** The inputs as they stand. */
     const Eigen::VectorXd &inputs() const { return m_inputs; }
+    /** Measuring points that were clicked. */
     int clickCount() const
     {
         return static_cast<int>(m_inputs.size() - ModelInput::firstClick) / 2;

@@ -18,8 +18,10 @@ namespace Drevon::Zalento::Measuring {
 class ZALENTO_MEASURING_EXPORT OrderedJson
 {
 public:
+    /** Adds a member after those that are there. */
     void add(const QString &name, const QJsonValue &value);
     void add(const QString &name, const QByteArray &json); ///< a value that is text already
+    /** Adds all members of an object, by name. */
     void addAll(const QJsonObject &members);
 
     QByteArray toLine() const;                          ///< without line breaks

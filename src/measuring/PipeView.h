@@ -44,10 +44,14 @@ ZALENTO_MEASURING_EXPORT ItemLayout itemLayout(const Session &session);
 class ZALENTO_MEASURING_EXPORT PipeView
 {
 public:
+    /** The view as the session has it. */
     explicit PipeView(const Session &session);
     ~PipeView();
+    /** Moves the view; the other one may then only be destroyed or assigned to. */
+    ///@{
     PipeView(PipeView &&) noexcept;
     PipeView &operator=(PipeView &&) noexcept;
+    ///@}
 
     /** Side in pixels of the square in which the item draws. */
     double drawingWidthPX() const { return m_drawingArea.width(); }

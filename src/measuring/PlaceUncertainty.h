@@ -32,6 +32,7 @@ struct PipePlace
 class ZALENTO_MEASURING_EXPORT PlaceUncertainty
 {
 public:
+    /** @param fit of the session's alignment, whose covariance then counts */
     PlaceUncertainty(const Session &session, const std::optional<AlignmentFit> &fit);
     ~PlaceUncertainty();
 
@@ -57,7 +58,7 @@ enum class MapQuantity {
 struct MapStep
 {
     double upToMM; ///< infinite for the last one
-    QRgb colour;
+    QRgb colour;   ///< of such pixels
 };
 
 /** From the least to the most; colours differ in lightness, too, for all kinds of sight. */

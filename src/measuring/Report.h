@@ -17,7 +17,7 @@ namespace Drevon::Zalento::Measuring {
 /** One measurement on a picture, as a report tells it. */
 struct ReportMeasurement
 {
-    PictureValues values;
+    PictureValues values;           ///< and what they were measured with
     std::optional<Session> session; ///< nothing where none was begun, or it could not be read
 };
 
@@ -32,15 +32,15 @@ reportMeasurements(const QVector<PictureValues> &values, const std::optional<Ses
 /** What a report tells of one picture. */
 struct ReportPicture
 {
-    QString path;
+    QString path;                            ///< of the picture
     QVector<ReportMeasurement> measurements; ///< at least one, if only to tell why there is none
 };
 
 /** An inspection as it is to be reported: small beside its pictures, which are read one by one. */
 struct Report
 {
-    ReportRecord record;
-    QVector<ReportPicture> pictures;
+    ReportRecord record;             ///< what is known of the inspection
+    QVector<ReportPicture> pictures; ///< in the order of their pages
 };
 
 /**
@@ -60,6 +60,7 @@ public:
 
     /** To be called first, and before what takes time. After a problem nothing else may be. */
     Outcome open(const QString &path, Overwrite overwrite);
+    /** The table of all pictures. */
     void addOverview(const Report &report);
     /** Reads the picture and adds its page. @param picture index in the report */
     void addPage(const Report &report, int picture);

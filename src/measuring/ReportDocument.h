@@ -19,7 +19,7 @@ namespace Drevon::Zalento::Measuring {
 /** What is painted into a report, to the scale of paper. */
 struct ReportDrawing
 {
-    QSizeF sizeMM;
+    QSizeF sizeMM;                                                   ///< on paper
     std::function<void(QPainter &painter, const QRectF &box)> paint; ///< the box in dots
 };
 
@@ -31,11 +31,15 @@ public:
     explicit ReportDocument(ReportPages &pages);
     ~ReportDocument();
 
+    /** Appends text, or a drawing, below what is there. */
+    ///@{
     void add(const QString &html);
     void add(const ReportDrawing &drawing);
+    ///@}
     /** The text, and on its right the drawings, if there are any. */
     void addBeside(const QString &html, const QVector<ReportDrawing> &drawings);
 
+    /** Prints what was added. */
     void print() { m_pages.print(m_document); }
 
 private:

@@ -12,7 +12,7 @@ namespace Drevon::Zalento::Measuring {
 struct RecordField
 {
     QString name; ///< for people
-    QString text;
+    QString text; ///< as it is printed
 };
 
 /** What is known of an inspection, in the order in which it is told. */

@@ -32,9 +32,11 @@ template <typename Value>
 class [[nodiscard]] Result
 {
 public:
+    /** It worked; implicit, so that a function returns its value. */
     Result(Value value)
         : m_content(std::move(value))
     {}
+    /** It did not; implicit, so that a function returns its problem. */
     Result(Problem problem)
         : m_content(std::move(problem))
     {}
@@ -43,12 +45,14 @@ public:
     explicit operator bool() const { return std::holds_alternative<Value>(m_content); }
 
     /** The value; there must be one. */
+    ///@{
     const Value &value() const { return std::get<Value>(m_content); }
     Value &value() { return std::get<Value>(m_content); }
     const Value &operator*() const { return value(); }
     Value &operator*() { return value(); }
     const Value *operator->() const { return &value(); }
     Value *operator->() { return &value(); }
+    ///@}
 
     /** Why there is no value; there must be none. */
     const Problem &problem() const { return std::get<Problem>(m_content); }

@@ -16,16 +16,19 @@ namespace Drevon::Zalento::Measuring {
 class RingCurve
 {
 public:
+    /** A point of the curve. */
     struct Point
     {
-        QPointF place;
+        QPointF place;  ///< in the picture, in pixels
         QPointF normal; ///< outwards, of length 1
     };
 
     /** @param depth behind the mouth, in diameters */
     RingCurve(const Alignment &alignment, double depth, const QSize &picture);
 
+    /** Of the curve, in pixels. */
     const QPointF &middle() const { return m_middle; }
+    /** In order around the curve. */
     const std::vector<Point> &points() const { return m_points; }
 
 private:

@@ -33,7 +33,7 @@ struct PictureIdentity
     QString path;      ///< relative to the session's folder in a file, else to the working folder
     QSize size;        ///< upright, in pixels
     QByteArray sha256; ///< of the file's bytes, as 64 lower-case hexadecimal digits
-    QJsonObject unknownFields;
+    QJsonObject unknownFields; ///< of a file written by a later version; kept
 };
 
 ZALENTO_MEASURING_EXPORT bool operator==(const PictureIdentity &a, const PictureIdentity &b);
@@ -59,7 +59,7 @@ struct SessionPoint
      * changed since the click; without it the point is clicked anew.
      */
     std::optional<Vec3> position;
-    QJsonObject unknownFields;
+    QJsonObject unknownFields; ///< of a file written by a later version; kept
 };
 
 ZALENTO_MEASURING_EXPORT bool operator==(const SessionPoint &a, const SessionPoint &b);
@@ -68,10 +68,10 @@ ZALENTO_MEASURING_EXPORT bool operator==(const SessionPoint &a, const SessionPoi
 struct Measurand
 {
     QString name; ///< for people, such as "crack A"; only that of a single one may be empty
-    Kind kind = Kind::PipeDimension;
-    double percentage = 0.0; ///< KindInfo::percentage says of what
-    double angleDEG = 90.0;  ///< of a branch, a bend or a joint
-    int clockDEG = 0;        ///< where a branch, a bend or a joint points, clockwise from the top
+    Kind kind = Kind::PipeDimension; ///< what is measured
+    double percentage = 0.0;         ///< KindInfo::percentage says of what
+    double angleDEG = 90.0;          ///< of a branch, a bend or a joint
+    int clockDEG = 0; ///< where a branch, a bend or a joint points, clockwise from the top
     bool viewDownstream = true; ///< a bend is seen from the straight pipe
     bool jointShown = false;    ///< in the kind BendAngle: a joint instead of a bend
     /** Of a kind that is set by eye: the operator has set or confirmed its value. */
@@ -80,8 +80,8 @@ struct Measurand
        names of the values. */
     QVector<QMap<QString, double>> repeats;
     QString limit; ///< that values are held against, such as "< 0.5 mm"; may be empty
-    QVector<SessionPoint> points;
-    QJsonObject unknownMembers; ///< of its object in a file's list of measurements; kept
+    QVector<SessionPoint> points; ///< in the order of the clicks
+    QJsonObject unknownMembers;   ///< of its object in a file's list of measurements; kept
 };
 
 ZALENTO_MEASURING_EXPORT bool operator==(const Measurand &a, const Measurand &b);
@@ -97,7 +97,7 @@ ZALENTO_MEASURING_EXPORT bool operator==(const Measurand &a, const Measurand &b)
  */
 struct Session : Measurand
 {
-    PictureIdentity picture;
+    PictureIdentity picture; ///< that is measured on
     /** Was taken out of the picture that is shown: all pixels here are of the undistorted one. */
     std::optional<Lens> lens;
     std::optional<FilmFrame> film;  ///< that the picture was taken from
@@ -113,19 +113,19 @@ struct Session : Measurand
     double rearCircleY = 0.0;               ///< the same, down
     double mouthPercent = 100.0; ///< drawing area over the picture's largest centred square
     QVector<RingClicks> rings;   ///< clicks that the alignment is fitted to
-    QVector<LineClicks> lines;
-    bool fitsFov = false; ///< the field of view is fitted, too, where the clicks give it
-    ViewStyle viewStyle = ViewStyle::Full;
+    QVector<LineClicks> lines;   ///< the same, of lines along the pipe
+    bool fitsFov = false;        ///< the field of view is fitted, too, where the clicks give it
+    ViewStyle viewStyle = ViewStyle::Full;                  ///< how much of the model is drawn
     QString calibrationText = QStringLiteral("LASER;;;50"); ///< see Pipe::parseIniFile()
     /** Millimetres per picture pixel; wins over what the calibration text gives. */
     std::optional<double> mmPerPixel;
     /** Where the two laser spots were clicked that gave #mmPerPixel; empty for one that was typed.
      */
     QVector<QPointF> laserSpots;
-    StandardUncertainties standardUncertainties;
-    QVector<Measurand> measurandsBefore; ///< the one at hand, in their order
-    QVector<Measurand> measurandsBehind;
-    QJsonObject unknownFields; ///< of a file written by a later version; kept
+    StandardUncertainties standardUncertainties; ///< that were stated
+    QVector<Measurand> measurandsBefore;         ///< the one at hand, in their order
+    QVector<Measurand> measurandsBehind;         ///< those after it
+    QJsonObject unknownFields;                   ///< of a file written by a later version; kept
     /** Minor version of the file that it goes into: ours, or the later one of the file it is from.
      */
     int schemaMinor = sessionSchemaMinor;
@@ -140,10 +140,10 @@ inline bool operator!=(const Session &a, const Session &b)
 /** A number of a session with its limits, both included. */
 struct SessionNumber
 {
-    const char *name; ///< of the field in a file
-    double Session::*member;
-    double smallest;
-    double largest;
+    const char *name;        ///< of the field in a file
+    double Session::*member; ///< where it stands
+    double smallest;         ///< inclusive
+    double largest;          ///< inclusive
 };
 
 /** Every number that a session always has, the measurand's last. */

@@ -26,10 +26,10 @@ ZALENTO_MEASURING_EXPORT bool operator==(const StandardUncertainties &a,
 /** One of the numbers, with its name in files and on the command line. */
 struct StandardUncertaintyRow
 {
-    const char *name;
-    const char *option;
-    const char *meaning;
-    std::optional<double> StandardUncertainties::*member;
+    const char *name;                                     ///< in a session file
+    const char *option;                                   ///< of zalento-measure
+    const char *meaning;                                  ///< for people, with its unit
+    std::optional<double> StandardUncertainties::*member; ///< where it stands
 };
 
 ZALENTO_MEASURING_EXPORT const std::array<StandardUncertaintyRow, 6> &standardUncertaintyRows();
@@ -57,12 +57,12 @@ constexpr double defaultScalePart = 0.02;
 /** A session's standard uncertainties, the defaults put in; parts are parts of the whole. */
 struct InputUncertainties
 {
-    double clickPX = defaultClickPX;
-    double diameterMM = 0.0;
-    double fovDEG = defaultFovDEG;
-    double alignmentPX = defaultAlignmentPX;
-    double laserPart = defaultLaserPart;
-    double scalePart = defaultScalePart;
+    double clickPX = defaultClickPX;         ///< of a click, along each axis
+    double diameterMM = 0.0;                 ///< of the inner diameter
+    double fovDEG = defaultFovDEG;           ///< of the vertical field of view
+    double alignmentPX = defaultAlignmentPX; ///< of the model in the picture
+    double laserPart = defaultLaserPart;     ///< of the distance of the laser spots
+    double scalePart = defaultScalePart;     ///< of millimetres per pixel
 };
 
 ZALENTO_MEASURING_EXPORT InputUncertainties inputUncertainties(const Session &session);

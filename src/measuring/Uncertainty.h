@@ -36,7 +36,7 @@ ZALENTO_MEASURING_EXPORT QString uncertaintySourceName(UncertaintySource source)
 /** What one source adds to a value's uncertainty. */
 struct BudgetRow
 {
-    UncertaintySource source;
+    UncertaintySource source;         ///< what it comes from
     double standardUncertainty = 0.0; ///< in the value's unit
     double share = 0.0;               ///< of the variance, 0 to 1; all shares add up to 1
 };
@@ -56,8 +56,8 @@ constexpr double coverageFactor = 2.0;
 /** The uncertainty of one value, in the value's unit. */
 struct Uncertainty
 {
-    double standard = 0.0;
-    UncertaintyMethod method = UncertaintyMethod::FirstOrder;
+    double standard = 0.0;                                    ///< u, one standard deviation
+    UncertaintyMethod method = UncertaintyMethod::FirstOrder; ///< how it was found
     /** Holds 95 percent of the values drawn, as many lie below it as above (Monte Carlo). */
     std::optional<std::pair<double, double>> interval;
     /** Of the first order, the largest share first; without sources that add nothing. */
@@ -65,6 +65,7 @@ struct Uncertainty
     /** What the session's limit says of the value; nothing for a limit of another quantity. */
     std::optional<Decision> decision;
 
+    /** U = k u. */
     double expanded() const { return coverageFactor * standard; }
 };
 

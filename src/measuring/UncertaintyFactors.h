@@ -24,8 +24,8 @@ enum class Distribution {
  */
 struct UncertaintyFactor
 {
-    UncertaintySource source = UncertaintySource::Clicks;
-    Distribution distribution = Distribution::Normal;
+    UncertaintySource source = UncertaintySource::Clicks; ///< the row of the budget
+    Distribution distribution = Distribution::Normal;     ///< that is drawn from
     /** Of the inputs by one standard deviation; a click moves few of many. */
     Eigen::SparseVector<double> shift;
 };

@@ -16,7 +16,7 @@ struct UnrollRange
 {
     double mmPerPixel = 1.0; ///< of the flat picture
     double fromMM = 0.0;     ///< along the pipe from the mouth
-    double toMM = 0.0;
+    double toMM = 0.0;       ///< behind #fromMM
 };
 
 /** Limits of UnrollRange::mmPerPixel, and of the distances in both directions. */
@@ -43,11 +43,16 @@ public:
     /** @return a problem for a range that is empty, out of its limits or too large */
     static Result<Unrolling> of(const Session &session, const UnrollRange &range);
 
+    /** Moves it; the other one may then only be destroyed or assigned to. */
+    ///@{
     Unrolling(Unrolling &&) noexcept;
     Unrolling &operator=(Unrolling &&) noexcept;
+    ///@}
     ~Unrolling();
 
+    /** Of the flat picture, in pixels. */
     QSize size() const;
+    /** What it was made for. */
     const UnrollRange &range() const;
     bool isPlane() const; ///< the cross-section plane, not the wall
 

@@ -35,10 +35,10 @@ ZALENTO_MEASURING_EXPORT QString statusName(Status status);
 /** Where the model stands, and what its fit says. */
 struct AlignmentSummary
 {
-    Alignment alignment;
-    int rings = 0; ///< clicked
-    int lines = 0;
-    std::optional<AlignmentFit> fit;
+    Alignment alignment;             ///< that values are measured with
+    int rings = 0;                   ///< clicked
+    int lines = 0;                   ///< clicked
+    std::optional<AlignmentFit> fit; ///< nothing for one made by eye
 };
 
 /** The same for a session and its fit, if it has one. */
@@ -51,15 +51,15 @@ ZALENTO_MEASURING_EXPORT QString fitText(const AlignmentSummary &alignment);
 /** What came of looking for the edges of joints. */
 struct SnapSummary
 {
-    int edgePoints = 0;
-    double rmsPX = 0.0;
-    QString reason; ///< why it was refused; empty when they were found
+    int edgePoints = 0; ///< that were found
+    double rmsPX = 0.0; ///< of their distances from the drawn curves
+    QString reason;     ///< why it was refused; empty when they were found
 };
 
 /** The lens that was taken out of the picture. */
 struct LensSummary
 {
-    QString name;
+    QString name;                     ///< Lens::name
     std::optional<double> k1;         ///< where it was estimated from joints
     double standardUncertainty = 0.0; ///< of #k1
 };
@@ -67,23 +67,23 @@ struct LensSummary
 /** What values are measured with, where they depend on it. */
 struct ValueInputs
 {
-    std::optional<double> diameterMM;
-    std::optional<double> fovYDEG;
-    std::optional<double> mmPerPixel;
+    std::optional<double> diameterMM; ///< inner diameter of the pipe
+    std::optional<double> fovYDEG;    ///< vertical field of view
+    std::optional<double> mmPerPixel; ///< scale of a crack
 };
 
 /** The values of one measurement on a picture. */
 struct PictureValues
 {
-    QString picture; ///< its path as given
-    PictureIdentity identity;
-    QString measurement;      ///< Measurand::name
-    std::optional<Kind> kind; ///< nothing before it is known
-    Status status = Status::Failed;
-    QVector<Value> values;
-    ValueInputs inputs;
-    std::optional<FilmFrame> film; ///< as in the session
-    std::optional<double> counterM;
+    QString picture;                           ///< its path as given
+    PictureIdentity identity;                  ///< of the file that was read
+    QString measurement;                       ///< Measurand::name
+    std::optional<Kind> kind;                  ///< nothing before it is known
+    Status status = Status::Failed;            ///< whether there are values, or why not
+    QVector<Value> values;                     ///< in the order of their kind
+    ValueInputs inputs;                        ///< what they depend on
+    std::optional<FilmFrame> film;             ///< as in the session
+    std::optional<double> counterM;            ///< of the film's picture, in metres
     std::optional<AlignmentSummary> alignment; ///< of the model; nothing before it is known
     std::optional<LensSummary> lens;           ///< nothing for a picture as it was taken
     std::optional<SnapSummary> snap;           ///< nothing where nobody asked for it

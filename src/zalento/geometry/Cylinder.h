@@ -30,16 +30,16 @@ class ZALENTO_EXPORT Cylinder
 public:
     static constexpr double lengthInDiameters = 10; ///< the section of a pipe that is modelled
 
-    double diameterM = 0.0;
-    double lengthM = 0.0;
+    double diameterM = 0.0;     ///< inside
+    double lengthM = 0.0;       ///< of the section that is modelled
     double lengthSquared = 0.0; ///< m²
-    double radiusM = 0.0;
+    double radiusM = 0.0;       ///< half the diameter
     double radiusSquared = 0.0; ///< m²
     Vec3 axisStart;             ///< scene, in metres; set with the grid
     Vec3 axisEnd;               ///< #lengthM away from #axisStart
-    double ringSpacingM = 0.0;
-    int segmentCount = 360; ///< a ring has one point more, the last equal to the first
-    int ringCount = 0;      ///< intervals; the grid has one ring more
+    double ringSpacingM = 0.0;  ///< between two rings of the grid
+    int segmentCount = 360;     ///< a ring has one point more, the last equal to the first
+    int ringCount = 0;          ///< intervals; the grid has one ring more
     std::vector<std::vector<Vec3>> vertices;       ///< [ring][point], scene, in metres
     std::vector<std::vector<Vec2>> screenVertices; ///< same shape, item pixels, filled by the host
     std::vector<int> waterLevelStart;              ///< per ring: first vertex that is drawn
@@ -51,6 +51,7 @@ public:
     double crossSectDistancePercent = 0.0; ///< cross-section plane as a fraction of the length
     bool verticesUpToDate = false;         ///< the grid needs no rebuilding
 
+    /** @param diameter in metres */
     explicit Cylinder(double diameter);
 
     /** Sets the diameter in metres, the length to ten times as much, and all that follows. */
@@ -114,6 +115,7 @@ public:
      * @throws std::range_error for a camera without a viewing direction.
      */
     void rayVectors(QPoint pixel, const MiniGL &camera, Vec3 &origin, Vec3 &direction) const;
+    /** The same for a place between pixels. */
     void rayVectorsAt(const Vec2 &place, const MiniGL &camera, Vec3 &origin, Vec3 &direction) const;
 
     /**
@@ -135,6 +137,7 @@ public:
      *         finite. True for a parallel ray within the radius.
      */
     bool intersectRay(QPoint pixel, const MiniGL &camera, Vec3 &hitPoint, Vec3 rotation) const;
+    /** The same for a place between pixels. */
     bool intersectRayAt(const Vec2 &place, const MiniGL &camera, Vec3 &hitPoint,
                         Vec3 rotation) const;
 
@@ -146,6 +149,7 @@ public:
      *         not finite.
      */
     bool intersectPlaneRay(QPoint pixel, const MiniGL &camera, Vec3 &hitPoint, Vec3 rotation) const;
+    /** The same for a place between pixels. */
     bool intersectPlaneRayAt(const Vec2 &place, const MiniGL &camera, Vec3 &hitPoint,
                              Vec3 rotation) const;
 

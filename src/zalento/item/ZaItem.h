@@ -95,6 +95,7 @@ class ZALENTO_EXPORT ZaItem : public QQuickPaintedItem
     Q_PROPERTY(double vertFov READ getFovDeg WRITE setFovDeg NOTIFY vertFovChanged)
 
 public:
+    /** Takes the shared diameter, and that of the host's active record where there is one. */
     explicit ZaItem(QQuickItem *parent = nullptr);
 
     /** Diameter in mm of the main pipe, shared by all items of the process. GUI thread only. */
@@ -103,34 +104,20 @@ public:
     /** Paints the object on view and, with it, computes its measures. */
     void paint(QPainter *painter) override;
 
-    /** Lays out the drawing area: the largest centred square. */
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
-#else
-    void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry);
-    /** What Qt 6 calls in place of geometryChanged(), and calls it. */
-    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
-#endif
-
+    /** Puts a kind's object on view and has clicks measure its quantity. Sends no signal. */
     void setMeasureSettings(MeasureMentSettings measureSettings);
     /** The pipe object on view. */
     PipeBase &getCurrentViewObject();
     /** Item coordinates to whole pixels of the square drawing area. */
     QPoint calculatePos(double x, double y) const;
+    /** Keeps #isTwoHitpointList for a list of @p size points. */
     void onHitPointListSizeChanged(int size);
 
-    bool isTwoHitpointList() const
-    {
-        return m_isTwoHitpointList;
-    }
-    bool useDistanceLasers() const
-    {
-        return m_useDistanceLasers;
-    }
-    void setUseDistanceLasers(bool use)
-    {
-        m_useDistanceLasers = use;
-    }
+    /** Reads or writes the property of this name, see there. */
+    ///@{
+    bool isTwoHitpointList() const { return m_isTwoHitpointList; }
+    bool useDistanceLasers() const { return m_useDistanceLasers; }
+    void setUseDistanceLasers(bool use) { m_useDistanceLasers = use; }
     double diameter() const;
     void setDiameter(double diameterMM);
     double percentage() const;
@@ -141,38 +128,26 @@ public:
     void setRearCircleActive(bool active);
     double angle() const;
     void setAngle(double angleDeg);
-    int clock() const
-    {
-        return 0;
-    }
+    int clock() const { return 0; }
     void setClock(int clockDeg);
-    int viewObject() const
-    {
-        return m_viewObject;
-    }
+    int viewObject() const { return m_viewObject; }
     void setViewMode(int viewObject);
-    int viewStyle() const
-    {
-        return m_viewStyle;
-    }
+    int viewStyle() const { return m_viewStyle; }
     void setViewStyle(int viewStyle);
-    int measureType() const
-    {
-        return m_measureType;
-    }
+    int measureType() const { return m_measureType; }
     void setMeasureType(int measureType);
     int measureUnit() const;
     void setMeasureUnit(int measureUnit);
-    QString iWantToMeasure() const
-    {
-        return m_iWantToMeasure;
-    }
+    QString iWantToMeasure() const { return m_iWantToMeasure; }
     void setiWantToMeasure(QString kind);
     double measure1() const;
     double measure2() const;
     bool viewDownstream() const;
+    ///@}
 
 Q_SIGNALS:
+    /** The property of this name was written or has changed, see there. */
+    ///@{
     void cameraHeightChanged(double cameraHeight);
     void rearCircleActiveChanged(bool rearCircleActive);
     void angleChanged(double angle);
@@ -189,8 +164,10 @@ Q_SIGNALS:
     void measure2Changed(double measure);
     void bendDownstreamChanged(bool viewDownstream);
     void vertFovChanged(double vertFov);
+    ///@}
 
 public Q_SLOTS:
+    /** Writes #viewDownstream. */
     void setViewDownstream(bool viewDownstream);
 
 private Q_SLOTS:
@@ -208,8 +185,11 @@ public:
     Q_INVOKABLE void move(double x, double y);
     /** Sets the roll in degrees. */
     Q_INVOKABLE void rotate(double r);
+    /** Writes or reads #vertFov. */
+    ///@{
     Q_INVOKABLE void setFovDeg(double s);
     Q_INVOKABLE double getFovDeg();
+    ///@}
     /** A step of a pinch: @p x and @p y add to the offset, scale @p s and roll @p r are absolute.
      */
     Q_INVOKABLE void moveScaleRotate(double x, double y, double s, double r);
@@ -221,6 +201,14 @@ public:
     Q_INVOKABLE QString xxx();
     /** Takes the diameter that all items share. */
     Q_INVOKABLE void refreshMainPipeDiameter();
+
+    /** Lays out the drawing area: the largest centred square. Qt 6 calls geometryChange(). */
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+#else
+    void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry);
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+#endif
 
 private:
     template <typename Operation>

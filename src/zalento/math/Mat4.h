@@ -29,6 +29,7 @@ struct Mat4
         : m{a00, a10, a20, a30, a01, a11, a21, a31, a02, a12, a22, a32, a03, a13, a23, a33}
     {}
 
+    /** Takes all elements of @p other. */
     void set(const Mat4 &other) { *this = other; }
 
     /** Elements row by row, in reading order. */
@@ -40,12 +41,14 @@ struct Mat4
             Mat4(a00, a01, a02, a03, a10, a11, a12, a13, a20, a21, a22, a23, a30, a31, a32, a33);
     }
 
+    /** Becomes the identity. */
     void identity() { *this = Mat4(); }
 
     /**
      * Storage element @p i (column-major, see #m).
      * @throws std::out_of_range for i >= 16.
      */
+    ///@{
     double &operator[](unsigned i)
     {
         checkIndex(i);
@@ -56,6 +59,7 @@ struct Mat4
         checkIndex(i);
         return m[i];
     }
+    ///@}
 
     /** this = this * b: @p b acts on points first. */
     void multiply(const Mat4 &b)
@@ -94,12 +98,15 @@ struct Mat4
     /** this = inverse() */
     void invert() { *this = inverse(); }
 
+    /** Rows become columns. */
+    ///@{
     void transpose() { *this = transposed(); }
     Mat4 transposed() const
     {
         return {m[0], m[1], m[2],  m[3],  m[4],  m[5],  m[6],  m[7],
                 m[8], m[9], m[10], m[11], m[12], m[13], m[14], m[15]};
     }
+    ///@}
 
     /** The perspective frustum matrix of glFrustum. */
     ZALENTO_EXPORT void setFrustum(double left, double right, double bottom, double top,
@@ -117,8 +124,10 @@ struct Mat4
      * Maps normalised device coordinates to item pixels: x in [-1, 1] to [r.x, r.x + r.width], y
      * in [-1, 1] to [r.y + r.height, r.y] (y turns downwards), z in [-1, 1] to [0, 1].
      */
+    ///@{
     ZALENTO_EXPORT void setViewPort(const QRectF &r);
     ZALENTO_EXPORT void setViewPort(const QRect &r);
+    ///@}
 
     /**
      * The viewing transform of gluLookAt: the camera stands at @p eye and looks along its own -z
@@ -126,12 +135,14 @@ struct Mat4
      * @throws std::range_error when eye equals center or up is parallel to the viewing direction;
      *         the matrix is unchanged then.
      */
+    ///@{
     ZALENTO_EXPORT void lookAt(const Vec3 &eye, const Vec3 &center, const Vec3 &up);
     void lookAt(double eyeX, double eyeY, double eyeZ, double centerX, double centerY,
                 double centerZ, double upX, double upY, double upZ)
     {
         lookAt(Vec3(eyeX, eyeY, eyeZ), Vec3(centerX, centerY, centerZ), Vec3(upX, upY, upZ));
     }
+    ///@}
 
     /**
      * Reads a rigid viewing transform back.
@@ -142,25 +153,32 @@ struct Mat4
     ZALENTO_EXPORT void getLookAt(Vec3 &eye, Vec3 &direction, Vec3 &up) const;
 
     /** Sets the translation; the other elements become those of the identity or are kept. */
+    ///@{
     ZALENTO_EXPORT void translation(double x, double y, double z, bool keepOthers);
     void translation(const Vec3 &v, bool keepOthers) { translation(v.x, v.y, v.z, keepOthers); }
+    ///@}
 
     /**
      * Sets the right-handed rotation by @p angleDeg about an axis through the origin. The axis is
      * normalised unless its squared length lies within 1e-4 of 1; an axis of zero gives
      * diag(cos, cos, cos). The translation becomes 0 or is kept.
      */
+    ///@{
     ZALENTO_EXPORT void rotation(double angleDeg, double x, double y, double z, bool keepOthers);
     void rotation(double angleDeg, const Vec3 &axis, bool keepOthers)
     {
         rotation(angleDeg, axis.x, axis.y, axis.z, keepOthers);
     }
+    ///@}
 
     /** Sets the scaling; the translation becomes 0 or is kept. */
+    ///@{
     ZALENTO_EXPORT void scaling(double x, double y, double z, bool keepOthers);
     void scaling(const Vec3 &v, bool keepOthers) { scaling(v.x, v.y, v.z, keepOthers); }
+    ///@}
 
     /** this = this * translation */
+    ///@{
     void translate(double x, double y, double z)
     {
         Mat4 t;
@@ -168,8 +186,10 @@ struct Mat4
         multiply(t);
     }
     void translate(const Vec3 &v) { translate(v.x, v.y, v.z); }
+    ///@}
 
     /** this = this * rotation */
+    ///@{
     void rotate(double angleDeg, double x, double y, double z)
     {
         Mat4 r;
@@ -177,8 +197,10 @@ struct Mat4
         multiply(r);
     }
     void rotate(double angleDeg, const Vec3 &axis) { rotate(angleDeg, axis.x, axis.y, axis.z); }
+    ///@}
 
     /** this = this * scaling */
+    ///@{
     void scale(double x, double y, double z)
     {
         Mat4 s;
@@ -186,6 +208,7 @@ struct Mat4
         multiply(s);
     }
     void scale(const Vec3 &v) { scale(v.x, v.y, v.z); }
+    ///@}
 
 private:
     static void checkIndex(unsigned i)

@@ -9,10 +9,11 @@ namespace Drevon::Zalento {
 /** A point or direction on the screen, in pixels; y points downwards. */
 struct Vec2
 {
-    double x = 0.0;
-    double y = 0.0;
+    double x = 0.0; ///< to the right
+    double y = 0.0; ///< downwards
 
     constexpr Vec2() = default;
+    /** From its components. */
     constexpr Vec2(double xValue, double yValue)
         : x(xValue)
         , y(yValue)

@@ -18,9 +18,12 @@ namespace Drevon::Zalento {
  */
 struct Vec3
 {
+    /** Components along the scene's axes. */
+    ///@{
     double x = 0.0;
     double y = 0.0;
     double z = 0.0;
+    ///@}
 
     static const Vec3 Zero;  ///< (0, 0, 0)
     static const Vec3 XAxis; ///< (1, 0, 0)
@@ -28,48 +31,71 @@ struct Vec3
     static const Vec3 ZAxis; ///< (0, 0, 1)
 
     constexpr Vec3() = default;
+    /** From its components. */
     constexpr Vec3(double xValue, double yValue, double zValue)
         : x(xValue)
         , y(yValue)
         , z(zValue)
     {}
 
+    /** a + b; a number is added to every component. */
+    ///@{
     static Vec3 add(const Vec3 &a, const Vec3 &b) { return {a.x + b.x, a.y + b.y, a.z + b.z}; }
     static Vec3 add(const Vec3 &a, double s) { return {a.x + s, a.y + s, a.z + s}; }
     static void add(const Vec3 &a, const Vec3 &b, Vec3 &out) { out = add(a, b); }
     static void add(const Vec3 &a, double s, Vec3 &out) { out = add(a, s); }
+    ///@}
 
+    /** a - b; a number stands for a vector with three such components. */
+    ///@{
     static Vec3 subtract(const Vec3 &a, const Vec3 &b) { return {a.x - b.x, a.y - b.y, a.z - b.z}; }
     static Vec3 subtract(const Vec3 &a, double s) { return {a.x - s, a.y - s, a.z - s}; }
     static Vec3 subtract(double s, const Vec3 &a) { return {s - a.x, s - a.y, s - a.z}; }
     static void subtract(const Vec3 &a, const Vec3 &b, Vec3 &out) { out = subtract(a, b); }
     static void subtract(const Vec3 &a, double s, Vec3 &out) { out = subtract(a, s); }
     static void subtract(double s, const Vec3 &a, Vec3 &out) { out = subtract(s, a); }
+    ///@}
 
+    /** a s */
+    ///@{
     static Vec3 multiply(const Vec3 &a, double s) { return {a.x * s, a.y * s, a.z * s}; }
     static void multiply(const Vec3 &a, double s, Vec3 &out) { out = multiply(a, s); }
+    ///@}
 
+    /**
+     * a / b component by component; a number in front stands for three such components. Division by
+     * a number multiplies by its reciprocal, which is computed once.
+     */
+    ///@{
     static Vec3 divide(const Vec3 &a, const Vec3 &b) { return {a.x / b.x, a.y / b.y, a.z / b.z}; }
-    /** Multiplies by the reciprocal of @p s, which is computed once. */
     static Vec3 divide(const Vec3 &a, double s) { return multiply(a, 1 / s); }
     static Vec3 divide(double s, const Vec3 &a) { return {s / a.x, s / a.y, s / a.z}; }
     static void divide(const Vec3 &a, const Vec3 &b, Vec3 &out) { out = divide(a, b); }
     static void divide(const Vec3 &a, double s, Vec3 &out) { out = divide(a, s); }
     static void divide(double s, const Vec3 &a, Vec3 &out) { out = divide(s, a); }
+    ///@}
 
+    /** -a */
     static Vec3 negate(const Vec3 &a) { return {-a.x, -a.y, -a.z}; }
 
+    /** a × b, right-handed; without @p a of this vector. */
+    ///@{
     static Vec3 cross(const Vec3 &a, const Vec3 &b)
     {
         return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
     }
     static void cross(const Vec3 &a, const Vec3 &b, Vec3 &out) { out = cross(a, b); }
-    /** This vector times @p b. */
     Vec3 cross(const Vec3 &b) const { return cross(*this, b); }
+    ///@}
 
+    /** a · b; without @p a of this vector. */
+    ///@{
     static double dot(const Vec3 &a, const Vec3 &b) { return a.x * b.x + a.y * b.y + a.z * b.z; }
     double dot(const Vec3 &b) const { return dot(*this, b); }
+    ///@}
 
+    /** The function of the same meaning: add(), subtract(), negate(), multiply(), divide(). */
+    ///@{
     Vec3 operator+(const Vec3 &b) const { return add(*this, b); }
     Vec3 operator+(double s) const { return add(*this, s); }
     Vec3 operator-(const Vec3 &b) const { return subtract(*this, b); }
@@ -77,8 +103,11 @@ struct Vec3
     Vec3 operator-() const { return negate(*this); }
     Vec3 operator*(double s) const { return multiply(*this, s); }
     Vec3 operator/(double s) const { return divide(*this, s); }
+    ///@}
 
+    /** In m². */
     double lengthSquared() const { return x * x + y * y + z * z; }
+    /** In m. */
     double length() const { return std::sqrt(lengthSquared()); }
 
     /**
@@ -117,19 +146,25 @@ struct Vec3
                std::abs(a.z - b.z) <= eps;
     }
 
+    /** Equality of all components, exactly. */
+    ///@{
     bool operator==(const Vec3 &b) const { return x == b.x && y == b.y && z == b.z; }
     bool operator!=(const Vec3 &b) const { return !(*this == b); }
+    ///@}
 
-    // Component-wise dominance, not an order: two vectors can be neither < nor >=.
+    /** Holds for every component: no order, two vectors can be neither < nor >=. */
+    ///@{
     bool operator<(const Vec3 &b) const { return x < b.x && y < b.y && z < b.z; }
     bool operator>(const Vec3 &b) const { return x > b.x && y > b.y && z > b.z; }
     bool operator<=(const Vec3 &b) const { return x <= b.x && y <= b.y && z <= b.z; }
     bool operator>=(const Vec3 &b) const { return x >= b.x && y >= b.y && z >= b.z; }
+    ///@}
 
     /**
      * Component @p i: 0 is x, 1 is y, 2 is z.
      * @throws std::out_of_range for any other index.
      */
+    ///@{
     double &operator[](unsigned i)
     {
         switch (i) {
@@ -144,6 +179,7 @@ struct Vec3
         }
     }
     double operator[](unsigned i) const { return Vec3(*this)[i]; }
+    ///@}
 
     /** Angles in radians; @p polar is measured from +z, @p azimuth from +x towards +y. */
     static Vec3 fromSphericalCoords(double azimuth, double polar, double radius)
@@ -192,6 +228,8 @@ inline bool isFinite(const Vec3 &v)
     return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
 }
 
+/** Vec3::multiply(), or Vec3::divide() of a number by a vector. */
+///@{
 inline Vec3 operator*(double s, const Vec3 &a)
 {
     return Vec3::multiply(a, s);
@@ -201,5 +239,6 @@ inline Vec3 operator/(double s, const Vec3 &a)
 {
     return Vec3::divide(s, a);
 }
+///@}
 
 } // namespace Drevon::Zalento

@@ -23,10 +23,11 @@ enum class NoValue {
 /** A value, or why there is none. */
 struct MeasuredValue
 {
-    Quantity quantity = Quantity::Length;
-    double number = 0.0; ///< in the unit of #quantity
-    NoValue why = NoValue::TooFewPoints;
+    Quantity quantity = Quantity::Length; ///< what was measured
+    double number = 0.0;                  ///< in the unit of #quantity
+    NoValue why = NoValue::TooFewPoints;  ///< NoValue::None for a value
 
+    /** There is a value. */
     bool isMeasured() const { return why == NoValue::None; }
 };
 

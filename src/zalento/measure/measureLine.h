@@ -12,7 +12,7 @@ namespace Drevon::Zalento {
 /** What the points of a measuring line are measured with. */
 struct LineScale
 {
-    double pipeRadiusMM = 0.0;
+    double pipeRadiusMM = 0.0;    ///< inside
     double viewportWidthPx = 0.0; ///< in which the points of a crack are fractions
     double mmPerPixel = 0.0;      ///< of the picture; 0 when unknown
 };
@@ -20,7 +20,7 @@ struct LineScale
 /** What a measuring line measures. */
 struct LineMeasure
 {
-    ObservableType observable = ObservableType::NothingObserved;
+    ObservableType observable = ObservableType::NothingObserved; ///< which measure the numbers are
     MeasuredValue value; ///< length; the area inside or, in FreeCrossSection mode, outside of it
     /** The area's fraction of the section, or two points' distance in percent of the diameter. */
     MeasuredValue share;

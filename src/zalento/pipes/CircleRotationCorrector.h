@@ -25,6 +25,7 @@ public:
     Vec3 frontPoint;       ///< on the front circle, found by the last angle check; metres
     Vec2 direction;        ///< unit screen direction of the pipe axis, from the last angle check
 
+    /** Corrects the view of this camera, which has to outlive it. */
     explicit CircleRotationCorrector(MiniGL &pipeCamera)
         : camera(pipeCamera)
     {}

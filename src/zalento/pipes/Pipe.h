@@ -23,11 +23,11 @@ public:
     /** A row of the camera calibration: the scale at a nominal diameter. */
     struct CalibrationPoint
     {
-        double diameterMM = 0.0;
-        double scale = 0.0; ///< mm per picture pixel
+        double diameterMM = 0.0; ///< nominal
+        double scale = 0.0;      ///< mm per picture pixel
     };
 
-    Cylinder cylinder{0.1};
+    Cylinder cylinder{0.1};          ///< the wall
     std::vector<HitPoint> hitPoints; ///< in the order set; first == last is a closed polygon
     int selectedIndex = -1;          ///< point found by findNearestHitPoint(), -1 for none
     Vec3 highlightPoint;             ///< wall point under the cursor; Vec3::Zero for none
@@ -36,7 +36,7 @@ public:
     bool laserCalibrated = false;    ///< a scale has been set
     double laserScale = 0.0;         ///< mm per picture pixel; 0 before a scale is known
     double laserDistance = 0.0;      ///< between the two laser spots, in mm
-    MeasureMode measureMode = MeasureMode::NoMeasure;
+    MeasureMode measureMode = MeasureMode::NoMeasure; ///< what clicks measure
 
     /** A pipe of 0.1 m whose camera has two laser spots 50 mm apart. */
     Pipe();
@@ -163,9 +163,13 @@ public:
     /** @} */
 
 Q_SIGNALS:
+    /** Points were added, removed or moved; @p size of them are left. */
     void hitPointListSizeChanged(int size);
+    /** The first, or second, measure was computed anew by painting. */
+    ///@{
     void measure1Changed(double m_measure);
     void measure2Changed(double m_measure);
+    ///@}
 
 private:
     void addCrossSectionPoint(const QPoint &pos, Vec3 rotation);

@@ -25,8 +25,8 @@ class ZALENTO_EXPORT PipeBase : public QObject
     Q_OBJECT
 
 public:
-    MiniGL camera;
-    CircleRotationCorrector rotationCorrector{camera};
+    MiniGL camera;                                     ///< that the object is drawn with
+    CircleRotationCorrector rotationCorrector{camera}; ///< keeps the front circle in its place
     double cameraHeight = 0.5;     ///< of the eye across the diameter, [0, 1]; 0.5 is the axis
     bool rearCircleActive = false; ///< the item's rear-circle mode; kept here for it
     ObservableType observable = ObservableType::NothingObserved; ///< kind of the last measure

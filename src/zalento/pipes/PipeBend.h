@@ -17,8 +17,11 @@ public:
     void init();
 
     void setDiameterM(double d) override;
+    /** Whether the bend is seen from the straight pipe. */
+    ///@{
     void setViewDownstream(bool downstream) { viewDownstream = downstream; }
     bool getViewDownstream() const { return viewDownstream; }
+    ///@}
 
     void render(QPainter &painter, ViewStyle viewStyle, const ZASettings &settings, Vec3 rotation,
                 QPoint offset) override;

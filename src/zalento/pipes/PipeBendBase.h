@@ -37,8 +37,8 @@ public:
                     QPoint offset);
 
 protected:
-    static constexpr double initialDiameterMM = 110.0;
-    static constexpr double initialDiameterM = 0.11;
+    static constexpr double initialDiameterMM = 110.0; ///< before the host sets one
+    static constexpr double initialDiameterM = 0.11;   ///< the same
 
 private:
     class CircleChain;

@@ -9,7 +9,7 @@ namespace Drevon::Zalento {
 class ZALENTO_EXPORT PipeLateral : public PipeBase
 {
 public:
-    Cylinder mainCylinder{0.1};
+    Cylinder mainCylinder{0.1};          ///< the pipe that the branch joins
     Cylinder lateralCylinder{0.1};       ///< the branch; its angleDeg is the branch angle
     double lateralDiameterPercent = 0.1; ///< branch / main diameter, [0.01, 0.999]
 
@@ -26,6 +26,7 @@ public:
 
     /** Angle in degrees between the branch and the main pipe's direction away from the camera. */
     double getAngleDeg() const { return lateralCylinder.angleDeg; }
+    /** Sets that angle; it is also the measured value. */
     void setAngleDeg(double a);
 
     void render(QPainter &painter, ViewStyle viewStyle, const ZASettings &settings, Vec3 rotation,

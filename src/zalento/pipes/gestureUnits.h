@@ -17,8 +17,10 @@ inline constexpr double unitsPerDiameter = 576;
 inline constexpr double dragRange = 85.0;
 
 /** Gesture units of the rear circle that turn the view by half the vertical field of view. */
+///@{
 inline constexpr double rearCircleRangeX = 85.0;
 inline constexpr double rearCircleRangeY = 50.0;
+///@}
 
 /** Camera height in percent that is the axis; as a rear circle's height it is centred. */
 inline constexpr double centredPercent = 50.0;

@@ -24,6 +24,7 @@ struct ZALENTO_EXPORT HitPoint
     bool isHighlighted = false;
 
     // Implicit: a list of positions is a list of points.
+    /** In metres, not highlighted. */
     HitPoint(const Vec3 &scenePosition)
         : position(scenePosition)
     {}

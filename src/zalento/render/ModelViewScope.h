@@ -8,6 +8,7 @@ namespace Drevon::Zalento {
 class ModelViewScope
 {
 public:
+    /** Keeps the matrix of this camera. */
     explicit ModelViewScope(MiniGL &camera)
         : m_camera(camera)
     {

@@ -25,6 +25,7 @@ inline QColor withAlpha(QColor color, int alpha)
 class PenScope
 {
 public:
+    /** Keeps the pen of this painter. */
     explicit PenScope(QPainter &painter)
         : m_painter(painter)
         , m_pen(painter.pen())

@@ -23,15 +23,22 @@ public:
     /** Decimal mark of all texts; the host sets it before texts are made. */
     static QChar decimalSeparator;
 
+    /** Millimetres and inches of 25.4 mm. */
+    ///@{
     static double mmToInch(double mm);
     static double inchTomm(double inch);
+    ///@}
     /** Hundredths of an inch. */
     static int mmToInch100(int mm);
+    /** Whole millimetres of hundredths of an inch. */
     static int inch100Tomm(int inch100);
+    /** In feet of 12 inches. */
     static double mmToft(double mm);
+    /** In square feet. */
     static double mm2Toft2(double mm2);
     /** Whole millimetres. */
     static int ftTomm(double ft);
+    /** In metres. */
     static double ftTom(double ft);
 
     /**
@@ -44,6 +51,7 @@ public:
      */
     static QString lenStr(double mm, MeasureUnit unit, bool forceLarge, bool withUnit,
                           bool forceSmall);
+    /** The same with the unit, in the one that fits the length. */
     static QString lenStr(double mm, MeasureUnit unit);
     /** Always in millimetres or inches. */
     static QString mmOrInchStr(double mm, MeasureUnit unit);
@@ -65,9 +73,11 @@ public:
      * 90, 9 gives 180, 6 gives 270. In (-360, 360) for every number of hours.
      */
     static double clockH2AngleDEG(double hours);
+    /** The same in radians. */
     static double clockH2AngleRAD(double hours);
     /** Inverse of clockH2AngleDEG(), not rounded: 90 gives 0 (not 12), 0 gives 3. */
     static double angleDEG2ClockH(double angleDEG);
+    /** The same from radians. */
     static double angleRAD2ClockH(double angleRAD);
 };
 
