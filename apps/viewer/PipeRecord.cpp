@@ -1,5 +1,7 @@
 #include "PipeRecord.h"
 
+#include "Guidance.h"
+
 #include <drevon/AppState.h>
 #include <drevon/CDomainObject.h>
 #include <drevon/CLocaleSupport.h>

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Guidance.h"
-
 #include "measuring/ReportRecord.h"
 #include "measuring/Result.h"
 
@@ -9,6 +7,8 @@
 #include <QString>
 
 namespace Drevon::Zalento {
+
+class Guidance;
 
 /** The part of an inspection record that the measuring item reads. */
 struct PipeRecord

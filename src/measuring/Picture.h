@@ -1,7 +1,8 @@
 #pragma once
 
 #include "measuring/Export.h"
-#include "measuring/Session.h"
+#include "measuring/PictureIdentity.h"
+#include "measuring/Result.h"
 
 #include <QByteArray>
 #include <QImage>

@@ -275,12 +275,6 @@ Outcome checkMeasurands(const QVector<Measurand> &measurands)
 
 } // namespace
 
-bool operator==(const PictureIdentity &a, const PictureIdentity &b)
-{
-    return std::tie(a.path, a.size, a.sha256, a.unknownFields) ==
-           std::tie(b.path, b.size, b.sha256, b.unknownFields);
-}
-
 bool operator==(const FilmFrame &a, const FilmFrame &b)
 {
     return std::tie(a.path, a.number, a.seconds, a.unknownFields) ==

@@ -4,6 +4,7 @@
 #include "measuring/Export.h"
 #include "measuring/Kind.h"
 #include "measuring/Lens.h"
+#include "measuring/PictureIdentity.h"
 #include "measuring/Result.h"
 #include "measuring/StandardUncertainties.h"
 
@@ -26,17 +27,6 @@ namespace Drevon::Zalento::Measuring {
 /** Version of session files: "zalento-session 1.1". */
 constexpr int sessionSchemaMajor = 1;
 constexpr int sessionSchemaMinor = 1;
-
-/** Which picture a session belongs to. */
-struct PictureIdentity
-{
-    QString path;      ///< relative to the session's folder in a file, else to the working folder
-    QSize size;        ///< upright, in pixels
-    QByteArray sha256; ///< of the file's bytes, as 64 lower-case hexadecimal digits
-    QJsonObject unknownFields; ///< of a file written by a later version; kept
-};
-
-ZALENTO_MEASURING_EXPORT bool operator==(const PictureIdentity &a, const PictureIdentity &b);
 
 /** Which frame of a film a picture is. */
 struct FilmFrame
