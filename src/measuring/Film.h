@@ -22,8 +22,11 @@ public:
     /** Reads the list of the frames, for which the whole file is read. A problem names the file. */
     static Result<Film> open(const QString &path);
 
+    /** Moves it; the other one may then only be destroyed or assigned to. */
+    ///@{
     Film(Film &&) noexcept;
     Film &operator=(Film &&) noexcept;
+    ///@}
     ~Film();
 
     /** At least one. */

@@ -28,7 +28,7 @@ struct FrameList
     std::vector<std::int64_t> marks; ///< by which FilmDecoder tells them apart
     std::vector<std::int64_t> times; ///< when they are shown, in ticks of the film's clock
     std::vector<int> starts;         ///< the numbers of those from which decoding can begin
-    double secondsPerTick = 0.0;
+    double secondsPerTick = 0.0;     ///< of the film's clock
 };
 
 /**
@@ -39,6 +39,7 @@ struct FrameList
 class FilmDecoder
 {
 public:
+    /** @return a problem that names the file */
     static Result<std::unique_ptr<FilmDecoder>> open(const QString &path);
 
     /**

@@ -31,10 +31,10 @@ constexpr int sessionSchemaMinor = 1;
 /** Which frame of a film a picture is. */
 struct FilmFrame
 {
-    QString path;         ///< of the film, as PictureIdentity::path
-    int number = 0;       ///< from 0, in the order in which they are shown
-    double seconds = 0.0; ///< after the first one
-    QJsonObject unknownFields;
+    QString path;              ///< of the film, as PictureIdentity::path
+    int number = 0;            ///< from 0, in the order in which they are shown
+    double seconds = 0.0;      ///< after the first one
+    QJsonObject unknownFields; ///< of a file written by a later version; kept
 };
 
 ZALENTO_MEASURING_EXPORT bool operator==(const FilmFrame &a, const FilmFrame &b);
