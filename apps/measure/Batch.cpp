@@ -643,20 +643,20 @@ void Batch::drawFiles(Work &work) const
 // for itself, away from the GUI thread, as they do for the scene graph.
 void Batch::drawOverlay(Work &work) const
 {
-    m_jobs.onCallersThread([&work, this] {
+    const double scale = overlayScale(work.picture.image.size());
+    m_jobs.onCallersThread([&work, scale, this] {
         if (m_command.overlaysAll) {
-            work.others = std::make_shared<OtherOverlays>(work.session);
+            work.others = std::make_shared<OtherOverlays>(work.session, scale);
         }
         work.item = std::make_shared<ZaItem>();
-        showSession(work.session, *work.item, overlayScale(work.picture.image.size()));
+        showSession(work.session, *work.item, scale);
     });
     if (work.result.values.status == Status::NotSet) {
         work.result.warnings += QStringLiteral("nobody has set what the overlay shows: %1")
                                     .arg(neededOption(infoOf(work.session.kind)));
     }
     const QString &picture = work.result.values.picture;
-    const PaintedOverlay overlay{*work.item, overlayScale(work.picture.image.size()),
-                                 work.others.get()};
+    const PaintedOverlay overlay{*work.item, scale, work.others.get()};
     if (m_command.writesPng) {
         work.drawn.append({overlayPathOf(picture, m_command.outputFolder, QStringLiteral("png")),
                            overlayPng(overlay, work.picture.image)});

@@ -19,7 +19,8 @@ QString nameOf(const Session &session)
 } // namespace
 
 MeasurementModel::MeasurementModel(DocumentList &documents, MeasurementEditor &editor)
-    : m_editor(editor)
+    : m_documents(documents)
+    , m_editor(editor)
 {
     // A picture that cannot be read has no session.
     connect(&documents, &DocumentList::currentChanged, this, &MeasurementModel::follow);
@@ -80,7 +81,8 @@ void MeasurementModel::showOthers()
     const bool hadOthers = m_others != nullptr;
     m_others.reset();
     if (m_isAllShown && count() > 1) {
-        m_others = std::make_unique<Measuring::OtherOverlays>(*m_editor.session());
+        m_others = std::make_unique<Measuring::OtherOverlays>(*m_editor.session(),
+                                                              m_documents.overlayScale());
     }
     if (hadOthers || m_others) {
         Q_EMIT othersChanged();

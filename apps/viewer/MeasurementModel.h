@@ -72,6 +72,7 @@ private:
     void setRows(const QVector<Row> &rows, int chosen);
     void showOthers();
 
+    DocumentList &m_documents;
     MeasurementEditor &m_editor;
     QVector<Row> m_rows;
     int m_chosen = -1;

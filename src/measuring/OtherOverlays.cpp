@@ -81,9 +81,8 @@ QRectF placeOf(const Session &session)
 
 } // namespace
 
-OtherOverlays::OtherOverlays(const Session &session)
-    : m_picture(session.picture.size)
-    , m_scale(overlayScale(session.picture.size))
+OtherOverlays::OtherOverlays(const Session &session, double scale)
+    : m_scale(scale)
 {
     const int atHand = measurandAtHand(session);
     for (int number = 0; number < measurandsOf(session).size(); ++number) {

@@ -7,7 +7,6 @@
 
 #include <QPainter>
 #include <QRectF>
-#include <QSize>
 #include <QString>
 
 #include <memory>
@@ -22,8 +21,8 @@ namespace Drevon::Zalento::Measuring {
 class ZALENTO_MEASURING_EXPORT OtherOverlays
 {
 public:
-    /** On the GUI thread. */
-    explicit OtherOverlays(const Session &session);
+    /** On the GUI thread. @param scale of lines and names, as for showSession() */
+    OtherOverlays(const Session &session, double scale);
 
     /** In picture pixels and the painter's font, which it gets back as it was. In any thread. */
     void paint(QPainter &painter) const;
@@ -40,7 +39,6 @@ private:
     static Name nameOf(const Session &session);
     void paintName(QPainter &painter, const Name &name) const;
 
-    QSize m_picture;
     double m_scale; ///< of lines and names
 
     std::vector<std::unique_ptr<ZaItem>> m_items;

@@ -93,7 +93,7 @@ void paintOverlay(QPainter &painter, const QRectF &box, double unitsPerMM, const
     font.setPixelSize(labelPX);
     painter.setFont(font);
     if (overlays == Overlays::All) {
-        OtherOverlays(shown).paint(painter);
+        OtherOverlays(shown, 1.0).paint(painter);
     }
     ZaItem item;
     showSession(shown, item);

@@ -123,7 +123,7 @@ void TestMeasurands::overlayOfAll()
     ZaItem item;
     showSession(session, item);
     const QImage alone = pictureWithOverlay({item, 1.0, nullptr}, picture);
-    const OtherOverlays others(session);
+    const OtherOverlays others(session, 1.0);
     const QImage all = pictureWithOverlay({item, 1.0, &others}, picture);
     const QRect aroundLength(240, 155, 70, 50);
     const QRect aroundCrack(595, 495, 50, 30);
