@@ -98,6 +98,7 @@ void TestItemPainting::paintsAfterEveryChange_data()
     row("view style", [](ZaItem &item) { item.setViewStyle(2); });
     row("measure type", [](ZaItem &item) { item.setMeasureType(0); });
     row("unit", [](ZaItem &item) { item.setMeasureUnit(0); });
+    row("display settings", [](ZaItem &item) { item.setSettings({}); });
     row("measure settings", [](ZaItem &item) { item.setMeasureSettings({}); });
     row("kind", [](ZaItem &item) { item.setiWantToMeasure("WaterLevel"); });
     row("viewing direction", [](ZaItem &item) { item.setViewDownstream(false); });

@@ -1,4 +1,5 @@
 // The item's interface: what QML sees, what each control does and reports.
+#include "support/PaintRecorder.h"
 #include "support/TestCase.h"
 #include "support/Tolerances.h"
 
@@ -136,6 +137,7 @@ private slots:
     void record();
     void itemsShareTheDiameter();
 
+    void settingsReachThePicture();
     void pointListIsReported();
     void clicksReachTheStraightPipeOnly();
 };
@@ -393,6 +395,39 @@ void TestZaItem::itemsShareTheDiameter()
     first.refreshMainPipeDiameter();
     QCOMPARE(first.diameter(), 200.0);
     QCOMPARE(changed.count(), 1);
+}
+
+void TestZaItem::settingsReachThePicture()
+{
+    ZaItem item;
+    setSize(item, 600, 600);
+    item.setiWantToMeasure("CrackWidth");
+    item.mouseClick(10, 10);
+    item.mouseClick(20, 10);
+    const auto pens = [&item] {
+        PaintRecorder recorder;
+        QPainter painter(&recorder);
+        item.paint(&painter);
+        painter.end();
+        QStringList colours;
+        for (const PaintCall &call : recorder.calls()) {
+            colours.append(call.pen.color().name());
+        }
+        colours.removeDuplicates();
+        return colours;
+    };
+    ZASettings settings;
+    settings.colMeasures = QColor("#123456");
+    settings.MeasureUnit = MeasureUnit::Imperial;
+    SignalLog log(item);
+    item.setSettings(settings);
+    QCOMPARE(log.take(), QStringList("measureUnitChanged()"));
+    QVERIFY(pens().contains("#123456") && !pens().contains("#00ffff"));
+    log.take();
+    settings.colMeasures = QColor();
+    item.setSettings(settings);
+    QCOMPARE(log.take(), QStringList());
+    QVERIFY(pens().contains("#123456"));
 }
 
 void TestZaItem::pointListIsReported()

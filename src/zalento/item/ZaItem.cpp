@@ -201,6 +201,22 @@ void ZaItem::setMeasureUnit(int measureUnit)
     Q_EMIT measureUnitChanged();
 }
 
+void ZaItem::setSettings(const ZASettings &settings)
+{
+    const ZASettings before = m_settings;
+    m_settings = settings;
+    for (QColor ZASettings::*colour :
+         {&ZASettings::colMeasures, &ZASettings::colCylinder1, &ZASettings::colCylinder2}) {
+        if (!(m_settings.*colour).isValid()) {
+            m_settings.*colour = before.*colour;
+        }
+    }
+    update();
+    if (m_settings.MeasureUnit != before.MeasureUnit) {
+        Q_EMIT measureUnitChanged();
+    }
+}
+
 double ZaItem::measure1() const
 {
     return ViewObject(m_viewObject) == ViewObject::StraightPipe ? m_pipe.measure1 : 0.0;

@@ -104,6 +104,14 @@ public:
     /** Paints the object on view and, with it, computes its measures. */
     void paint(QPainter *painter) override;
 
+    /**
+     * Takes the colours, and the units of the labels, that the host has stored. A colour that is
+     * invalid stays as it was. Sends measureUnitChanged() when the units are others.
+     */
+    void setSettings(const ZASettings &settings);
+    /** As they are in use. */
+    const ZASettings &settings() const { return m_settings; }
+
     /** Puts a kind's object on view and has clicks measure its quantity. Sends no signal. */
     void setMeasureSettings(MeasureMentSettings measureSettings);
     /** The pipe object on view. */
@@ -207,6 +215,7 @@ public:
     void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 #else
     void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry);
+    /** Calls geometryChanged(). */
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 #endif
 
