@@ -70,6 +70,7 @@ MeasurementEditor::MeasurementEditor(DocumentList &documents, Preferences &prefe
 {
     connect(&documents, &DocumentList::currentAboutToChange, this,
             &MeasurementEditor::leaveCurrent);
+    connect(&preferences, &Preferences::displayChanged, this, &MeasurementEditor::showDisplay);
     connect(&documents, &DocumentList::currentChanged, this, &MeasurementEditor::showCurrent);
     refresh();
 }
@@ -80,6 +81,9 @@ void MeasurementEditor::setItem(ZaItem *item)
         return;
     }
     m_item = item;
+    if (m_item) {
+        m_item->setSettings(m_preferences.displaySettings());
+    }
     // The item was connected before: it has the record's diameter already.
     connect(AppState::instance(), &AppState::activeStructureChanged, this,
             &MeasurementEditor::takeItemDiameter, Qt::UniqueConnection);
@@ -132,6 +136,18 @@ void MeasurementEditor::showCurrent()
         show(sessionCopy());
     } else {
         refresh();
+    }
+}
+
+// The units are those of the session, which it keeps.
+void MeasurementEditor::showDisplay()
+{
+    if (!m_item) {
+        return;
+    }
+    m_item->setSettings(m_preferences.displaySettings());
+    if (session()) {
+        show(sessionCopy());
     }
 }
 
@@ -394,15 +410,20 @@ void MeasurementEditor::confirm()
 
 void MeasurementEditor::toggleUnit()
 {
-    if (!isReady()) {
-        return;
+    if (isReady()) {
+        useUnits(!isImperial());
     }
+}
+
+void MeasurementEditor::useUnits(bool imperial)
+{
+    const MeasureUnit unit = imperial ? MeasureUnit::Imperial : MeasureUnit::Metric;
+    m_preferences.setUnit(unit);
     Session session = sessionCopy();
-    session.unit = isImperial() ? MeasureUnit::Metric : MeasureUnit::Imperial;
-    ZASettings display = m_preferences.displaySettings();
-    display.MeasureUnit = session.unit;
-    m_preferences.setDisplaySettings(display);
-    change(tr("Unit"), session, Moves::Nothing);
+    if (isReady() && session.unit != unit) {
+        session.unit = unit;
+        change(tr("Unit"), session, Moves::Nothing);
+    }
 }
 
 void MeasurementEditor::measureAgain()

@@ -184,6 +184,8 @@ public:
     /** Keeps the value as an earlier result, and takes it away. */
     Q_INVOKABLE void measureAgain();
     Q_INVOKABLE void toggleUnit();
+    /** The units of the measurement on view, if there is one, and of those to come. */
+    Q_INVOKABLE void useUnits(bool imperial);
     Q_INVOKABLE void undo();
     Q_INVOKABLE void redo();
     Q_INVOKABLE void dropLastPoint();
@@ -301,6 +303,7 @@ private:
     Measuring::Session sessionCopy() const;
 
     void showCurrent();
+    void showDisplay();
     void leaveCurrent();
     void takeItemDiameter();
     void fit(Measuring::Session &session);

@@ -80,9 +80,9 @@ void MeasurementModel::showOthers()
 {
     const bool hadOthers = m_others != nullptr;
     m_others.reset();
-    if (m_isAllShown && count() > 1) {
-        m_others = std::make_unique<Measuring::OtherOverlays>(*m_editor.session(),
-                                                              m_documents.overlayScale());
+    if (m_isAllShown && count() > 1 && m_editor.isReady()) {
+        m_others = std::make_unique<Measuring::OtherOverlays>(
+            *m_editor.session(), m_documents.overlayScale(), m_editor.item()->settings());
     }
     if (hadOthers || m_others) {
         Q_EMIT othersChanged();

@@ -90,6 +90,18 @@ ZASettings Preferences::displaySettings() const
 void Preferences::setDisplaySettings(const ZASettings &settings)
 {
     settings.Save(m_settings);
+    Q_EMIT displayChanged();
+}
+
+void Preferences::resetColours()
+{
+    const ZASettings initial;
+    ZASettings display = displaySettings();
+    for (QColor ZASettings::*colour :
+         {&ZASettings::colMeasures, &ZASettings::colCylinder1, &ZASettings::colCylinder2}) {
+        display.*colour = initial.*colour;
+    }
+    setDisplaySettings(display);
 }
 
 } // namespace Drevon::Zalento

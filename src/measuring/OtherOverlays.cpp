@@ -81,7 +81,7 @@ QRectF placeOf(const Session &session)
 
 } // namespace
 
-OtherOverlays::OtherOverlays(const Session &session, double scale)
+OtherOverlays::OtherOverlays(const Session &session, double scale, const ZASettings &display)
     : m_scale(scale)
 {
     const int atHand = measurandAtHand(session);
@@ -94,6 +94,7 @@ OtherOverlays::OtherOverlays(const Session &session, double scale)
         if (number != atHand) {
             other.viewStyle = styleBesideOthers(other);
             m_items.push_back(std::make_unique<ZaItem>());
+            m_items.back()->setSettings(display);
             showSession(other, *m_items.back(), m_scale);
         }
     }

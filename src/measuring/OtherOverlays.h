@@ -21,8 +21,12 @@ namespace Drevon::Zalento::Measuring {
 class ZALENTO_MEASURING_EXPORT OtherOverlays
 {
 public:
-    /** On the GUI thread. @param scale of lines and names, as for showSession() */
-    OtherOverlays(const Session &session, double scale);
+    /**
+     * On the GUI thread.
+     * @param scale of lines and names, as for showSession()
+     * @param display their colours; the units are the session's
+     */
+    OtherOverlays(const Session &session, double scale, const ZASettings &display = {});
 
     /** In picture pixels and the painter's font, which it gets back as it was. In any thread. */
     void paint(QPainter &painter) const;

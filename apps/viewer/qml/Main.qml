@@ -57,6 +57,7 @@ ApplicationWindow {
         onExportRequested: what => fileChooser.exportTo(what)
         onRecordRequested: recordDialog.open()
         onCameraRequested: cameraDialog.open()
+        onDisplayRequested: displayDialog.open()
     }
     // What the bars and the side panel leave.
     Item {
@@ -68,7 +69,8 @@ ApplicationWindow {
         id: stage
         anchors { left: work.left; right: wallPanel.left; top: work.top; bottom: strip.top }
         commands: commands
-        isBehindDialog: fileChooser.isOpen || [filmPanel, recordDialog, nameDialog, cameraDialog, keyList, saveDialog, unsavedDialog]
+        isBehindDialog: fileChooser.isOpen || [filmPanel, recordDialog, nameDialog, cameraDialog, displayDialog, keyList,
+                                               saveDialog, unsavedDialog]
                                               .some(dialog => dialog.visible)
     }
     WallPanel {
@@ -140,6 +142,10 @@ ApplicationWindow {
         id: cameraDialog
         objectName: "cameraDialog"
         onFileRequested: fileChooser.openLens()
+    }
+    DisplayDialog {
+        id: displayDialog
+        objectName: "displayDialog"
     }
     FilmPanel {
         id: filmPanel

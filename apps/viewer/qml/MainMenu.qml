@@ -9,6 +9,7 @@ ViewerMenu {
     required property var commands
     signal recordRequested()
     signal cameraRequested()
+    signal displayRequested()
 
     width: 300
 
@@ -42,6 +43,10 @@ ViewerMenu {
     }
     ViewerMenuItem { action: menu.commands.map }
     ViewerMenuItem { action: menu.commands.wall }
+    ViewerMenuItem {
+        text: qsTr("Colours and units")
+        onTriggered: menu.displayRequested()
+    }
     ViewerMenu {
         title: qsTr("Language")
         width: 260

@@ -11,6 +11,7 @@ Rectangle {
     signal exportRequested(string what)
     signal recordRequested()
     signal cameraRequested()
+    signal displayRequested()
 
     readonly property bool isNarrow: width < 1000
     // On a low screen the keys of the zoom stand behind ours.
@@ -105,6 +106,7 @@ Rectangle {
                 commands: bar.commands
                 onRecordRequested: bar.recordRequested()
                 onCameraRequested: bar.cameraRequested()
+                onDisplayRequested: bar.displayRequested()
             }
         }
     }

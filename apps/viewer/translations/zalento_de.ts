@@ -525,6 +525,81 @@
     </message>
 </context>
 <context>
+    <name>DisplayDialog</name>
+    <message>
+        <source>cyan</source>
+        <translation>Türkis</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Colours and units</source>
+        <translation>Farben und Einheiten</translation>
+    </message>
+    <message>
+        <source>Points, lines and water</source>
+        <translation>Punkte, Linien und Wasser</translation>
+    </message>
+    <message>
+        <source>Pipe</source>
+        <translation>Rohr</translation>
+    </message>
+    <message>
+        <source>Branch and bend</source>
+        <translation>Abzweig und Bogen</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Einheiten</translation>
+    </message>
+    <message>
+        <source>metric</source>
+        <translation>metrisch</translation>
+    </message>
+    <message>
+        <source>imperial</source>
+        <translation>imperial</translation>
+    </message>
+    <message>
+        <source>Usual colours</source>
+        <translation>Übliche Farben</translation>
+    </message>
+    <message>
+        <source>The colours that the viewer comes with</source>
+        <translation>Farben wie bei der Auslieferung</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>Drevon::Zalento::Assessment</name>
     <message>
         <source>clicks</source>
@@ -1549,6 +1624,10 @@
     <message>
         <source>Camera and lens</source>
         <translation>Kamera und Objektiv</translation>
+    </message>
+    <message>
+        <source>Colours and units</source>
+        <translation>Farben und Einheiten</translation>
     </message>
 </context>
 <context>

@@ -525,6 +525,81 @@
     </message>
 </context>
 <context>
+    <name>DisplayDialog</name>
+    <message>
+        <source>cyan</source>
+        <translation>cyan</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>vert</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>jaune</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>orange</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>magenta</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>rouge</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>bleu</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>blanc</translation>
+    </message>
+    <message>
+        <source>Colours and units</source>
+        <translation>Couleurs et unités</translation>
+    </message>
+    <message>
+        <source>Points, lines and water</source>
+        <translation>Points, lignes et eau</translation>
+    </message>
+    <message>
+        <source>Pipe</source>
+        <translation>Tuyau</translation>
+    </message>
+    <message>
+        <source>Branch and bend</source>
+        <translation>Branchement et coude</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Unités</translation>
+    </message>
+    <message>
+        <source>metric</source>
+        <translation>métriques</translation>
+    </message>
+    <message>
+        <source>imperial</source>
+        <translation>impériales</translation>
+    </message>
+    <message>
+        <source>Usual colours</source>
+        <translation>Couleurs usuelles</translation>
+    </message>
+    <message>
+        <source>The colours that the viewer comes with</source>
+        <translation>Les couleurs d’origine de la visionneuse</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>Drevon::Zalento::Assessment</name>
     <message>
         <source>clicks</source>
@@ -1549,6 +1624,10 @@
     <message>
         <source>Camera and lens</source>
         <translation>Caméra et objectif</translation>
+    </message>
+    <message>
+        <source>Colours and units</source>
+        <translation>Couleurs et unités</translation>
     </message>
 </context>
 <context>

@@ -96,6 +96,7 @@ private slots:
     void findsOneOfManyPictures();
     void recordSetsTheDiameter();
     void overlayHidesWhileHeld();
+    void overlayTakesTheOperatorsColours();
     void jointsAlignTheModel();
     void jointClicksAreTakenByKeys();
     void nextPictureTakesTheCamera();
@@ -492,8 +493,8 @@ void TestViewer::controlsFitFingersAndWindows()
         QCOMPARE(stage->size(), stageSize); // whatever the hint says
         QVERIFY2(d.unfitControls().isEmpty(), qPrintable(d.unfitControls().join(", ")));
     }
-    for (const char *name : {"recordDialog", "cameraDialog", "keyList", "mainMenu", "exportMenu",
-                             "saveDialog", "filePicker"}) {
+    for (const char *name : {"recordDialog", "cameraDialog", "displayDialog", "keyList", "mainMenu",
+                             "exportMenu", "saveDialog", "filePicker"}) {
         QMetaObject::invokeMethod(d.window()->findChild<QObject *>(name), "open");
         d.waitForDialog(name);
         d.screenshot(tag + '-' + name);
@@ -888,6 +889,29 @@ void TestViewer::overlayHidesWhileHeld()
     QVERIFY(d.screenshot("overlay-hidden") != shown);
     QTest::keyRelease(d.window(), Qt::Key_H);
     QCOMPARE(d.screenshot("overlay"), shown);
+}
+
+// Colours reach the overlay and what is exported, and are there on another day.
+void TestViewer::overlayTakesTheOperatorsColours()
+{
+    ViewerDriver d;
+    d.openSample("dimension.jpg");
+    const auto exported = [&d] {
+        const QString svg = d.folder.filePath("overlay.svg");
+        return d.exporter.exportTo("svg", svg) ? contentOf(svg) : QByteArray();
+    };
+    QVERIFY(exported().contains("#00ff00"));
+    QMetaObject::invokeMethod(d.window()->findChild<QObject *>("displayDialog"), "open");
+    d.clickDialog("displayDialog", "pipeColour.#ff00ff");
+    QVERIFY(exported().contains("#ff00ff") && !exported().contains("#00ff00"));
+    d.screenshot("colours");
+    QCOMPARE(Preferences().pipeColour(), QColor("#ff00ff"));
+    QVERIFY(!d.editor.isModified());
+    d.clickDialog("displayDialog", "usualColoursKey");
+    QVERIFY(exported().contains("#00ff00"));
+
+    QMetaObject::invokeMethod(d.find("units"), "chosen", Q_ARG(int, 1));
+    QVERIFY(d.editor.isImperial() && Preferences().isImperial());
 }
 
 // Clicked joints put the model where the sample was made, from an alignment that is far off.
