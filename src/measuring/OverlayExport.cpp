@@ -1,5 +1,7 @@
 #include "measuring/OverlayExport.h"
 
+#include "measuring/Text.h"
+
 #include "measuring/Count.h"
 
 #include <QBuffer>
@@ -24,8 +26,8 @@ const QColor legendColour(16, 19, 21, 210);
 
 QStringList legendTexts(MapQuantity quantity)
 {
-    QStringList texts{quantity == MapQuantity::Scale ? QStringLiteral("mm a pixel")
-                                                     : QStringLiteral("U of a point, mm")};
+    QStringList texts{quantity == MapQuantity::Scale ? Text::tr("mm a pixel")
+                                                     : Text::tr("U of a point, mm")};
     double from = 0.0;
     for (const MapStep &step : mapSteps()) {
         texts += std::isinf(step.upToMM) ? QStringLiteral("> %1").arg(from)

@@ -86,7 +86,7 @@ ViewerDialog {
             clip: true
             spacing: 12
             boundsBehavior: Flickable.StopAtBounds
-            ScrollBar.vertical: ScrollBar { width: 10 }
+            ScrollBar.vertical: ViewerScrollBar {}
             model: Viewer.cameras.names
             delegate: Row {
                 width: list.width - 14

@@ -112,7 +112,7 @@ ViewerDialog {
             Keys.onSpacePressed: if (currentItem) currentItem.clicked()
             Keys.onReturnPressed: if (currentItem) currentItem.enter()
             Keys.onEnterPressed: if (currentItem) currentItem.enter()
-            ScrollBar.vertical: ScrollBar { width: 12 }
+            ScrollBar.vertical: ViewerScrollBar {}
             delegate: ItemDelegate {
                 id: row
                 objectName: "file." + fileName
@@ -122,6 +122,7 @@ ViewerDialog {
                 focusPolicy: Qt.NoFocus
                 Accessible.name: fileName
                 Accessible.role: Accessible.ListItem
+                Accessible.description: fileIsDir ? qsTr("folder") : isChosen ? qsTr("chosen") : ""
                 onClicked: fileIsDir ? picker.folder = filePath
                                      : picker.toggle(filePath)
                 onDoubleClicked: if (!fileIsDir) enter()

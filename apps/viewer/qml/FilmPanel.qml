@@ -72,7 +72,7 @@ Popup {
                 width: parent.width - 2 * Theme.gap
                 spacing: 4
 
-                Slider {
+                ViewerSlider {
                     id: line
                     objectName: "filmLine"
                     width: parent.width

@@ -26,9 +26,8 @@ ViewerDialog {
             Keys.onUpPressed: list.contentY = Math.max(0, list.contentY - Theme.touch)
             Keys.onDownPressed: list.contentY = Math.max(0, Math.min(list.contentHeight - list.height,
                                                                      list.contentY + Theme.touch))
-            ScrollBar.vertical: ScrollBar {
+            ScrollBar.vertical: ViewerScrollBar {
                 policy: list.contentHeight > list.height ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
-                width: 10
             }
             Column {
                 id: column

@@ -16,8 +16,7 @@ AbstractButton {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     onPressed: if (!activeFocus) Viewer.focusStage()
-    Accessible.role: Accessible.RadioButton
-    Accessible.checked: chosen
+    Accessible.description: chosen ? qsTr("chosen") : ""
     ToolTip.text: text + "  (" + number + ")"
     ToolTip.visible: hovered && !down
     ToolTip.delay: 600

@@ -11,6 +11,7 @@ ViewerMenu {
     signal cameraRequested()
     signal displayRequested()
 
+    title: qsTr("Menu")
     width: 300
 
     ViewerMenu {

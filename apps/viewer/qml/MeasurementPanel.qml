@@ -22,7 +22,6 @@ Column {
             hint: text
             chosen: model.isChosen
             font.pixelSize: Theme.small
-            Accessible.role: Accessible.RadioButton
             onClicked: Viewer.measurements.choose(index)
         }
     }

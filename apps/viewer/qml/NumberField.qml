@@ -147,7 +147,7 @@ FocusScope {
             color: Theme.error
             font { family: Theme.family; pixelSize: Theme.small }
         }
-        Slider {
+        ViewerSlider {
             id: slider
             objectName: "slider." + root.name
             visible: root.hasSlider
@@ -158,7 +158,6 @@ FocusScope {
             stepSize: root.step
             snapMode: Slider.SnapAlways
             value: root.value
-            focusPolicy: Qt.TabFocus
             Accessible.name: root.label
             onMoved: root.fields.drag(root.index, value)
             onPressedChanged: {

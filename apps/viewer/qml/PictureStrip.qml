@@ -92,6 +92,7 @@ Rectangle {
         ViewerMenu {
             id: stateMenu
             objectName: "stripStateMenu"
+            title: qsTr("Pictures")
             y: -height - 4
             Repeater {
                 model: strip.stateNames
@@ -133,7 +134,7 @@ Rectangle {
         }
         Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
         Keys.onEscapePressed: Viewer.focusStage()
-        ScrollBar.horizontal: ScrollBar { height: 10 }
+        ScrollBar.horizontal: ViewerScrollBar {}
         delegate: PictureCard {
             objectName: "picture." + model.number
             width: 124

@@ -85,10 +85,9 @@ Rectangle {
         contentHeight: column.height + 2 * column.y
         boundsBehavior: Flickable.StopAtBounds
         visible: Viewer.documents.hasPicture
-        ScrollBar.vertical: ScrollBar {
+        ScrollBar.vertical: ViewerScrollBar {
             policy: controls.contentHeight > controls.height ? ScrollBar.AlwaysOn
                                                              : ScrollBar.AlwaysOff
-            width: 10
         }
         Column {
             id: column

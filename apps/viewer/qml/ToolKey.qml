@@ -23,7 +23,8 @@ Button {
     font.family: Theme.family
     font.pixelSize: Theme.normal
     Accessible.name: hint
-    Accessible.checked: chosen
+    // A control's own state, of which it knows nothing, goes before one that is attached to it.
+    Accessible.description: chosen ? qsTr("chosen") : ""
     // Whatever was typed into a field is committed before the button acts. One that loses the keys
     // while it is pressed does not act.
     onPressed: if (!activeFocus) Viewer.focusStage()

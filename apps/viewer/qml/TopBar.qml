@@ -34,6 +34,7 @@ Rectangle {
             action: bar.commands.save
         }
         ToolKey {
+            id: exportKey
             objectName: "exportKey"
             text: qsTr("Export")
             hint: qsTr("Save the picture with its overlay, the values, or a report")
@@ -42,6 +43,7 @@ Rectangle {
             ViewerMenu {
                 id: exportMenu
                 objectName: "exportMenu"
+                title: exportKey.text
                 y: parent.height + 4
                 width: 320
                 ViewerMenuItem {

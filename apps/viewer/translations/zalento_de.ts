@@ -1372,6 +1372,14 @@
         <source>File name</source>
         <translation>Dateiname</translation>
     </message>
+    <message>
+        <source>folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>gewählt</translation>
+    </message>
 </context>
 <context>
     <name>FilmPanel</name>
@@ -1535,6 +1543,13 @@
     </message>
 </context>
 <context>
+    <name>KindButton</name>
+    <message>
+        <source>chosen</source>
+        <translation>gewählt</translation>
+    </message>
+</context>
+<context>
     <name>KindPanel</name>
     <message>
         <source>Laser spots</source>
@@ -1628,6 +1643,10 @@
     <message>
         <source>Colours and units</source>
         <translation>Farben und Einheiten</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
     </message>
 </context>
 <context>
@@ -2497,6 +2516,21 @@
     <message>
         <source>frame %1 is too large</source>
         <translation>Bild %1 ist zu groß</translation>
+    </message>
+    <message>
+        <source>mm a pixel</source>
+        <translation>mm je Pixel</translation>
+    </message>
+    <message>
+        <source>U of a point, mm</source>
+        <translation>U eines Punkts, mm</translation>
+    </message>
+</context>
+<context>
+    <name>ToolKey</name>
+    <message>
+        <source>chosen</source>
+        <translation>gewählt</translation>
     </message>
 </context>
 <context>

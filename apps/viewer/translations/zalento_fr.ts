@@ -1372,6 +1372,14 @@
         <source>File name</source>
         <translation>Nom du fichier</translation>
     </message>
+    <message>
+        <source>folder</source>
+        <translation>dossier</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>choisi</translation>
+    </message>
 </context>
 <context>
     <name>FilmPanel</name>
@@ -1535,6 +1543,13 @@
     </message>
 </context>
 <context>
+    <name>KindButton</name>
+    <message>
+        <source>chosen</source>
+        <translation>choisi</translation>
+    </message>
+</context>
+<context>
     <name>KindPanel</name>
     <message>
         <source>Laser spots</source>
@@ -1628,6 +1643,10 @@
     <message>
         <source>Colours and units</source>
         <translation>Couleurs et unités</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
     </message>
 </context>
 <context>
@@ -2497,6 +2516,21 @@
     <message>
         <source>frame %1 is too large</source>
         <translation>l’image %1 est trop grande</translation>
+    </message>
+    <message>
+        <source>mm a pixel</source>
+        <translation>mm par pixel</translation>
+    </message>
+    <message>
+        <source>U of a point, mm</source>
+        <translation>U d&apos;un point, mm</translation>
+    </message>
+</context>
+<context>
+    <name>ToolKey</name>
+    <message>
+        <source>chosen</source>
+        <translation>choisi</translation>
     </message>
 </context>
 <context>

@@ -527,6 +527,14 @@ void TestViewer::isUsedWithoutEyesOrMouse()
                  qPrintable(item->objectName()));
     }
 
+    const auto described = [&d](const char *name) {
+        return QAccessible::queryAccessibleInterface(d.find(name))->text(QAccessible::Description);
+    };
+    QCOMPARE(described("kind.CrossSection") + described("kind.WaterLevel"), QString("chosen"));
+    const auto *depth =
+        QAccessible::queryAccessibleInterface(d.find("slider.percentage"))->valueInterface();
+    QVERIFY(depth->maximumValue().toDouble() > depth->currentValue().toDouble());
+
     const auto focused = [&d] { return d.window()->activeFocusItem()->objectName(); };
     d.key(Qt::Key_F6);
     QCOMPARE(focused(), QString("valueText"));
