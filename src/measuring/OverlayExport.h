@@ -29,7 +29,7 @@ ZALENTO_MEASURING_EXPORT QByteArray mapPng(const QImage &map, MapQuantity quanti
 /** What is painted over a picture. */
 struct PaintedOverlay
 {
-    ZaItem &item; ///< as it is shown
+    ZaItem &item;                          ///< as it is shown
     double scale = 1.0;                    ///< that the session was shown with
     const OtherOverlays *others = nullptr; ///< below the item's; may be null
 
