@@ -35,13 +35,17 @@ if(NOT ZALENTO_HOST_TARGET)
     FILES_MATCHING PATTERN "*.h")
 endif()
 
-# The QML module. Qt finds it where its own modules lie in a system prefix; elsewhere the folder
+# The QML modules. Qt finds them where its own modules lie in a system prefix; elsewhere the folder
 # goes into QML2_IMPORT_PATH.
 if(TARGET zalentoplugin)
   set(qml_module_dir "${CMAKE_INSTALL_LIBDIR}/qt${ZALENTO_QT}/qml/Drevon/Zalento")
   install_beside_libraries("${qml_module_dir}" zalentoplugin)
   install(FILES "${PROJECT_SOURCE_DIR}/qml/qmldir" "${PROJECT_SOURCE_DIR}/qml/plugins.qmltypes"
     DESTINATION "${qml_module_dir}")
+  install_beside_libraries("${qml_module_dir}/Measuring" zalentomeasuringplugin)
+  install(FILES
+    "${PROJECT_SOURCE_DIR}/qml/measuring/qmldir" "${PROJECT_SOURCE_DIR}/qml/measuring/plugins.qmltypes"
+    DESTINATION "${qml_module_dir}/Measuring")
 endif()
 
 if(ZALENTO_BUILD_APPS)

@@ -2525,6 +2525,14 @@
         <source>U of a point, mm</source>
         <translation>U eines Punkts, mm</translation>
     </message>
+    <message>
+        <source>expected one of %1, found &quot;%2&quot;</source>
+        <translation>eines von %1 erwartet, „%2“ gefunden</translation>
+    </message>
+    <message>
+        <source>%1 is not measured on object %2</source>
+        <translation>%1 wird nicht an Objekt %2 gemessen</translation>
+    </message>
 </context>
 <context>
     <name>ToolKey</name>

@@ -2525,6 +2525,14 @@
         <source>U of a point, mm</source>
         <translation>U d&apos;un point, mm</translation>
     </message>
+    <message>
+        <source>expected one of %1, found &quot;%2&quot;</source>
+        <translation>%1 attendus, « %2 » trouvé</translation>
+    </message>
+    <message>
+        <source>%1 is not measured on object %2</source>
+        <translation>%1 ne se mesure pas sur l’objet %2</translation>
+    </message>
 </context>
 <context>
     <name>ToolKey</name>

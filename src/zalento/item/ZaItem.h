@@ -112,6 +112,13 @@ public:
     /** As they are in use. */
     const ZASettings &settings() const { return m_settings; }
 
+    /** How far the model lies to the left, in gesture units. */
+    double modelOffset() const { return m_imageOffset.x; }
+    /** The model's roll in degrees. */
+    double rollDEG() const { return m_imageRotation.z; }
+    /** How far the pipe's far end lies to the left and down, in gesture units. */
+    Vec2 rearCircleOffset() const { return m_rearCircleOffset; }
+
     /** Puts a kind's object on view and has clicks measure its quantity. Sends no signal. */
     void setMeasureSettings(MeasureMentSettings measureSettings);
     /** The pipe object on view. */
