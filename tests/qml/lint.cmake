@@ -1,5 +1,5 @@
 # Every QML file of the tree passes qmllint.
-foreach(folder IN ITEMS qml apps tests docs)
+foreach(folder IN ITEMS qml apps examples tests docs)
   file(GLOB_RECURSE found "${SOURCE}/${folder}/*.qml")
   list(APPEND files ${found})
 endforeach()
