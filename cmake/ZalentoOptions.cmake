@@ -23,6 +23,8 @@ if(ZALENTO_QT EQUAL 6)
 endif()
 option(ZALENTO_INSTALL "Install the library, the QML module and the programs"
        ${PROJECT_IS_TOP_LEVEL})
+option(ZALENTO_EXPORT_INTERNALS
+       "Export what tests and benchmarks look at, beside what hosts use (ELF shared libraries)" ON)
 option(ZALENTO_ASSERTIONS "Check the standard library's preconditions at run time" OFF)
 set(ZALENTO_SANITIZE "" CACHE STRING "Sanitizers for -fsanitize=, comma separated")
 set(ZALENTO_HOST_TARGET "" CACHE STRING

@@ -24,3 +24,13 @@ function(zalento_target target)
     target_link_options(${target} PRIVATE -fsanitize=${ZALENTO_SANITIZE})
   endif()
 endfunction()
+
+# zalento_exports(<target>): a shared library exports what the exports.map beside it names.
+function(zalento_exports target)
+  if(ZALENTO_EXPORT_INTERNALS OR NOT BUILD_SHARED_LIBS)
+    return()
+  endif()
+  set(map "${CMAKE_CURRENT_SOURCE_DIR}/exports.map")
+  target_link_options(${target} PRIVATE "LINKER:--version-script=${map}")
+  set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${map}")
+endfunction()

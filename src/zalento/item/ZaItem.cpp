@@ -82,6 +82,8 @@ ZaItem::ZaItem(QQuickItem *parent)
     }
 }
 
+ZaItem::~ZaItem() = default;
+
 double &ZaItem::sharedMainPipeDiameter()
 {
     static double diameterMM = 300.0;

@@ -97,6 +97,8 @@ class ZALENTO_EXPORT ZaItem : public QQuickPaintedItem
 public:
     /** Takes the shared diameter, and that of the host's active record where there is one. */
     explicit ZaItem(QQuickItem *parent = nullptr);
+    // In the library: hosts need not know how the pipe objects are destroyed.
+    ~ZaItem() override;
 
     /** Diameter in mm of the main pipe, shared by all items of the process. GUI thread only. */
     static double &sharedMainPipeDiameter();
