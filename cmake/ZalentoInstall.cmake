@@ -9,7 +9,11 @@ function(install_beside_libraries folder)
   install(TARGETS ${ARGN} RUNTIME DESTINATION "${folder}" LIBRARY DESTINATION "${folder}")
 endfunction()
 
-set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Zalento")
+set(package Zalento)
+if(ZALENTO_QT EQUAL 6)
+  set(package ZalentoQt6)
+endif()
+set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/${package}")
 set(installed_targets zalento zalentomeasuring)
 if(NOT ZALENTO_HOST_TARGET)
   list(APPEND installed_targets drevonhost)
@@ -48,10 +52,31 @@ if(TARGET zalentoplugin)
     DESTINATION "${qml_module_dir}/Measuring")
 endif()
 
+# For pkg-config. A static library and one for a host of its own are CMake's alone: what they need
+# beside is not told in words.
+if(BUILD_SHARED_LIBS AND NOT ZALENTO_HOST_TARGET)
+  set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+  file(RELATIVE_PATH pc_to_prefix "/${pc_dir}" "/")
+  string(REGEX REPLACE "/$" "" pc_to_prefix "${pc_to_prefix}")
+  foreach(name IN ITEMS zalento zalento-measuring)
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/${name}.pc.in" "${PROJECT_BINARY_DIR}/${name}${zalento_suffix}.pc"
+      @ONLY)
+    install(FILES "${PROJECT_BINARY_DIR}/${name}${zalento_suffix}.pc" DESTINATION "${pc_dir}")
+  endforeach()
+endif()
+
 if(ZALENTO_BUILD_APPS)
   install_beside_libraries("${CMAKE_INSTALL_BINDIR}" zalento-measure zalento-viewer)
   install(FILES "${PROJECT_SOURCE_DIR}/apps/viewer/zalento-viewer.desktop"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+  install(FILES "${PROJECT_SOURCE_DIR}/apps/viewer/org.drevon.zalento_viewer.metainfo.xml"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
+  install(DIRECTORY "${PROJECT_SOURCE_DIR}/apps/viewer/icons/hicolor"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/icons")
+  install(FILES "${PROJECT_SOURCE_DIR}/apps/measure/completion/zalento-measure.bash"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME zalento-measure)
+  install(FILES "${PROJECT_SOURCE_DIR}/apps/measure/completion/_zalento-measure"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions")
   install(FILES
     "${PROJECT_SOURCE_DIR}/docs/man/zalento-measure.1"
     "${PROJECT_SOURCE_DIR}/docs/man/zalento-viewer.1"
@@ -61,12 +86,12 @@ endif()
 install(EXPORT ZalentoTargets NAMESPACE Zalento:: DESTINATION "${package_dir}")
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/ZalentoConfig.cmake.in"
-  "${PROJECT_BINARY_DIR}/ZalentoConfig.cmake" INSTALL_DESTINATION "${package_dir}")
-write_basic_package_version_file("${PROJECT_BINARY_DIR}/ZalentoConfigVersion.cmake"
+  "${PROJECT_BINARY_DIR}/${package}Config.cmake" INSTALL_DESTINATION "${package_dir}")
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake"
   COMPATIBILITY SameMajorVersion)
 install(FILES
   "${PROJECT_SOURCE_DIR}/cmake/FindFfmpegParts.cmake"
   "${PROJECT_SOURCE_DIR}/cmake/FindOpenCVParts.cmake"
-  "${PROJECT_BINARY_DIR}/ZalentoConfig.cmake"
-  "${PROJECT_BINARY_DIR}/ZalentoConfigVersion.cmake"
+  "${PROJECT_BINARY_DIR}/${package}Config.cmake"
+  "${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake"
   DESTINATION "${package_dir}")

@@ -21,6 +21,11 @@ set(ZALENTO_QT_VERSION 5.15)
 if(ZALENTO_QT EQUAL 6)
   set(ZALENTO_QT_VERSION 6.4)
 endif()
+# Behind the names of libraries and packages: those of both versions can be installed side by side.
+set(zalento_suffix "")
+if(ZALENTO_QT EQUAL 6)
+  set(zalento_suffix "-qt6")
+endif()
 option(ZALENTO_INSTALL "Install the library, the QML module and the programs"
        ${PROJECT_IS_TOP_LEVEL})
 option(ZALENTO_EXPORT_INTERNALS
@@ -38,4 +43,6 @@ if(PROJECT_IS_TOP_LEVEL)
   set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
   set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
   set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+  # The same bytes whatever the folder: the run paths of the build tree do not name it.
+  set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 endif()
