@@ -5,6 +5,7 @@
 #include <QCommandLineParser>
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QOpenGLContext>
 #include <QQuickWindow>
 
@@ -65,6 +66,8 @@ int main(int argc, char *argv[])
     QGuiApplication::setOrganizationName(QStringLiteral("Zalento"));
     QGuiApplication::setApplicationName(QStringLiteral("zalento-viewer"));
     QGuiApplication::setApplicationVersion(QStringLiteral(ZALENTO_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("zalento-viewer"));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zalento-viewer")));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
