@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <stdexcept>
 #include <utility>
 
@@ -60,20 +61,51 @@ double nominalSizeMM(int size, const QString &unit)
 
 } // namespace
 
+struct ZaItem::State
+{
+    template <typename Operation>
+    void forAllObjects(Operation operation)
+    {
+        operation(pipe);
+        operation(lateral);
+        operation(bend);
+        operation(joint);
+    }
+
+    ZASettings settings;
+    QRectF viewport; ///< the drawing area, in item coordinates
+    int viewObject = 0;
+    int viewStyle = 2;
+    int measureType = 0;
+    QString iWantToMeasure;
+    Pipe pipe;
+    PipeLateral lateral;
+    PipeBend bend;
+    PipeJoint joint;
+    bool useDistanceLasers = false;
+    bool isTwoHitpointList = false;
+    Vec3 imageRotation;    ///< x, y in touch units, refreshed on every paint; z the roll, degrees
+    Vec2 imageOffset;      ///< of the model, in gesture units
+    double imageScale = 1; ///< of the picture
+    Vec2 rearCircleOffset; ///< of the rear circle, in gesture units
+};
+
 ZaItem::ZaItem(QQuickItem *parent)
     : QQuickPaintedItem(parent)
+    , m_state(std::make_unique<State>())
 {
     setDiameter(sharedMainPipeDiameter());
     setCameraHeight(initialCameraHeightPercent);
-    m_settings.pipeDiameterMM = 100;
-    m_settings.fovYDEG = initialFovYDEG;
-    m_settings.fovYHeightMM = 100.0;
-    m_settings.fovYDistanceMM = 322.0;
+    m_state->settings.pipeDiameterMM = 100;
+    m_state->settings.fovYDEG = initialFovYDEG;
+    m_state->settings.fovYHeightMM = 100.0;
+    m_state->settings.fovYDistanceMM = 322.0;
     setFovDeg(initialFovYDEG);
 
-    connect(&m_pipe, &Pipe::hitPointListSizeChanged, this, &ZaItem::onHitPointListSizeChanged);
-    connect(&m_pipe, &Pipe::measure1Changed, this, &ZaItem::measure1Changed);
-    connect(&m_pipe, &Pipe::measure2Changed, this, &ZaItem::measure2Changed);
+    connect(&m_state->pipe, &Pipe::hitPointListSizeChanged, this,
+            &ZaItem::onHitPointListSizeChanged);
+    connect(&m_state->pipe, &Pipe::measure1Changed, this, &ZaItem::measure1Changed);
+    connect(&m_state->pipe, &Pipe::measure2Changed, this, &ZaItem::measure2Changed);
     connect(AppState::instance(), &AppState::activeStructureChanged, this,
             &ZaItem::onInspectionChanged);
     const auto structure = AppState::instance()->getActiveStructure();
@@ -90,13 +122,9 @@ double &ZaItem::sharedMainPipeDiameter()
     return diameterMM;
 }
 
-template <typename Operation>
-void ZaItem::forAllObjects(Operation operation)
+const ZASettings &ZaItem::settings() const
 {
-    operation(m_pipe);
-    operation(m_lateral);
-    operation(m_bend);
-    operation(m_joint);
+    return m_state->settings;
 }
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
@@ -115,21 +143,23 @@ void ZaItem::geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometr
 #endif
     const double width = newGeometry.width();
     const double height = newGeometry.height();
-    m_viewport = width > height ? QRectF((width - height) * 0.5, 0, height, height)
-                                : QRectF(0, (height - width) * 0.5, width, width);
-    forAllObjects([this](PipeBase &object) { object.camera.onResize(m_viewport); });
+    m_state->viewport = width > height ? QRectF((width - height) * 0.5, 0, height, height)
+                                       : QRectF(0, (height - width) * 0.5, width, width);
+    m_state->forAllObjects([this](PipeBase &object) { object.camera.onResize(m_state->viewport); });
 }
 
 void ZaItem::paint(QPainter *painter)
 {
     painter->setRenderHint(QPainter::Antialiasing);
-    const Vec3 requested(m_rearCircleOffset.x, m_rearCircleOffset.y, m_imageRotation.z);
-    const QPoint offset = truncatedPoint(m_imageOffset.x, m_imageOffset.y);
+    const Vec3 requested(m_state->rearCircleOffset.x, m_state->rearCircleOffset.y,
+                         m_state->imageRotation.z);
+    const QPoint offset = truncatedPoint(m_state->imageOffset.x, m_state->imageOffset.y);
     PipeBase &object = getCurrentViewObject();
     try {
-        m_imageRotation =
+        m_state->imageRotation =
             object.getNewImageRotationToKeepRearCircleInsideFrontCircle(offset, requested);
-        object.render(*painter, ViewStyle(m_viewStyle), m_settings, m_imageRotation, offset);
+        object.render(*painter, ViewStyle(m_state->viewStyle), m_state->settings,
+                      m_state->imageRotation, offset);
     } catch (const std::range_error &) {
         // A camera that cannot be placed, because it stands where it looks, sees nothing.
     }
@@ -137,103 +167,125 @@ void ZaItem::paint(QPainter *painter)
 
 PipeBase &ZaItem::getCurrentViewObject()
 {
-    switch (ViewObject(m_viewObject)) {
+    switch (ViewObject(m_state->viewObject)) {
     case ViewObject::Lateral:
-        return m_lateral;
+        return m_state->lateral;
     case ViewObject::Bend:
-        return m_bend;
+        return m_state->bend;
     case ViewObject::Joint:
-        return m_joint;
+        return m_state->joint;
     default:
-        return m_pipe;
+        return m_state->pipe;
     }
 }
 
 // Measurement kind
 
+QString ZaItem::iWantToMeasure() const
+{
+    return m_state->iWantToMeasure;
+}
+
 void ZaItem::setiWantToMeasure(QString kind)
 {
-    if (kind == m_iWantToMeasure) {
+    if (kind == m_state->iWantToMeasure) {
         return;
     }
-    m_iWantToMeasure = std::move(kind);
+    m_state->iWantToMeasure = std::move(kind);
     clearMeasurementPoints();
-    setMeasureSettings(measureMentSettingsOf(m_iWantToMeasure));
-    Q_EMIT iWantToMeasureChanged(m_iWantToMeasure);
+    setMeasureSettings(measureMentSettingsOf(m_state->iWantToMeasure));
+    Q_EMIT iWantToMeasureChanged(m_state->iWantToMeasure);
 }
 
 void ZaItem::setMeasureSettings(MeasureMentSettings measureSettings)
 {
-    m_viewObject = measureSettings.viewObject;
-    m_pipe.measureMode = MeasureMode(measureSettings.measureMode);
-    m_measureType = measureSettings.measureType;
+    m_state->viewObject = measureSettings.viewObject;
+    m_state->pipe.measureMode = MeasureMode(measureSettings.measureMode);
+    m_state->measureType = measureSettings.measureType;
     update();
+}
+
+int ZaItem::viewObject() const
+{
+    return m_state->viewObject;
 }
 
 void ZaItem::setViewMode(int viewObject)
 {
-    m_viewObject = viewObject;
+    m_state->viewObject = viewObject;
     update();
     Q_EMIT viewModeChanged(viewObject);
 }
 
+int ZaItem::viewStyle() const
+{
+    return m_state->viewStyle;
+}
+
 void ZaItem::setViewStyle(int viewStyle)
 {
-    m_viewStyle = viewStyle;
+    m_state->viewStyle = viewStyle;
     update();
     Q_EMIT viewStyleChanged(viewStyle);
 }
 
+int ZaItem::measureType() const
+{
+    return m_state->measureType;
+}
+
 void ZaItem::setMeasureType(int measureType)
 {
-    m_measureType = measureType;
+    m_state->measureType = measureType;
     update();
     Q_EMIT measureTypeChanged();
 }
 
 int ZaItem::measureUnit() const
 {
-    return static_cast<int>(m_settings.MeasureUnit);
+    return static_cast<int>(m_state->settings.MeasureUnit);
 }
 
 void ZaItem::setMeasureUnit(int measureUnit)
 {
-    m_settings.MeasureUnit = MeasureUnit(measureUnit);
+    m_state->settings.MeasureUnit = MeasureUnit(measureUnit);
     update();
     Q_EMIT measureUnitChanged();
 }
 
 void ZaItem::setSettings(const ZASettings &settings)
 {
-    const ZASettings before = m_settings;
-    m_settings = settings;
+    const ZASettings before = m_state->settings;
+    m_state->settings = settings;
     for (QColor ZASettings::*colour :
          {&ZASettings::colMeasures, &ZASettings::colCylinder1, &ZASettings::colCylinder2}) {
-        if (!(m_settings.*colour).isValid()) {
-            m_settings.*colour = before.*colour;
+        if (!(m_state->settings.*colour).isValid()) {
+            m_state->settings.*colour = before.*colour;
         }
     }
     update();
-    if (m_settings.MeasureUnit != before.MeasureUnit) {
+    if (m_state->settings.MeasureUnit != before.MeasureUnit) {
         Q_EMIT measureUnitChanged();
     }
 }
 
 double ZaItem::measure1() const
 {
-    return ViewObject(m_viewObject) == ViewObject::StraightPipe ? m_pipe.measure1 : 0.0;
+    return ViewObject(m_state->viewObject) == ViewObject::StraightPipe ? m_state->pipe.measure1
+                                                                       : 0.0;
 }
 
 double ZaItem::measure2() const
 {
-    return ViewObject(m_viewObject) == ViewObject::StraightPipe ? m_pipe.measure2 : 0.0;
+    return ViewObject(m_state->viewObject) == ViewObject::StraightPipe ? m_state->pipe.measure2
+                                                                       : 0.0;
 }
 
 // Diameter
 
 double ZaItem::diameter() const
 {
-    return m_pipe.diameterMM;
+    return m_state->pipe.diameterMM;
 }
 
 void ZaItem::setDiameter(double diameterMM)
@@ -242,7 +294,7 @@ void ZaItem::setDiameter(double diameterMM)
         return;
     }
     sharedMainPipeDiameter() = diameterMM;
-    forAllObjects([diameterMM](PipeBase &object) {
+    m_state->forAllObjects([diameterMM](PipeBase &object) {
         object.diameterMM = diameterMM;
         object.setDiameterM(diameterMM * mPerMM);
     });
@@ -270,9 +322,24 @@ void ZaItem::onInspectionChanged(QSharedPointer<Drevon::Database::CDomainObject>
 
 // Camera and model
 
+double ZaItem::modelOffset() const
+{
+    return m_state->imageOffset.x;
+}
+
+double ZaItem::rollDEG() const
+{
+    return m_state->imageRotation.z;
+}
+
+Vec2 ZaItem::rearCircleOffset() const
+{
+    return m_state->rearCircleOffset;
+}
+
 double ZaItem::cameraHeight() const
 {
-    return m_pipe.cameraHeight;
+    return m_state->pipe.cameraHeight;
 }
 
 void ZaItem::setCameraHeight(double percent)
@@ -280,11 +347,11 @@ void ZaItem::setCameraHeight(double percent)
     if (std::isnan(percent)) {
         return;
     }
-    if (m_pipe.rearCircleActive) {
-        m_rearCircleOffset.y = percent - centredPercent;
+    if (m_state->pipe.rearCircleActive) {
+        m_state->rearCircleOffset.y = percent - centredPercent;
     } else {
         const double fraction = std::clamp(percent * fractionPerPercent, 0.0, 1.0);
-        forAllObjects([fraction](PipeBase &object) { object.cameraHeight = fraction; });
+        m_state->forAllObjects([fraction](PipeBase &object) { object.cameraHeight = fraction; });
     }
     update();
     Q_EMIT cameraHeightChanged(percent);
@@ -292,53 +359,53 @@ void ZaItem::setCameraHeight(double percent)
 
 bool ZaItem::rearCircleActive() const
 {
-    return m_pipe.rearCircleActive;
+    return m_state->pipe.rearCircleActive;
 }
 
 void ZaItem::setRearCircleActive(bool active)
 {
-    forAllObjects([active](PipeBase &object) { object.rearCircleActive = active; });
+    m_state->forAllObjects([active](PipeBase &object) { object.rearCircleActive = active; });
     update();
     Q_EMIT rearCircleActiveChanged(active);
 }
 
 double ZaItem::getFovDeg()
 {
-    return m_pipe.camera.fovYDEG;
+    return m_state->pipe.camera.fovYDEG;
 }
 
 void ZaItem::setFovDeg(double s)
 {
-    if (s == m_pipe.camera.fovYDEG || s == 0.0 || std::isnan(s)) {
+    if (s == m_state->pipe.camera.fovYDEG || s == 0.0 || std::isnan(s)) {
         return;
     }
-    forAllObjects([s](PipeBase &object) { object.camera.setFovYDEG(s); });
+    m_state->forAllObjects([s](PipeBase &object) { object.camera.setFovYDEG(s); });
     update();
     Q_EMIT vertFovChanged(s);
 }
 
 bool ZaItem::viewDownstream() const
 {
-    return m_bend.getViewDownstream();
+    return m_state->bend.getViewDownstream();
 }
 
 void ZaItem::setViewDownstream(bool viewDownstream)
 {
-    if (viewDownstream == m_bend.getViewDownstream()) {
+    if (viewDownstream == m_state->bend.getViewDownstream()) {
         return;
     }
-    m_bend.setViewDownstream(viewDownstream);
+    m_state->bend.setViewDownstream(viewDownstream);
     Q_EMIT bendDownstreamChanged(viewDownstream);
     update();
 }
 
 double ZaItem::angle() const
 {
-    switch (ViewObject(m_viewObject)) {
+    switch (ViewObject(m_state->viewObject)) {
     case ViewObject::Lateral:
-        return m_lateral.getAngleDeg();
+        return m_state->lateral.getAngleDeg();
     case ViewObject::Bend:
-        return m_bend.angleDeg;
+        return m_state->bend.angleDeg;
     default:
         return 0.0;
     }
@@ -351,9 +418,9 @@ void ZaItem::setAngle(double angleDeg)
     }
     const double lateralDeg = std::clamp(angleDeg, smallestLateralDeg, largestLateralDeg);
     const double bendDeg = std::clamp(angleDeg, 0.0, largestBendDeg);
-    m_lateral.setAngleDeg(lateralDeg);
-    m_bend.setAngleDeg(bendDeg);
-    m_joint.setAngleDeg(bendDeg);
+    m_state->lateral.setAngleDeg(lateralDeg);
+    m_state->bend.setAngleDeg(bendDeg);
+    m_state->joint.setAngleDeg(bendDeg);
     Q_EMIT angleChanged(lateralDeg);
     update();
 }
@@ -361,15 +428,15 @@ void ZaItem::setAngle(double angleDeg)
 void ZaItem::setClock(int clockDeg)
 {
     const auto rotationDeg = static_cast<double>(clockDeg + clockZeroDeg);
-    m_lateral.clockDeg = rotationDeg;
-    m_bend.clockDeg = rotationDeg;
-    m_joint.clockDeg = rotationDeg;
+    m_state->lateral.clockDeg = rotationDeg;
+    m_state->bend.clockDeg = rotationDeg;
+    m_state->joint.clockDeg = rotationDeg;
     update();
 }
 
 double ZaItem::percentage() const
 {
-    return m_pipe.cylinder.waterLevelPercent;
+    return m_state->pipe.cylinder.waterLevelPercent;
 }
 
 void ZaItem::setPercentage(double percent)
@@ -378,13 +445,13 @@ void ZaItem::setPercentage(double percent)
         return;
     }
     const double fraction = percent * fractionPerPercent;
-    if (m_pipe.measureMode == MeasureMode::CrossSection) {
-        m_pipe.setCrossSectDistancePercent(fraction);
+    if (m_state->pipe.measureMode == MeasureMode::CrossSection) {
+        m_state->pipe.setCrossSectDistancePercent(fraction);
     } else {
-        m_pipe.setWaterLevelPercent(fraction);
+        m_state->pipe.setWaterLevelPercent(fraction);
     }
-    m_lateral.setLateralDiameterPercent(fraction);
-    m_joint.setOffsetZ_Percent(fraction);
+    m_state->lateral.setLateralDiameterPercent(fraction);
+    m_state->joint.setOffsetZ_Percent(fraction);
     Q_EMIT percentageChanged(percent);
     update();
 }
@@ -396,7 +463,7 @@ void ZaItem::move(double x, double /*y*/)
     if (!std::isfinite(x)) {
         return;
     }
-    (m_pipe.rearCircleActive ? m_rearCircleOffset : m_imageOffset).x = x;
+    (m_state->pipe.rearCircleActive ? m_state->rearCircleOffset : m_state->imageOffset).x = x;
     update();
 }
 
@@ -405,21 +472,21 @@ void ZaItem::rotate(double r)
     if (!std::isfinite(r)) {
         return;
     }
-    m_imageRotation.z = r;
+    m_state->imageRotation.z = r;
     update();
 }
 
 void ZaItem::moveScaleRotate(double x, double y, double s, double r)
 {
-    const Vec2 offset(m_imageOffset.x + x, m_imageOffset.y + y);
+    const Vec2 offset(m_state->imageOffset.x + x, m_state->imageOffset.y + y);
     // The offset accumulates: a step that is not a number would stay in it for good.
     if (!std::isfinite(offset.x) || !std::isfinite(offset.y) || !std::isfinite(s) ||
         !std::isfinite(r)) {
         return;
     }
-    m_imageOffset = offset;
-    m_imageRotation.z = r;
-    m_imageScale = s;
+    m_state->imageOffset = offset;
+    m_state->imageRotation.z = r;
+    m_state->imageScale = s;
     update();
 }
 
@@ -427,39 +494,54 @@ void ZaItem::moveScaleRotate(double x, double y, double s, double r)
 
 void ZaItem::mouseClick(double x, double y)
 {
-    if (ViewObject(m_viewObject) != ViewObject::StraightPipe || !std::isfinite(x) ||
+    if (ViewObject(m_state->viewObject) != ViewObject::StraightPipe || !std::isfinite(x) ||
         !std::isfinite(y)) {
         return;
     }
-    m_pipe.addMeasurePoint(calculatePos(x, y), m_imageScale, m_imageRotation);
+    m_state->pipe.addMeasurePoint(calculatePos(x, y), m_state->imageScale, m_state->imageRotation);
     update();
 }
 
 QPoint ZaItem::calculatePos(double x, double y) const
 {
-    return truncatedPoint(x - m_viewport.x(), y - m_viewport.y());
+    return truncatedPoint(x - m_state->viewport.x(), y - m_state->viewport.y());
+}
+
+bool ZaItem::isTwoHitpointList() const
+{
+    return m_state->isTwoHitpointList;
 }
 
 void ZaItem::onHitPointListSizeChanged(int size)
 {
     const bool isTwo = size == 2;
-    if (isTwo != m_isTwoHitpointList) {
-        m_isTwoHitpointList = isTwo;
+    if (isTwo != m_state->isTwoHitpointList) {
+        m_state->isTwoHitpointList = isTwo;
         Q_EMIT isTwoHitpointListChanged(isTwo);
     }
 }
 
 void ZaItem::clearMeasurementPoints()
 {
-    m_pipe.hitPoints.clear();
-    Q_EMIT m_pipe.hitPointListSizeChanged(0);
+    m_state->pipe.hitPoints.clear();
+    Q_EMIT m_state->pipe.hitPointListSizeChanged(0);
     update();
 }
 
 void ZaItem::undo()
 {
-    m_pipe.undoHitPointList();
+    m_state->pipe.undoHitPointList();
     update();
+}
+
+bool ZaItem::useDistanceLasers() const
+{
+    return m_state->useDistanceLasers;
+}
+
+void ZaItem::setUseDistanceLasers(bool use)
+{
+    m_state->useDistanceLasers = use;
 }
 
 void ZaItem::requestCameraCalibration(double mmPerPixel)
@@ -467,7 +549,7 @@ void ZaItem::requestCameraCalibration(double mmPerPixel)
     if (!std::isfinite(mmPerPixel)) {
         return;
     }
-    m_pipe.calibrateLaser(mmPerPixel);
+    m_state->pipe.calibrateLaser(mmPerPixel);
     update();
 }
 

@@ -18,6 +18,8 @@
 #include <QSharedPointer>
 #include <QString>
 
+#include <memory>
+
 namespace Drevon::Zalento {
 
 /**
@@ -97,7 +99,6 @@ class ZALENTO_EXPORT ZaItem : public QQuickPaintedItem
 public:
     /** Takes the shared diameter, and that of the host's active record where there is one. */
     explicit ZaItem(QQuickItem *parent = nullptr);
-    // In the library: hosts need not know how the pipe objects are destroyed.
     ~ZaItem() override;
 
     /** Diameter in mm of the main pipe, shared by all items of the process. GUI thread only. */
@@ -112,14 +113,14 @@ public:
      */
     void setSettings(const ZASettings &settings);
     /** As they are in use. */
-    const ZASettings &settings() const { return m_settings; }
+    const ZASettings &settings() const;
 
     /** How far the model lies to the left, in gesture units. */
-    double modelOffset() const { return m_imageOffset.x; }
+    double modelOffset() const;
     /** The model's roll in degrees. */
-    double rollDEG() const { return m_imageRotation.z; }
+    double rollDEG() const;
     /** How far the pipe's far end lies to the left and down, in gesture units. */
-    Vec2 rearCircleOffset() const { return m_rearCircleOffset; }
+    Vec2 rearCircleOffset() const;
 
     /** Puts a kind's object on view and has clicks measure its quantity. Sends no signal. */
     void setMeasureSettings(MeasureMentSettings measureSettings);
@@ -132,9 +133,9 @@ public:
 
     /** Reads or writes the property of this name, see there. */
     ///@{
-    bool isTwoHitpointList() const { return m_isTwoHitpointList; }
-    bool useDistanceLasers() const { return m_useDistanceLasers; }
-    void setUseDistanceLasers(bool use) { m_useDistanceLasers = use; }
+    bool isTwoHitpointList() const;
+    bool useDistanceLasers() const;
+    void setUseDistanceLasers(bool use);
     double diameter() const;
     void setDiameter(double diameterMM);
     double percentage() const;
@@ -147,15 +148,15 @@ public:
     void setAngle(double angleDeg);
     int clock() const { return 0; }
     void setClock(int clockDeg);
-    int viewObject() const { return m_viewObject; }
+    int viewObject() const;
     void setViewMode(int viewObject);
-    int viewStyle() const { return m_viewStyle; }
+    int viewStyle() const;
     void setViewStyle(int viewStyle);
-    int measureType() const { return m_measureType; }
+    int measureType() const;
     void setMeasureType(int measureType);
     int measureUnit() const;
     void setMeasureUnit(int measureUnit);
-    QString iWantToMeasure() const { return m_iWantToMeasure; }
+    QString iWantToMeasure() const;
     void setiWantToMeasure(QString kind);
     double measure1() const;
     double measure2() const;
@@ -229,25 +230,9 @@ public:
 #endif
 
 private:
-    template <typename Operation>
-    void forAllObjects(Operation operation);
-
-    ZASettings m_settings;
-    QRectF m_viewport;
-    int m_viewObject = 0;
-    int m_viewStyle = 2;
-    int m_measureType = 0;
-    QString m_iWantToMeasure;
-    Pipe m_pipe;
-    PipeLateral m_lateral;
-    PipeBend m_bend;
-    PipeJoint m_joint;
-    bool m_useDistanceLasers = false;
-    bool m_isTwoHitpointList = false;
-    Vec3 m_imageRotation;    ///< x, y in touch units, refreshed on every paint; z the roll, degrees
-    Vec2 m_imageOffset;      ///< of the model, in gesture units
-    double m_imageScale = 1; ///< of the picture
-    Vec2 m_rearCircleOffset; ///< of the rear circle, in gesture units
+    // Behind a pointer: it can change and hosts that were built before still fit.
+    struct State;
+    std::unique_ptr<State> m_state;
 };
 
 } // namespace Drevon::Zalento
