@@ -1,7 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
-import Drevon.Zalento 1.0
-import Drevon.Zalento.Measuring 1.0
+import Inspector 1.0
 
 ApplicationWindow {
     id: window

@@ -66,8 +66,8 @@ int main(int argc, char *argv[])
     Inspection::setNominalSize(options.nominalSizeMM);
     Inspection inspection(picture->identity);
 
-    Drevon::Zalento::registerTypes("Drevon.Zalento");
-    Drevon::Zalento::Measuring::registerMeasuringTypes("Drevon.Zalento.Measuring");
+    Drevon::Zalento::registerTypes("Inspector");
+    Drevon::Zalento::Measuring::registerMeasuringTypes("Inspector");
     QQmlApplicationEngine engine;
     engine.setInitialProperties({{"inspection", QVariant::fromValue(&inspection)}});
     engine.load(QUrl("qrc:/Main.qml"));
