@@ -25,11 +25,12 @@ install(TARGETS ${installed_targets} EXPORT ZalentoTargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 # Headers that only our own sources include stay at home.
-set(internal_headers CLocale.h CompletePicture.h Count.h FilmDecoder.h FitCamera.h FitDrawing.h FitOutliers.h FitPlan.h
-  FitProblem.h FitStart.h MarkerPens.h MatchedCurve.h MeasuringModel.h ModelPlace.h
+set(internal_headers
+  CLocale.h CompletePicture.h Count.h FilmDecoder.h FitCamera.h FitDrawing.h FitOutliers.h
+  FitPlan.h FitProblem.h FitStart.h MarkerPens.h MatchedCurve.h MeasuringModel.h ModelPlace.h
   ModelViewScope.h PainterPens.h PictureEdges.h ReportDocument.h ReportPages.h ReportPicture.h
-  ReportSection.h ReportText.h RingSearch.h UncertaintyFactors.h clearVectorRegisters.h roundStep.h
-  squaredDistance.h truncatedRect.h)
+  ReportSection.h ReportText.h RingSearch.h UncertaintyFactors.h clearVectorRegisters.h
+  roundStep.h squaredDistance.h truncatedRect.h)
 list(TRANSFORM internal_headers REPLACE "(.+)" "PATTERN;\\1;EXCLUDE")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/zalento" "${PROJECT_SOURCE_DIR}/src/measuring"
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
@@ -43,12 +44,13 @@ endif()
 # goes into QML2_IMPORT_PATH.
 if(TARGET zalentoplugin)
   set(qml_module_dir "${CMAKE_INSTALL_LIBDIR}/qt${ZALENTO_QT}/qml/Drevon/Zalento")
+  set(qml_built_dir "${PROJECT_BINARY_DIR}/qml/Drevon/Zalento")
   install_beside_libraries("${qml_module_dir}" zalentoplugin)
-  install(FILES "${PROJECT_SOURCE_DIR}/qml/qmldir" "${PROJECT_SOURCE_DIR}/qml/plugins.qmltypes"
+  install(FILES "${qml_built_dir}/qmldir" "${qml_built_dir}/plugins.qmltypes"
     DESTINATION "${qml_module_dir}")
   install_beside_libraries("${qml_module_dir}/Measuring" zalentomeasuringplugin)
   install(FILES
-    "${PROJECT_SOURCE_DIR}/qml/measuring/qmldir" "${PROJECT_SOURCE_DIR}/qml/measuring/plugins.qmltypes"
+    "${qml_built_dir}/Measuring/qmldir" "${qml_built_dir}/Measuring/plugins.qmltypes"
     DESTINATION "${qml_module_dir}/Measuring")
 endif()
 

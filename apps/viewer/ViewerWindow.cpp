@@ -1,12 +1,8 @@
 #include "ViewerWindow.h"
 
-#include "FileOrder.h"
 #include "Language.h"
-#include "OverlayView.h"
-#include "PictureFilter.h"
 #include "PictureProvider.h"
-#include "StageView.h"
-#include "Viewer.h"
+#include "ViewerTypes.h"
 
 #include <zalento/item/registerTypes.h>
 
@@ -59,27 +55,12 @@ void prepareScene()
     constexpr char module[] = "Drevon.Zalento.Viewer";
     registerTypes("Drevon.Zalento");
     qmlRegisterAnonymousType<QAbstractItemModel>(module, 1); // of FileOrder's source
-    qmlRegisterType<FileOrder>(module, 1, 0, "FileOrder");
-    qmlRegisterType<PictureFilter>(module, 1, 0, "PictureFilter");
-    qmlRegisterType<OverlayView>(module, 1, 0, "OverlayView");
-    qmlRegisterType<StageView>(module, 1, 0, "StageView");
+    qmlRegisterTypesAndRevisions<
+        FileOrderType, PictureFilterType, OverlayViewType, StageViewType, PreferencesType,
+        GuidanceType, DocumentListType, MeasurementEditorType, MeasurementModelType, AssessmentType,
+        FilmBrowserType, FlatWallType, FeatureModelType, PointModelType, KindModelType,
+        FieldModelType, CameraProfilesType, ExporterType, PipeRecordsType>(module, 1);
     qmlRegisterSingletonType<Viewer>(module, 1, 0, "Viewer", viewerOf);
-    const QString reason = QStringLiteral("it is a part of Viewer");
-    qmlRegisterUncreatableType<Preferences>(module, 1, 0, "Preferences", reason);
-    qmlRegisterUncreatableType<Guidance>(module, 1, 0, "Guidance", reason);
-    qmlRegisterUncreatableType<DocumentList>(module, 1, 0, "DocumentList", reason);
-    qmlRegisterUncreatableType<MeasurementEditor>(module, 1, 0, "MeasurementEditor", reason);
-    qmlRegisterUncreatableType<MeasurementModel>(module, 1, 0, "MeasurementModel", reason);
-    qmlRegisterUncreatableType<Assessment>(module, 1, 0, "Assessment", reason);
-    qmlRegisterUncreatableType<FilmBrowser>(module, 1, 0, "FilmBrowser", reason);
-    qmlRegisterUncreatableType<FlatWall>(module, 1, 0, "FlatWall", reason);
-    qmlRegisterUncreatableType<FeatureModel>(module, 1, 0, "FeatureModel", reason);
-    qmlRegisterUncreatableType<PointModel>(module, 1, 0, "PointModel", reason);
-    qmlRegisterUncreatableType<KindModel>(module, 1, 0, "KindModel", reason);
-    qmlRegisterUncreatableType<FieldModel>(module, 1, 0, "FieldModel", reason);
-    qmlRegisterUncreatableType<CameraProfiles>(module, 1, 0, "CameraProfiles", reason);
-    qmlRegisterUncreatableType<Exporter>(module, 1, 0, "Exporter", reason);
-    qmlRegisterUncreatableType<PipeRecords>(module, 1, 0, "PipeRecords", reason);
 }
 
 } // namespace

@@ -8,7 +8,7 @@ ZaItem {
     iWantToMeasure: "CrossSection"
     percentage: 30 // of the modelled length; read back it is the water level's fraction
 
-    TapHandler { onTapped: overlay.mouseClick(eventPoint.position.x, eventPoint.position.y) }
+    TapHandler { onTapped: eventPoint => overlay.mouseClick(eventPoint.position.x, eventPoint.position.y) }
     Text {
         color: "white"
         style: Text.Outline

@@ -3,6 +3,8 @@ import QtQuick 2.15
 // Where a joint or a line was clicked, with a whisker to the curve that was fitted: how far the click
 // lies off, enlarged.
 Item {
+    id: place
+
     property point residual
     property bool isSuspicious: false
     property bool isSelected: false
@@ -25,12 +27,13 @@ Item {
     Repeater {
         model: [45, 135]
         Rectangle {
+            required property int modelData
             x: -width / 2
             y: -height / 2
-            width: parent.isSuspicious || parent.isSelected ? 22 : 16
+            width: place.isSuspicious || place.isSelected ? 22 : 16
             height: 3
             rotation: modelData
-            color: parent.mark
+            color: place.mark
             border { width: 1; color: "#a0000000" }
         }
     }

@@ -19,6 +19,7 @@ Item {
         Repeater {
             model: bar.rows
             Rectangle {
+                required property var modelData
                 width: bar.width * modelData.share
                 height: 10
                 color: Theme.sources[modelData.source]

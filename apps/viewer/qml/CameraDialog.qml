@@ -89,24 +89,26 @@ ViewerDialog {
             ScrollBar.vertical: ViewerScrollBar {}
             model: Viewer.cameras.names
             delegate: Row {
+                id: camera
+                required property string modelData
                 width: list.width - 14
                 spacing: 6
                 ToolKey {
                     width: parent.width - removeKey.width - 6
-                    text: modelData
-                    hint: Viewer.cameras.hasLens(modelData)
-                          ? qsTr("Take the lens of %1").arg(modelData)
-                          : qsTr("Take the field of view of %1").arg(modelData)
+                    text: camera.modelData
+                    hint: Viewer.cameras.hasLens(camera.modelData)
+                          ? qsTr("Take the lens of %1").arg(camera.modelData)
+                          : qsTr("Take the field of view of %1").arg(camera.modelData)
                     onClicked: {
-                        Viewer.cameras.apply(modelData)
+                        Viewer.cameras.apply(camera.modelData)
                         dialog.close()
                     }
                 }
                 ToolKey {
                     id: removeKey
                     text: "✕"
-                    hint: qsTr("Forget %1").arg(modelData)
-                    onClicked: Viewer.cameras.remove(modelData)
+                    hint: qsTr("Forget %1").arg(camera.modelData)
+                    onClicked: Viewer.cameras.remove(camera.modelData)
                 }
             }
         }

@@ -32,6 +32,8 @@ Grid {
         Repeater {
             model: choice.choices
             ToolKey {
+                required property string modelData
+                required property int index
                 width: choice.keyWidth
                 text: modelData
                 hint: choice.label + " " + modelData

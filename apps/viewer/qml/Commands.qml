@@ -285,7 +285,9 @@ Item {
         id: kindCommands
         model: Viewer.kinds
         Command {
-            text: model.title
+            required property string title
+            required property int index
+            text: title
             shortcut: String(index + 1)
             onTriggered: Viewer.editor.chooseKindAt(index)
         }
@@ -293,6 +295,7 @@ Item {
     Instantiator {
         model: commands.all.filter(command => command.otherKeys.length > 0)
         Shortcut {
+            required property var modelData
             sequences: modelData.otherKeys
             enabled: modelData.enabled
             onActivated: modelData.trigger()

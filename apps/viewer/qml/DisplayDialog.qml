@@ -30,6 +30,7 @@ ViewerDialog {
                         ["joinedColour", qsTr("Branch and bend")]]
                 Column {
                     id: part
+                    required property var modelData
                     readonly property string field: modelData[0]
                     readonly property string label: modelData[1]
                     width: parent.width
@@ -45,6 +46,7 @@ ViewerDialog {
                             model: dialog.colours
                             ToolKey {
                                 id: key
+                                required property var modelData
                                 objectName: part.field + "." + modelData[0]
                                 width: Theme.touch
                                 text: chosen ? "✔" : ""
@@ -53,7 +55,7 @@ ViewerDialog {
                                 onClicked: Viewer.preferences[part.field] = modelData[0]
                                 background: Rectangle {
                                     radius: Theme.radius
-                                    color: key.down ? Qt.darker(modelData[0], 1.2) : modelData[0]
+                                    color: key.down ? Qt.darker(key.modelData[0], 1.2) : key.modelData[0]
                                     border.width: key.visualFocus ? 3 : 0
                                     border.color: Theme.text
                                 }

@@ -63,6 +63,16 @@ ViewerDialog {
         close()
         run(isSaving ? [target] : chosen)
     }
+    function enter(item) {
+        const row = item as FileRow
+        if (row.fileIsDir || isSaving) {
+            row.clicked()
+            return
+        }
+        if (!row.isChosen)
+            chosen = [row.filePath]
+        finish()
+    }
 
     FileOrder {
         id: list
@@ -109,46 +119,18 @@ ViewerDialog {
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Files")
             onActiveFocusChanged: if (activeFocus && currentIndex < 0) currentIndex = 0
-            Keys.onSpacePressed: if (currentItem) currentItem.clicked()
-            Keys.onReturnPressed: if (currentItem) currentItem.enter()
-            Keys.onEnterPressed: if (currentItem) currentItem.enter()
+            Keys.onSpacePressed: if (currentItem) (currentItem as FileRow).clicked()
+            Keys.onReturnPressed: if (currentItem) picker.enter(currentItem)
+            Keys.onEnterPressed: if (currentItem) picker.enter(currentItem)
             ScrollBar.vertical: ViewerScrollBar {}
-            delegate: ItemDelegate {
-                id: row
+            delegate: FileRow {
                 objectName: "file." + fileName
-                readonly property bool isChosen: picker.chosen.includes(filePath)
                 width: rows.width - 14
-                height: Theme.touch
-                focusPolicy: Qt.NoFocus
-                Accessible.name: fileName
-                Accessible.role: Accessible.ListItem
-                Accessible.description: fileIsDir ? qsTr("folder") : isChosen ? qsTr("chosen") : ""
+                isChosen: picker.chosen.includes(filePath)
+                isAimedAt: rows.activeFocus && ListView.isCurrentItem
                 onClicked: fileIsDir ? picker.folder = filePath
                                      : picker.toggle(filePath)
-                onDoubleClicked: if (!fileIsDir) enter()
-
-                function enter() {
-                    if (fileIsDir || picker.isSaving) {
-                        clicked()
-                        return
-                    }
-                    if (!isChosen)
-                        picker.chosen = [filePath]
-                    picker.finish()
-                }
-                contentItem: Text {
-                    text: (fileIsDir ? "▸  " : row.isChosen ? "✔  " : "    ") + fileName
-                    verticalAlignment: Text.AlignVCenter
-                    elide: Text.ElideMiddle
-                    color: row.isChosen ? Theme.accent : Theme.text
-                    font { family: Theme.family; pixelSize: Theme.normal; bold: fileIsDir }
-                }
-                background: Rectangle {
-                    radius: Theme.radius
-                    color: row.isChosen || row.hovered ? Theme.control : "transparent"
-                    border.width: rows.activeFocus && row.ListView.isCurrentItem ? 2 : 0
-                    border.color: Theme.text
-                }
+                onDoubleClicked: if (!fileIsDir) picker.enter(this)
             }
             Text {
                 anchors.centerIn: parent

@@ -99,6 +99,7 @@ Popup {
                                 [1, "›", qsTr("The next frame")],
                                 [panel.longStep, "»", qsTr("Forward by %1 frames").arg(panel.longStep)]]
                         ToolKey {
+                            required property var modelData
                             objectName: "filmStep." + modelData[0]
                             width: Theme.touch
                             font.pixelSize: 26

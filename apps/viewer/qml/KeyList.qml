@@ -44,6 +44,8 @@ ViewerDialog {
                     Repeater {
                         model: dialog.rows
                         Row {
+                            id: row
+                            required property var modelData
                             height: Math.max(26, what.height)
                             spacing: 10
                             Accessible.role: Accessible.StaticText
@@ -52,7 +54,7 @@ ViewerDialog {
                                 id: keys
                                 width: 164
                                 anchors.verticalCenter: parent.verticalCenter
-                                text: modelData[0]
+                                text: row.modelData[0]
                                 color: Theme.accent
                                 font { family: Theme.family; pixelSize: Theme.small; bold: true }
                             }
@@ -62,7 +64,7 @@ ViewerDialog {
                                        - keys.width - 10
                                 anchors.verticalCenter: parent.verticalCenter
                                 wrapMode: Text.WordWrap
-                                text: modelData[1]
+                                text: row.modelData[1]
                                 color: Theme.text
                                 font { family: Theme.family; pixelSize: Theme.small }
                             }

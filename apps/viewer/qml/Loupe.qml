@@ -42,6 +42,7 @@ Rectangle {
     Repeater {
         model: [[0.5, 0.36, 2, 0.2], [0.5, 0.64, 2, 0.2], [0.36, 0.5, 0.2, 2], [0.64, 0.5, 0.2, 2]]
         Rectangle {
+            required property var modelData
             width: modelData[2] < 1 ? loupe.width * modelData[2] : 2
             height: modelData[3] < 1 ? loupe.height * modelData[3] : 2
             x: loupe.width * modelData[0] - width / 2

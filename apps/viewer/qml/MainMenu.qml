@@ -21,6 +21,7 @@ ViewerMenu {
         Repeater {
             model: Viewer.preferences.recentFiles
             ViewerMenuItem {
+                required property string modelData
                 text: modelData
                 onTriggered: Viewer.documents.openPaths([modelData])
             }
@@ -56,6 +57,7 @@ ViewerMenu {
             model: [["", qsTr("As the system's")], ["en", "English"], ["de", "Deutsch"],
                     ["fr", "Français"]]
             ViewerMenuItem {
+                required property var modelData
                 objectName: "language." + modelData[0]
                 text: modelData[1]
                 checkable: true

@@ -22,15 +22,17 @@ Rectangle {
         Repeater {
             model: Viewer.assessment.mapLegend
             Row {
+                id: step
+                required property var modelData
                 spacing: 8
                 Rectangle {
                     width: 26
                     height: 16
-                    color: modelData.colour
+                    color: step.modelData.colour
                     border { width: 1; color: Theme.line }
                 }
                 Text {
-                    text: modelData.text
+                    text: step.modelData.text
                     color: Theme.text
                     font { family: Theme.family; pixelSize: Theme.small }
                 }

@@ -15,12 +15,16 @@ Column {
         model: Viewer.measurements
         ToolKey {
             id: row
+            required property int index
+            required property string name
+            required property string value
+            required property bool isChosen
             objectName: "measurement." + index
             visible: panel.areSeveral
             width: panel.width
-            text: model.value ? model.name + ": " + model.value : model.name
+            text: value ? name + ": " + value : name
             hint: text
-            chosen: model.isChosen
+            chosen: isChosen
             font.pixelSize: Theme.small
             onClicked: Viewer.measurements.choose(index)
         }

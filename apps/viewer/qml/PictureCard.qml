@@ -1,30 +1,35 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 
-// One picture of many: a small image with its number, name and marks. The list's model has the roles
-// that are used here.
+// One picture of many: a small image with its number, name and marks.
 ItemDelegate {
     id: card
 
+    required property int number
+    required property string name
+    required property string problem
+    required property bool isModified
+    required property bool isMeasured
+    required property string thumbnail
     property bool isOnView: false
     // The keys would choose it.
     property bool isAimedAt: false
 
     // [character, colour, words]
     readonly property var marks: [
-        model.problem ? ["!", Theme.error, qsTr("trouble")] : null,
-        model.isModified ? ["•", Theme.warning, qsTr("not saved")] : null,
-        model.isMeasured ? ["✔", Theme.accent, qsTr("measured")] : null
+        problem ? ["!", Theme.error, qsTr("trouble")] : null,
+        isModified ? ["•", Theme.warning, qsTr("not saved")] : null,
+        isMeasured ? ["✔", Theme.accent, qsTr("measured")] : null
     ].filter(mark => mark)
 
     padding: 0
     focusPolicy: Qt.NoFocus
     Accessible.role: Accessible.ListItem
-    Accessible.name: [model.number + ": " + model.name].concat(marks.map(mark => mark[2])).join(", ")
-    Accessible.description: model.problem
+    Accessible.name: [number + ": " + name].concat(marks.map(mark => mark[2])).join(", ")
+    Accessible.description: problem
     Accessible.selected: isOnView
     Accessible.onPressAction: clicked()
-    ToolTip.text: model.problem ? model.name + "\n" + model.problem : model.name
+    ToolTip.text: problem ? name + "\n" + problem : name
     ToolTip.visible: hovered && !down
     ToolTip.delay: 600
 
@@ -37,18 +42,18 @@ ItemDelegate {
     contentItem: Item {
         Image {
             id: image
-            anchors { fill: parent; margins: 3; bottomMargin: name.height + 2 }
+            anchors { fill: parent; margins: 3; bottomMargin: caption.height + 2 }
             fillMode: Image.PreserveAspectFit
-            source: model.thumbnail
+            source: card.thumbnail
             asynchronous: true
             cache: false // they are kept where they are made
         }
         Text {
-            id: name
+            id: caption
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: 4 }
             horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideMiddle
-            text: model.name
+            text: card.name
             color: Theme.text
             font { family: Theme.family; pixelSize: 12 }
         }
@@ -60,7 +65,7 @@ ItemDelegate {
             Text {
                 id: numberText
                 anchors.centerIn: parent
-                text: model.number
+                text: card.number
                 color: Theme.quiet
                 font { family: Theme.family; pixelSize: 12 }
             }
@@ -71,6 +76,8 @@ ItemDelegate {
             Repeater {
                 model: card.marks
                 Rectangle {
+                    id: mark
+                    required property var modelData
                     width: 18
                     height: 18
                     radius: 9
@@ -78,8 +85,8 @@ ItemDelegate {
                     border { width: 1; color: modelData[1] }
                     Text {
                         anchors.centerIn: parent
-                        text: modelData[0]
-                        color: modelData[1]
+                        text: mark.modelData[0]
+                        color: mark.modelData[1]
                         font { family: Theme.family; pixelSize: 12; bold: true }
                     }
                 }

@@ -146,8 +146,10 @@ FocusScope {
     Repeater {
         model: Viewer.editor.points
         PointHandle {
-            x: model.pixel.x * stageView.scale + stageView.offset.x
-            y: model.pixel.y * stageView.scale + stageView.offset.y
+            required property point pixel
+            required property int index
+            x: pixel.x * stageView.scale + stageView.offset.x
+            y: pixel.y * stageView.scale + stageView.offset.y
             visible: !stage.isOverlayHidden
             isSelected: index === Viewer.editor.selectedPoint
             number: index + 1
@@ -157,6 +159,7 @@ FocusScope {
     Repeater {
         model: Viewer.assessment.ellipse
         Rectangle {
+            required property point modelData
             x: modelData.x * stageView.scale + stageView.offset.x - 1
             y: modelData.y * stageView.scale + stageView.offset.y - 1
             width: 3
@@ -171,6 +174,7 @@ FocusScope {
         model: Viewer.editor.tool > 0 ? [] : Viewer.editor.closingEdge
         Rectangle {
             objectName: "closingDot"
+            required property point modelData
             readonly property int size: stage.closesNow ? 5 : 3
             x: modelData.x * stageView.scale + stageView.offset.x - size / 2
             y: modelData.y * stageView.scale + stageView.offset.y - size / 2
@@ -192,6 +196,7 @@ FocusScope {
     Repeater {
         model: Viewer.editor.alignmentMarks
         AlignmentMark {
+            required property var modelData
             x: modelData.pixel.x * stageView.scale + stageView.offset.x
             y: modelData.pixel.y * stageView.scale + stageView.offset.y
             visible: !stage.isOverlayHidden
@@ -204,6 +209,7 @@ FocusScope {
     Repeater {
         model: Viewer.editor.laserSpots
         PointHandle {
+            required property point modelData
             x: modelData.x * stageView.scale + stageView.offset.x
             y: modelData.y * stageView.scale + stageView.offset.y
             isSelected: true
@@ -307,6 +313,7 @@ FocusScope {
         Repeater {
             model: [[25, 2], [2, 25]]
             Rectangle {
+                required property var modelData
                 x: -width / 2
                 y: -height / 2
                 width: modelData[0] + 4

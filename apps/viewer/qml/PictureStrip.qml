@@ -63,6 +63,10 @@ Rectangle {
         color: list.count > 0 ? Theme.text : Theme.warning
         font { family: Theme.family; pixelSize: Theme.small }
         Accessible.name: qsTr("Go to a picture: its number, or a part of its name")
+        function press() {
+            if (list.currentItem)
+                (list.currentItem as PictureCard).clicked()
+        }
         Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
         Keys.onEscapePressed: {
             text = ""
@@ -97,6 +101,8 @@ Rectangle {
             Repeater {
                 model: strip.stateNames
                 ViewerMenuItem {
+                    required property string modelData
+                    required property int index
                     objectName: "stripState." + index
                     text: modelData
                     checkable: true
@@ -121,9 +127,9 @@ Rectangle {
         highlightMoveDuration: 0
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Pictures")
-        Keys.onSpacePressed: if (currentItem) currentItem.clicked()
-        Keys.onReturnPressed: if (currentItem) currentItem.clicked()
-        Keys.onEnterPressed: if (currentItem) currentItem.clicked()
+        Keys.onSpacePressed: list.press()
+        Keys.onReturnPressed: list.press()
+        Keys.onEnterPressed: list.press()
         Keys.onPressed: event => {
             const ends = {}
             ends[Qt.Key_Home] = 0
@@ -132,16 +138,20 @@ Rectangle {
             if (event.accepted)
                 currentIndex = ends[event.key]
         }
+        function press() {
+            if (list.currentItem)
+                (list.currentItem as PictureCard).clicked()
+        }
         Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_Escape
         Keys.onEscapePressed: Viewer.focusStage()
         ScrollBar.horizontal: ViewerScrollBar {}
         delegate: PictureCard {
-            objectName: "picture." + model.number
+            objectName: "picture." + number
             width: 124
             height: list.height
-            isOnView: model.number === Viewer.documents.currentIndex + 1
+            isOnView: number === Viewer.documents.currentIndex + 1
             isAimedAt: list.activeFocus && ListView.isCurrentItem
-            onClicked: strip.show(model.number - 1)
+            onClicked: strip.show(number - 1)
         }
         Text {
             anchors.centerIn: parent

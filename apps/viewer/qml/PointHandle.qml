@@ -2,12 +2,14 @@ import QtQuick 2.15
 
 // Marks a measurement point on the stage; the stage itself hears the pointer.
 Item {
+    id: handle
+
     property bool isSelected: false
     property int number: 0
     property color mark: Theme.accent
 
     Rectangle {
-        readonly property int size: parent.isSelected ? 26 : 18
+        readonly property int size: handle.isSelected ? 26 : 18
         x: -size / 2
         y: -size / 2
         width: size
@@ -21,7 +23,7 @@ Item {
             color: "transparent"
             border {
                 width: 2
-                color: parent.parent.isSelected ? parent.parent.mark : Theme.text
+                color: handle.isSelected ? handle.mark : Theme.text
             }
         }
     }

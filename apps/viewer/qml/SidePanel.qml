@@ -52,17 +52,20 @@ Rectangle {
         Repeater {
             model: Viewer.kinds
             KindButton {
-                objectName: "kind." + model.name
+                required property string name
+                required property string title
+                required property int index
+                objectName: "kind." + name
                 width: (panel.columnWidth - 2 * Theme.gap - 6 * (kinds.columns - 1)) / kinds.columns
                 isCompact: panel.isLow
                 height: panel.isLow ? 48 : 54
-                kind: model.name
+                kind: name
                 number: index + 1
-                text: model.title
+                text: title
                 enabled: Viewer.documents.hasPicture
                 opacity: enabled ? 1 : 0.5
-                chosen: Viewer.documents.hasPicture && Viewer.editor.kind === model.name
-                onClicked: Viewer.editor.chooseKind(model.name)
+                chosen: Viewer.documents.hasPicture && Viewer.editor.kind === name
+                onClicked: Viewer.editor.chooseKind(name)
             }
         }
     }

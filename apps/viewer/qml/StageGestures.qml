@@ -52,6 +52,8 @@ Item {
     readonly property int angleDeltaPerNotch: 120
 
     property bool isAiming: false
+    // A finger that lifts from a pinch was never pressed alone: Qt 6 would wait for it as for a tap.
+    property bool isPinched: false
     // Nothing comes of what is still pressed.
     property bool isGivenUp: false
 
@@ -135,6 +137,7 @@ Item {
         dragThreshold: gestures.mouseSlack
     }
     Press {
+        enabled: !gestures.isPinched
         isTouch: true
         acceptedDevices: PointerDevice.TouchScreen
         dragThreshold: gestures.fingerSlack
@@ -181,6 +184,7 @@ Item {
     function beginPinch() {
         pinch.lastMiddle = pinch.centroid.position
         pinch.lastScale = 1
+        isPinched = true
         if (!isGivenUp)
             pinchBegan()
     }
@@ -197,6 +201,7 @@ Item {
         if (!isGivenUp)
             pinchEnded()
         isGivenUp = true
+        Qt.callLater(() => isPinched = false)
     }
     WheelHandler {
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad

@@ -7,8 +7,9 @@ import Drevon.Zalento.Viewer 1.0
 Button {
     id: key
 
-    property string hint: action ? action.hint : text
-    readonly property string keyText: action ? action.keyText : ""
+    readonly property Command command: action as Command
+    property string hint: command ? command.hint : text
+    readonly property string keyText: command ? command.keyText : ""
     // What to press next: outlined.
     property bool emphasized: false
     // Chosen of a few, or on: filled. A press does not change it: what is shown does.

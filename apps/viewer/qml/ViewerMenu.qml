@@ -15,6 +15,7 @@ Menu {
         currentIndex: menu.currentIndex
     }
     background: Rectangle {
+        implicitWidth: 240
         radius: Theme.radius
         color: Theme.panel
         border { width: 1; color: Theme.line }

@@ -48,6 +48,8 @@ Rectangle {
         Repeater {
             model: panel.wall.points
             PointHandle {
+                required property point modelData
+                required property int index
                 x: modelData.x * panel.viewScale
                 y: modelData.y * panel.viewScale
                 number: index + 1
@@ -57,6 +59,8 @@ Rectangle {
     Repeater {
         model: flat.visible && !panel.wall.isPlane ? [12, 3, 6, 9, 12] : []
         Text {
+            required property int modelData
+            required property int index
             x: flat.x + flat.width * index / 4 - width / 2
             y: panel.margin - height - 6
             text: modelData

@@ -1372,6 +1372,9 @@
         <source>File name</source>
         <translation>Dateiname</translation>
     </message>
+</context>
+<context>
+    <name>FileRow</name>
     <message>
         <source>folder</source>
         <translation>Ordner</translation>

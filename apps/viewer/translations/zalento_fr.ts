@@ -1372,6 +1372,9 @@
         <source>File name</source>
         <translation>Nom du fichier</translation>
     </message>
+</context>
+<context>
+    <name>FileRow</name>
     <message>
         <source>folder</source>
         <translation>dossier</translation>
