@@ -63,7 +63,7 @@ ViewerDialog {
         close()
         run(isSaving ? [target] : chosen)
     }
-    function enter(item) {
+    function takeRow(item) {
         const row = item as FileRow
         if (row.fileIsDir || isSaving) {
             row.clicked()
@@ -120,8 +120,8 @@ ViewerDialog {
             Accessible.name: qsTr("Files")
             onActiveFocusChanged: if (activeFocus && currentIndex < 0) currentIndex = 0
             Keys.onSpacePressed: if (currentItem) (currentItem as FileRow).clicked()
-            Keys.onReturnPressed: if (currentItem) picker.enter(currentItem)
-            Keys.onEnterPressed: if (currentItem) picker.enter(currentItem)
+            Keys.onReturnPressed: if (currentItem) picker.takeRow(currentItem)
+            Keys.onEnterPressed: if (currentItem) picker.takeRow(currentItem)
             ScrollBar.vertical: ViewerScrollBar {}
             delegate: FileRow {
                 objectName: "file." + fileName
@@ -130,7 +130,7 @@ ViewerDialog {
                 isAimedAt: rows.activeFocus && ListView.isCurrentItem
                 onClicked: fileIsDir ? picker.folder = filePath
                                      : picker.toggle(filePath)
-                onDoubleClicked: if (!fileIsDir) picker.enter(this)
+                onDoubleClicked: if (!fileIsDir) picker.takeRow(this)
             }
             Text {
                 anchors.centerIn: parent
