@@ -26,7 +26,11 @@ Column {
             Text {
                 anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
                 visible: !limit.text && !limit.activeFocus
-                text: qsTr("Limit: < 2 mm")
+                readonly property var examples: ({
+                    "CrackWidth": "< 2 mm", "PipeDimension": "> 290 mm", "WaterLevel": "< 30 %",
+                    "BranchAngle": "> 45°", "BendAngle": "< 15°", "CrossSection": "> 600 cm²"
+                })
+                text: qsTr("Limit: %1").arg(examples[Viewer.editor.kind])
                 width: parent.width - 20
                 elide: Text.ElideRight
                 color: Theme.quiet

@@ -168,28 +168,6 @@ FocusScope {
                 root.fields.endDrag()
                 value = Qt.binding(() => root.value)
             }
-            background: Rectangle {
-                y: (slider.height - height) / 2
-                width: slider.width
-                height: 6
-                radius: 3
-                color: Theme.control
-                Rectangle {
-                    width: slider.visualPosition * parent.width
-                    height: parent.height
-                    radius: 3
-                    color: Theme.accent
-                }
-            }
-            handle: Rectangle {
-                x: slider.visualPosition * (slider.width - width)
-                y: (slider.height - height) / 2
-                width: 26
-                height: 26
-                radius: 13
-                color: slider.pressed ? Theme.accent : Theme.text
-                border { width: slider.visualFocus ? 3 : 0; color: Theme.accent }
-            }
         }
     }
 }

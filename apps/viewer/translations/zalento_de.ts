@@ -107,12 +107,12 @@
 <context>
     <name>AssessmentPanel</name>
     <message>
-        <source>Limit: &lt; 2 mm</source>
-        <translation>Grenze: &lt; 2 mm</translation>
-    </message>
-    <message>
         <source>Limit</source>
         <translation>Grenze</translation>
+    </message>
+    <message>
+        <source>Limit: %1</source>
+        <translation>Grenze: %1</translation>
     </message>
 </context>
 <context>

@@ -107,12 +107,12 @@
 <context>
     <name>AssessmentPanel</name>
     <message>
-        <source>Limit: &lt; 2 mm</source>
-        <translation>Limite : &lt; 2 mm</translation>
-    </message>
-    <message>
         <source>Limit</source>
         <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Limit: %1</source>
+        <translation>Limite : %1</translation>
     </message>
 </context>
 <context>

@@ -100,6 +100,31 @@ public:
         return unfit;
     }
 
+    /** What screen readers are told of without a name, and visible controls that they are not. */
+    QStringList untoldItems() const
+    {
+        QStringList untold;
+        QVector<QAccessibleInterface *> told{QAccessible::queryAccessibleInterface(window())};
+        for (int i = 0; i < told.size(); ++i) {
+            for (int child = 0; child < told[i]->childCount(); ++child) {
+                told.append(told[i]->child(child));
+            }
+            const bool holdsOthers =
+                told[i]->role() == QAccessible::Window || told[i]->role() == QAccessible::Client;
+            if (!holdsOthers && !told[i]->state().invisible &&
+                told[i]->text(QAccessible::Name).isEmpty()) {
+                untold += told[i]->object()->objectName();
+            }
+        }
+        for (QQuickItem *item : visibleControls()) {
+            auto *accessible = QAccessible::queryAccessibleInterface(item);
+            if (!told.contains(accessible) || accessible->role() == QAccessible::Client) {
+                untold += item->objectName();
+            }
+        }
+        return untold;
+    }
+
     /** A copy of a sample in the folder. */
     QString copySample(const QString &name, const QString &copyName = {}) const
     {
