@@ -20,7 +20,8 @@ namespace {
 
 // Of paper, in millimetres.
 constexpr double largestPictureHeightMM = 110.0;
-constexpr QSizeF sectionMM(78.0, 83.0);
+constexpr QSizeF onlySectionMM(78.0, 83.0);
+constexpr QSizeF sectionMM(52.0, 61.0); ///< of several, two of which stand side by side
 
 /** Notices a full disk: it takes a part of what is written, after which the writer of PDF stops
     without a word. */
@@ -105,16 +106,21 @@ QString noteOn(const ReportPicture &picture, const Result<Picture> &loaded)
 
 QVector<ReportDrawing> sectionsOf(const ReportPicture &picture)
 {
-    QVector<ReportDrawing> drawings;
+    QVector<const ReportMeasurement *> modelled;
     for (const ReportMeasurement &measurement : picture.measurements) {
-        if (!measurement.session || !infoOf(measurement.session->kind).has(Uses::Model)) {
-            continue;
+        if (measurement.session && infoOf(measurement.session->kind).has(Uses::Model)) {
+            modelled.append(&measurement);
         }
-        const bool isMeasured = measurement.values.status == Status::Measured;
-        const auto paint = [&measurement, isMeasured](QPainter &painter, const QRectF &box) {
-            paintSection(painter, box, reportDotsPerMM, *measurement.session, isMeasured);
+    }
+    const bool isOnly = modelled.size() == 1;
+    QVector<ReportDrawing> drawings;
+    for (const ReportMeasurement *measurement : modelled) {
+        const auto paint = [measurement, isOnly](QPainter &painter, const QRectF &box) {
+            paintSection(painter, box, reportDotsPerMM, *measurement->session,
+                         measurement->values.status == Status::Measured,
+                         isOnly ? QString() : measurement->session->name);
         };
-        drawings.append({sectionMM, paint});
+        drawings.append({isOnly ? onlySectionMM : sectionMM, paint});
     }
     return drawings;
 }

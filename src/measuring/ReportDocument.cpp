@@ -12,6 +12,7 @@ namespace Drevon::Zalento::Measuring {
 namespace {
 
 constexpr double gapMM = 3.0; ///< between a text and what stands beside it
+constexpr int drawingsPerRow = 2;
 
 } // namespace
 
@@ -66,9 +67,9 @@ void ReportDocument::addBeside(const QString &html, const QVector<ReportDrawing>
         add(html);
         return;
     }
-    double widthMM = 0.0;
-    for (const ReportDrawing &drawing : drawings) {
-        widthMM = std::max(widthMM, drawing.sizeMM.width() + gapMM);
+    double widthMM = gapMM;
+    for (const ReportDrawing &drawing : drawings.mid(0, drawingsPerRow)) {
+        widthMM += drawing.sizeMM.width();
     }
     const double percent = 100 * widthMM * reportDotsPerMM / m_pages.size().width();
     QTextTableFormat format;

@@ -42,11 +42,13 @@ const QColor water(120, 180, 230);
 class SectionPainter
 {
 public:
-    SectionPainter(QPainter &painter, const QRectF &box, double unitsPerMM, const Session &session)
+    SectionPainter(QPainter &painter, const QRectF &box, double unitsPerMM, const Session &session,
+                   const QString &name)
         : m_painter(painter)
         , m_session(session)
+        , m_name(name)
         , m_unit(unitsPerMM)
-        , m_area(box.adjusted(0, 0, 0, -captionMM * unitsPerMM))
+        , m_area(box.adjusted(0, 0, 0, -(name.isEmpty() ? 1 : 2) * captionMM * unitsPerMM))
         , m_caption(m_area.bottomLeft(), box.bottomRight())
         , m_centre(m_area.center())
     {
@@ -71,9 +73,10 @@ public:
             paintPoints();
         }
         m_painter.setPen(ink);
-        m_painter.drawText(
-            m_caption, Qt::AlignCenter,
-            Text::tr("Scale 1 : %1, diameter %2 mm").arg(m_ratio).arg(m_session.diameterMM));
+        const QString scale =
+            Text::tr("Scale 1 : %1, diameter %2 mm").arg(m_ratio).arg(m_session.diameterMM);
+        m_painter.drawText(m_caption, Qt::AlignCenter,
+                           m_name.isEmpty() ? scale : m_name + QLatin1Char('\n') + scale);
     }
 
 private:
@@ -182,6 +185,7 @@ private:
 
     QPainter &m_painter;
     const Session &m_session;
+    const QString m_name;
     const double m_unit;
     const QRectF m_area;
     const QRectF m_caption;
@@ -193,10 +197,10 @@ private:
 } // namespace
 
 void paintSection(QPainter &painter, const QRectF &box, double unitsPerMM, const Session &session,
-                  bool isMeasured)
+                  bool isMeasured, const QString &name)
 {
     painter.save();
-    SectionPainter(painter, box, unitsPerMM, session).paint(isMeasured);
+    SectionPainter(painter, box, unitsPerMM, session, name).paint(isMeasured);
     painter.restore();
 }
 

@@ -14,8 +14,9 @@ namespace Drevon::Zalento::Measuring {
  * @param box in the painter's units, @p unitsPerMM of them a millimetre of paper
  * @param session of a kind that lays a pipe over the picture
  * @param isMeasured else nobody has set what the session says, and the wall stands alone
+ * @param name stands below, too, where it is not empty
  */
 void paintSection(QPainter &painter, const QRectF &box, double unitsPerMM, const Session &session,
-                  bool isMeasured);
+                  bool isMeasured, const QString &name);
 
 } // namespace Drevon::Zalento::Measuring
