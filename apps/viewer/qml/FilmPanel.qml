@@ -19,6 +19,8 @@ Popup {
     focus: true
     padding: 0
     closePolicy: Popup.CloseOnEscape
+    // The item that holds it is what screen readers are told of, and has no name.
+    onAboutToShow: contentItem.parent.Accessible.name = qsTr("Film")
     onOpened: picture.forceActiveFocus()
     onClosed: {
         film.isShown = false

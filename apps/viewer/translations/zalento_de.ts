@@ -1438,6 +1438,10 @@
         <source>Back to the pictures</source>
         <translation>Zurück zu den Bildern</translation>
     </message>
+    <message>
+        <source>Film</source>
+        <translation>Film</translation>
+    </message>
 </context>
 <context>
     <name>KeyList</name>
