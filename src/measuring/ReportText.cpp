@@ -187,11 +187,13 @@ QString repeatsHtml(const PictureValues &measured)
     return html;
 }
 
-// What the session's fields are called for people, in the order of AlignmentField.
-std::array<QString, alignmentFieldCount> fieldNames()
+// For people.
+QString fieldName(AlignmentField field)
 {
-    return {Text::tr("Offset"),        Text::tr("Camera height, %"), Text::tr("Far end, left"),
-            Text::tr("Far end, down"), Text::tr("Mouth, %"),         Text::tr("Field of view, °")};
+    const std::array<QString, alignmentFieldCount> names{
+        Text::tr("Offset"),        Text::tr("Camera height, %"), Text::tr("Far end, left"),
+        Text::tr("Far end, down"), Text::tr("Mouth, %"),         Text::tr("Field of view, °")};
+    return names[static_cast<std::size_t>(field)];
 }
 
 QString fieldText(const AlignmentSummary &alignment, std::size_t index)
@@ -214,12 +216,11 @@ QString alignmentHtml(const PictureValues &measured)
         return {};
     }
     QString rows;
-    const auto names = fieldNames();
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        rows += namedRow(names[i], fieldText(*alignment, i));
+    for (std::size_t i = 0; i < alignmentFieldCount; ++i) {
+        rows += namedRow(fieldName(static_cast<AlignmentField>(i)), fieldText(*alignment, i));
     }
     return title(Text::tr("Alignment")) +
-           QStringLiteral("<p>%1</p>").arg(fitText(*alignment).toHtmlEscaped()) +
+           QStringLiteral("<p>%1</p>").arg(fitText(*alignment, fieldName).toHtmlEscaped()) +
            QString(plain).arg(rows);
 }
 

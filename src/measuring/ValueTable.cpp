@@ -314,14 +314,14 @@ QVector<PictureValues> allPictureValues(const QString &picture, const Session &s
     return all;
 }
 
-QString fitText(const AlignmentSummary &summary)
+QString fitText(const AlignmentSummary &summary, QString (*nameOf)(AlignmentField))
 {
     if (!summary.fit) {
         return Text::tr("not fitted");
     }
     QStringList left;
     for (const AlignmentField field : summary.fit->undetermined) {
-        left += alignmentFieldName(field);
+        left += nameOf(field);
     }
     const QString text = Text::tr("fitted to %1, rms %2 px, largest %3 px")
                              .arg(featuresText(summary))
@@ -329,7 +329,7 @@ QString fitText(const AlignmentSummary &summary)
                              .arg(summary.fit->largestPX, 0, 'f', 2);
     return left.isEmpty()
                ? text
-               : Text::tr("%1; not determined: %2").arg(text, left.join(QStringLiteral(", ")));
+               : Text::tr("%1; not determined: %2").arg(text, left.join(QStringLiteral("; ")));
 }
 
 QByteArray csvRecord(const QStringList &fields)

@@ -45,8 +45,12 @@ struct AlignmentSummary
 ZALENTO_MEASURING_EXPORT AlignmentSummary alignmentSummary(const Session &session,
                                                            const std::optional<AlignmentFit> &fit);
 
-/** What a fit says, in a line: "fitted to 2 joints, rms 0.8 px, largest 1.9 px". */
-ZALENTO_MEASURING_EXPORT QString fitText(const AlignmentSummary &alignment);
+/**
+ * What a fit says, in a line: "fitted to 2 joints, rms 0.8 px, largest 1.9 px".
+ * @param nameOf a field that it leaves as it was
+ */
+ZALENTO_MEASURING_EXPORT QString fitText(const AlignmentSummary &alignment,
+                                         QString (*nameOf)(AlignmentField) = alignmentFieldName);
 
 /** What came of looking for the edges of joints. */
 struct SnapSummary
