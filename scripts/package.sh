@@ -58,9 +58,9 @@ build_packages() {
 # The same source gives the same packages wherever it lies.
 build_again() {
     again=$(mktemp -d)
-    build_packages "$again/a folder with a longer name"
+    build_packages "$again/a-folder-with-a-longer-name"
     for package in "$packages"/*.deb; do
-        cmp "$package" "$again/a folder with a longer name/$(basename "$package")"
+        cmp "$package" "$again/a-folder-with-a-longer-name/$(basename "$package")"
     done
     rm -rf "$again"
     echo "package.sh: built twice, the same packages"
