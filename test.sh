@@ -8,11 +8,12 @@ usage() {
 Usage: ./test.sh [--quick] [--qt VERSION] [--target TARGET] [--help]
 
 Installs what is missing, builds everything, and runs every test: as developers build it (dev), then
-with checks for memory errors and undefined behaviour (asan), then with checks for data races (tsan).
-Ends with CTest's own summaries, that of dev last. Fails when a step or a test fails.
+the same with Qt 6 (dev-qt6), then with checks for memory errors and undefined behaviour (asan), then
+with checks for data races (tsan). Ends with CTest's own summaries, that of dev last. Fails when a step
+or a test fails.
 
-  --quick           the first of the three only
-  --qt VERSION      5 or 6: with that version of Qt only, as developers build it
+  --quick           the first of the four only
+  --qt VERSION      5 or 6: the one of the first two with that version of Qt
   --target TARGET   armhf or arm64: cross-build, and run the unit tests and the command-line program in
                     an emulator. Makes build/sysroot-TARGET once, from this machine's package mirror.
   --help            this text
@@ -67,42 +68,56 @@ stage() {
     printf '\n==> %s\n' "$*"
 }
 
-# run_stage <preset> <title>: configures, builds and tests; keeps CTest's closing lines for the end.
+title_of() {
+    case $1 in
+        dev) echo "Development build" ;;
+        dev-qt6) echo "Development build with Qt 6" ;;
+        asan) echo "Memory and undefined behaviour" ;;
+        tsan) echo "Data races" ;;
+        *) echo "Cross-built for $1, emulated" ;;
+    esac
+}
+
+# run_stage <preset>: configures, builds and tests; keeps CTest's closing lines for the end.
 run_stage() {
-    stage "$2: build"
+    title=$(title_of "$1")
+    stage "$title: build"
     configure "$1"
     build "$1"
-    stage "$2: tests"
+    stage "$title: tests"
     if [ "$1" = tsan ] && ctest --preset tsan -N | grep -q '^Total Tests: 0$'; then
         echo "No test is labelled tsan."
         return
     fi
     ctest --preset "$1" --parallel "$(job_count)" --output-log "build/$1/tests.log"
     summaries="
-$2:
+$title:
 $(sed -n '/% tests passed,/,$p' "build/$1/tests.log")
 $summaries"
 }
 
 summaries=
-stage "Packages"
+presets="dev dev-qt6 asan tsan"
+[ "$quick" = no ] || presets=dev
+case $qt in
+    5) presets=dev ;;
+    6) presets=dev-qt6 ;;
+esac
+[ -z "$target" ] || presets=$target
 sets="build test"
-[ "$qt" != 6 ] || sets="$sets qt6"
-scripts/setup.sh $sets ${target:+"$target"}
+case $presets in
+    *qt6*) sets="$sets qt6" ;;
+esac
 
+stage "Packages"
+scripts/setup.sh $sets ${target:+"$target"}
+[ -z "$target" ] || scripts/make-sysroot.sh "$target"
+for preset in $presets; do
+    run_stage "$preset"
+done
 if [ -n "$target" ]; then
-    scripts/make-sysroot.sh "$target"
-    run_stage "$target" "Cross-built for $target, emulated"
     stage "Measured values of the samples: this machine and $target"
     scripts/compare-values.sh release "$target"
-elif [ "$qt" = 6 ]; then
-    run_stage dev-qt6 "Development build with Qt 6"
-else
-    run_stage dev "Development build"
-    if [ "$quick" = no ] && [ -z "$qt" ]; then
-        run_stage asan "Memory and undefined behaviour"
-        run_stage tsan "Data races"
-    fi
 fi
 
 stage "All passed in $((SECONDS / 60)) min $((SECONDS % 60)) s"

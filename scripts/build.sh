@@ -18,6 +18,9 @@ configure() {
         [ -n "$(find CMakePresets.json cmake/toolchains -newer "$stamp")" ]; then
         rm -f "$stamp"
         mkdir -p "build/$1"
+        if command -v ccache >/dev/null; then
+            export CMAKE_CXX_COMPILER_LAUNCHER="${CMAKE_CXX_COMPILER_LAUNCHER-ccache}"
+        fi
         if ! cmake --fresh --preset "$1" >"build/$1/configure.log" 2>&1; then
             cat "build/$1/configure.log" >&2
             return 1
@@ -35,7 +38,3 @@ build() {
     # shellcheck disable=SC2086  # an empty option must vanish
     cmake --build --preset "$preset" --parallel "$(job_count)" ${1:+--target "$@"} -- $quiet
 }
-
-if command -v ccache >/dev/null; then
-    export CMAKE_CXX_COMPILER_LAUNCHER="${CMAKE_CXX_COMPILER_LAUNCHER-ccache}"
-fi
