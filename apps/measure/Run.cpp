@@ -241,10 +241,13 @@ void measureAll(const CommandLine &command, const std::optional<Session> &sessio
     const int count = countOf(requests);
     OrderedJobs jobs(command.jobs);
     Batch batch(command, session, jobs);
-    std::vector<std::shared_ptr<Batch::Work>> works(requests.size());
-    const auto measure = [&](int number) { works[number] = batch.measure(requests[number]); };
+    std::vector<std::shared_ptr<Batch::Work>> works(static_cast<std::size_t>(count));
+    const auto workOf = [&works](int number) -> std::shared_ptr<Batch::Work> & {
+        return works[static_cast<std::size_t>(number)];
+    };
+    const auto measure = [&](int number) { workOf(number) = batch.measure(requests[number]); };
     const auto finish = [&](int number) {
-        PictureResult result = batch.finish(std::move(works[number]));
+        PictureResult result = batch.finish(std::move(workOf(number)));
         tell(result, isRender, console);
         take(std::move(result), number);
         console.showProgress(number + 1, count);

@@ -179,7 +179,7 @@ bool isPictureToMeasure(const QString &path)
 bool isBefore(const QString &name, const QString &other)
 {
     thread_local const QCollator collator = [] {
-        QCollator natural(QLocale(QLocale::English));
+        QCollator natural{QLocale(QLocale::English)};
         natural.setNumericMode(true);
         natural.setCaseSensitivity(Qt::CaseInsensitive);
         return natural;

@@ -21,8 +21,6 @@ namespace {
 
 constexpr double mmPerM = 1000.0;
 constexpr double fractionPerPercent = 0.01;
-// A clock angle of 0 points to the top.
-constexpr double clockZeroDEG = 90.0;
 
 // Of paper, in millimetres.
 constexpr double rimMM = 8.0; ///< around the wall, for hours and branches

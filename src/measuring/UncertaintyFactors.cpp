@@ -25,8 +25,6 @@ constexpr double step = 1e-3;
 
 constexpr auto fieldCount = static_cast<Eigen::Index>(alignmentFieldCount);
 constexpr auto fov = static_cast<Eigen::Index>(AlignmentField::FovYDEG);
-constexpr auto rearX = static_cast<Eigen::Index>(AlignmentField::RearCircleX);
-constexpr auto rearY = static_cast<Eigen::Index>(AlignmentField::RearCircleY);
 
 using Fields = Eigen::Matrix<double, fieldCount, 1>;
 using FieldMatrix = Eigen::Matrix<double, fieldCount, fieldCount>;

@@ -5,7 +5,6 @@
 #include "zalento/geometry/Cylinder.h"
 
 #include <cmath>
-#include <limits>
 #include <optional>
 #include <random>
 
@@ -13,9 +12,6 @@ using namespace Drevon::Zalento;
 using namespace Drevon::Zalento::Test;
 
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 /** Half a unit in the last place of a single-precision number near 1. */
 constexpr double singleRounding = 0x1p-24;

@@ -27,7 +27,6 @@ namespace {
 
 using Record = QSharedPointer<Database::CDomainObject>;
 
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr int unknownView = 7;
 

@@ -2,7 +2,6 @@
 #include "support/Tolerances.h"
 
 #include <cmath>
-#include <limits>
 #include <random>
 #include <stdexcept>
 
@@ -11,8 +10,6 @@ using namespace Drevon::Zalento::Test;
 
 namespace {
 
-const double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double infinity = std::numeric_limits<double>::infinity();
 const double radians = 0.017453292519943295; // in a degree
 
 class RandomValues

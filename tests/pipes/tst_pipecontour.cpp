@@ -7,14 +7,12 @@
 #include <QTest>
 
 #include <cmath>
-#include <limits>
 
 using namespace Drevon::Zalento;
 using namespace Drevon::Zalento::Test;
 
 namespace {
 
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double degree = M_PI / 180;
 
 class Contour : public Pipe

@@ -19,8 +19,6 @@ using namespace Drevon::Zalento::Test;
 
 namespace {
 
-// A truth is written with seven decimals.
-constexpr Tolerance writtenTolerance{1e-6, ""};
 QByteArray contents(const QString &file)
 {
     QFile source(file);
