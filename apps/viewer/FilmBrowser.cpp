@@ -25,7 +25,9 @@ FilmBrowser::FilmBrowser(DocumentList &documents, Preferences &preferences, Guid
     , m_preferences(preferences)
     , m_guidance(guidance)
 {
-    connect(&documents, &DocumentList::filmOpened, this, &FilmBrowser::open);
+    connect(&documents, &DocumentList::filmOpened, this, [this](const auto &path) { open(path); });
+    connect(&documents, &DocumentList::currentChanged, this, &FilmBrowser::isAvailableChanged);
+    connect(this, &FilmBrowser::filmChanged, this, &FilmBrowser::isAvailableChanged);
     m_reader.moveToThread(&m_thread);
     m_thread.start();
 }
@@ -60,19 +62,36 @@ QString FilmBrowser::source() const
 
 // Opening
 
-void FilmBrowser::open(const QString &path)
+std::optional<Measuring::FilmFrame> FilmBrowser::filmOfPicture() const
+{
+    const Document *document = m_documents.current();
+    return document && document->session ? document->session->film : std::nullopt;
+}
+
+void FilmBrowser::goBack()
+{
+    const auto film = filmOfPicture();
+    if (film && QFileInfo(film->path) != QFileInfo(m_path)) {
+        open(film->path, film->number);
+    } else {
+        setIsShown(true);
+    }
+}
+
+void FilmBrowser::open(const QString &path, int frame)
 {
     m_guidance.notice(Guidance::Information, tr("Reading %1…").arg(shortName(path)));
-    QMetaObject::invokeMethod(&m_reader, [this, path] {
+    QMetaObject::invokeMethod(&m_reader, [this, path, frame] {
         auto read = Measuring::Film::open(path);
         const auto film = read ? std::make_shared<Measuring::Film>(std::move(*read)) : nullptr;
         const QString problem = read ? QString() : read.problem().text();
-        QMetaObject::invokeMethod(
-            this, [=] { film ? opened(path, film) : m_guidance.notice(Guidance::Error, problem); });
+        QMetaObject::invokeMethod(this, [=] {
+            film ? opened(path, film, frame) : m_guidance.notice(Guidance::Error, problem);
+        });
     });
 }
 
-void FilmBrowser::opened(const QString &path, const Film &film)
+void FilmBrowser::opened(const QString &path, const Film &film, int frame)
 {
     m_guidance.clearNotice();
     m_preferences.addRecentFile(path);
@@ -83,7 +102,7 @@ void FilmBrowser::opened(const QString &path, const Film &film)
     m_wanted.reset();
     Q_EMIT filmChanged();
     setIsShown(true);
-    show(0);
+    show(frame);
 }
 
 // Showing
@@ -140,32 +159,45 @@ QString FilmBrowser::take(const QString &counter)
         return counterM.problem().text();
     }
     const QString path = Measuring::framePathOf(m_frame.path, m_frame.seconds);
-    if (!QFileInfo::exists(path)) {
-        if (const Measuring::Outcome problem = writePicture(path, *counterM)) {
-            return problem->text();
-        }
+    if (const auto problem = writePicture(path)) {
+        return problem->text();
+    }
+    if (const auto problem = writeSession(path, *counterM)) {
+        return problem->text();
     }
     setIsShown(false);
     m_documents.openPaths({path});
     return {};
 }
 
-// The session is saved at once: nothing else knows where the picture is from.
-Measuring::Outcome FilmBrowser::writePicture(const QString &path,
+Measuring::Outcome FilmBrowser::writePicture(const QString &path) const
+{
+    return QFileInfo::exists(path) ? std::nullopt
+                                   : Measuring::writeFile(path, Measuring::pngBytes(m_image),
+                                                          Measuring::Overwrite::Refuse);
+}
+
+// It is saved at once: nothing else knows where the picture is from. One that is there may be under
+// way, and stays as it is.
+Measuring::Outcome FilmBrowser::writeSession(const QString &picturePath,
                                              std::optional<double> counterM) const
 {
-    const auto refuse = Measuring::Overwrite::Refuse;
-    if (const auto problem = Measuring::writeFile(path, Measuring::pngBytes(m_image), refuse)) {
-        return problem;
+    const QString path = Measuring::sessionPathOf(picturePath);
+    if (QFileInfo::exists(path)) {
+        return counterM
+                   ? Measuring::Problem{{},
+                                        tr("This frame is a picture already: leave the counter "
+                                           "empty, and change it there.")}
+                   : Measuring::Outcome();
     }
-    const auto picture = Measuring::loadPicture(path);
+    const auto picture = Measuring::loadPicture(picturePath);
     if (!picture) {
         return picture.problem();
     }
     Measuring::Session session = m_documents.newSession(picture->identity);
     session.film = m_frame;
     session.counterM = counterM;
-    return Measuring::saveSession(session, Measuring::sessionPathOf(path), refuse);
+    return Measuring::saveSession(session, path, Measuring::Overwrite::Refuse);
 }
 
 } // namespace Drevon::Zalento

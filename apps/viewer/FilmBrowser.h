@@ -25,8 +25,8 @@ class FilmBrowser : public QObject
 {
     Q_OBJECT
 
-    /** A film can be looked at. */
-    Q_PROPERTY(bool isOpen READ isOpen NOTIFY filmChanged)
+    /** There is a film to go back to: an open one, or the one that the picture on view is from. */
+    Q_PROPERTY(bool isAvailable READ isAvailable NOTIFY isAvailableChanged)
     Q_PROPERTY(QString name READ name NOTIFY filmChanged)
     Q_PROPERTY(int frameCount READ frameCount NOTIFY filmChanged)
     /** The film stands where the picture does. */
@@ -43,7 +43,7 @@ public:
     FilmBrowser(DocumentList &documents, Preferences &preferences, Guidance &guidance);
     ~FilmBrowser() override;
 
-    bool isOpen() const { return m_frameCount > 0; }
+    bool isAvailable() const { return isOpen() || filmOfPicture(); }
     QString name() const { return shortName(m_path); }
     int frameCount() const { return m_frameCount; }
     bool isShown() const { return m_isShown; }
@@ -56,7 +56,10 @@ public:
     /** Where the scene gets the frame from; belongs to the scene. */
     void setProvider(PictureProvider *provider) { m_provider = provider; }
 
-    void open(const QString &path);
+    /** @param frame that is shown first */
+    void open(const QString &path, int frame = 0);
+    /** Shows the film of the picture on view at its frame; an open one where it was. */
+    Q_INVOKABLE void goBack();
     /** Shows the frame of this number, or the nearest that there is. */
     void show(int number);
     /**
@@ -68,16 +71,21 @@ public:
 
 Q_SIGNALS:
     void filmChanged();
+    void isAvailableChanged();
     void isShownChanged();
     void frameChanged();
 
 private:
     using Film = std::shared_ptr<Measuring::Film>; // decodes in the thread alone
 
-    void opened(const QString &path, const Film &film);
+    bool isOpen() const { return m_frameCount > 0; }
+    std::optional<Measuring::FilmFrame> filmOfPicture() const;
+    void opened(const QString &path, const Film &film, int frame);
     void request(int number);
     void shown(const Measuring::FilmFrame &frame, const Measuring::Result<QImage> &image);
-    Measuring::Outcome writePicture(const QString &path, std::optional<double> counterM) const;
+    Measuring::Outcome writePicture(const QString &path) const;
+    Measuring::Outcome writeSession(const QString &picturePath,
+                                    std::optional<double> counterM) const;
 
     DocumentList &m_documents;
     Preferences &m_preferences;

@@ -32,6 +32,13 @@ constexpr qint64 pixelsPerMegapixel = 1000000;
 
 Problem failure(int error)
 {
+    if (error == AVERROR_STREAM_NOT_FOUND) {
+        return {{}, Text::tr("cannot be read as a film: it has no pictures")};
+    }
+    if (error == AVERROR_INVALIDDATA) {
+        return {{},
+                Text::tr("cannot be read as a film: it is damaged, incomplete or something else")};
+    }
     std::array<char, AV_ERROR_MAX_STRING_SIZE> text{};
     av_strerror(error, text.data(), text.size());
     return {{}, Text::tr("cannot be read as a film: %1").arg(QString::fromUtf8(text.data()))};

@@ -167,8 +167,8 @@ Item {
         text: qsTr("Film")
         hint: qsTr("The film, to measure another of its frames")
         shortcut: "T"
-        enabled: Viewer.film.isOpen
-        onTriggered: Viewer.film.isShown = true
+        enabled: Viewer.film.isAvailable
+        onTriggered: Viewer.film.goBack()
     }
     readonly property Command unit: Command {
         text: Viewer.editor.isImperial ? qsTr("in") : qsTr("mm")

@@ -28,12 +28,19 @@ Popup {
     }
 
     function step(frames) { film.frame = line.value + frames }
-    function take() { problem = film.take(counter.text) }
+    function take() {
+        problem = film.take(counter.text)
+        if (!problem)
+            counter.text = ""
+    }
 
     Connections {
         target: panel.film
-        function onFrameChanged() { panel.problem = "" }
-        function onFilmChanged() { counter.text = "" }
+        // What was typed belongs to the frame that it was read from.
+        function onFrameChanged() {
+            panel.problem = ""
+            counter.text = ""
+        }
         function onIsShownChanged() { panel.film.isShown ? panel.open() : panel.close() }
     }
     background: Rectangle { color: "black" }

@@ -902,6 +902,10 @@
         <source>Reading %1…</source>
         <translation>%1 wird gelesen…</translation>
     </message>
+    <message>
+        <source>This frame is a picture already: leave the counter empty, and change it there.</source>
+        <translation>Dieses Einzelbild ist schon ein Bild: Den Zähler leer lassen und dort ändern.</translation>
+    </message>
 </context>
 <context>
     <name>Drevon::Zalento::Guidance</name>
@@ -2539,6 +2543,14 @@
     <message>
         <source>%1 is not measured on object %2</source>
         <translation>%1 wird nicht an Objekt %2 gemessen</translation>
+    </message>
+    <message>
+        <source>cannot be read as a film: it has no pictures</source>
+        <translation>lässt sich nicht als Film lesen: Er hat keine Bilder</translation>
+    </message>
+    <message>
+        <source>cannot be read as a film: it is damaged, incomplete or something else</source>
+        <translation>lässt sich nicht als Film lesen: Er ist beschädigt, unvollständig oder etwas anderes</translation>
     </message>
 </context>
 <context>

@@ -902,6 +902,10 @@
         <source>Reading %1…</source>
         <translation>Lecture de %1…</translation>
     </message>
+    <message>
+        <source>This frame is a picture already: leave the counter empty, and change it there.</source>
+        <translation>Cette image est déjà enregistrée : laissez le compteur vide et changez-le là-bas.</translation>
+    </message>
 </context>
 <context>
     <name>Drevon::Zalento::Guidance</name>
@@ -2539,6 +2543,14 @@
     <message>
         <source>%1 is not measured on object %2</source>
         <translation>%1 ne se mesure pas sur l’objet %2</translation>
+    </message>
+    <message>
+        <source>cannot be read as a film: it has no pictures</source>
+        <translation>n’est pas lisible comme film : il n’a pas d’images</translation>
+    </message>
+    <message>
+        <source>cannot be read as a film: it is damaged, incomplete or something else</source>
+        <translation>n’est pas lisible comme film : il est endommagé, incomplet ou autre chose</translation>
     </message>
 </context>
 <context>

@@ -1168,15 +1168,25 @@ void TestViewer::filmFramesAreMeasured()
     QCOMPARE(saved->film->path, film);
     QCOMPARE(saved->film->number, 26);
 
-    // The film goes on where it was; what is no film is told.
+    // The film goes on where it was, of a frame that is measured the session stays as it is.
     d.key(Qt::Key_T);
     d.waitForDialog("filmPanel");
     QCOMPARE(d.viewer.film()->frame(), 26);
-    d.key(Qt::Key_Escape);
-    QTRY_VERIFY(!d.viewer.film()->isShown());
+    d.type("filmCounter", "14");
+    QVERIFY(d.viewer.film()->isShown());
+    QCOMPARE(d.documents.current()->session->counterM.value(), 13.0);
+
+    // The next day the picture leads to its film; what is no film is told.
+    ViewerDriver nextDay(QSize(800, 480));
+    nextDay.documents.openPaths({d.documents.current()->picturePath});
+    nextDay.key(Qt::Key_T);
+    nextDay.waitForDialog("filmPanel");
+    QTRY_COMPARE(nextDay.viewer.film()->frame(), 26);
+    nextDay.key(Qt::Key_Escape);
+    QTRY_VERIFY(!nextDay.viewer.film()->isShown());
     writeTo(film, "no film");
-    d.documents.openPaths({film});
-    QTRY_COMPARE(d.guidance.level(), Guidance::Error);
+    nextDay.documents.openPaths({film});
+    QTRY_COMPARE(nextDay.guidance.level(), Guidance::Error);
 #else
     QSKIP("without ffmpeg there is no film");
 #endif
