@@ -10,8 +10,9 @@ install() {
     apt-get -q -o Dpkg::Use-Pty=0 install -y --no-install-recommends "$@"
 }
 
+# But for the settings of whom the viewer was run by, which are theirs.
 our_files() {
-    find / -xdev \( -path /proc -o -path /sys -o -path /packages -o -path /samples \) -prune \
+    find / -xdev \( -path /proc -o -path /sys -o -path /packages -o -path /samples -o -path /root \) -prune \
         -o \( -iname '*zalento*' -o -iname '*drevon*' \) -print
 }
 
